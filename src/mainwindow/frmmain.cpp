@@ -1,0 +1,495 @@
+#include "frmmain.h"
+
+#include "columnlayout.h"
+#include "desktop.h"
+#include "historycombobox.h"
+#include "language.h"
+#include "reportmodel.h"
+#include "settingskeys.h"
+#include "settingsstore.h"
+
+#include <QAction>
+#include <QApplication>
+#include <QCloseEvent>
+#include <QFrame>
+#include <QHBoxLayout>
+#include <QHeaderView>
+#include <QLabel>
+#include <QMenu>
+#include <QProgressBar>
+#include <QPushButton>
+#include <QSplitter>
+#include <QTabBar>
+#include <QTreeView>
+#include <QVBoxLayout>
+
+namespace {
+
+QTreeView* createReportList(QWidget* parent, const char* objectName, ReportModel* model)
+{
+    auto* view = new QTreeView(parent);
+    view->setObjectName(QLatin1String(objectName));
+    view->setModel(model);
+    view->setRootIsDecorated(false);
+    view->setItemsExpandable(false);
+    view->setUniformRowHeights(true);
+    view->setAllColumnsShowFocus(true);
+    view->setSelectionBehavior(QAbstractItemView::SelectRows);
+    view->setSelectionMode(QAbstractItemView::SingleSelection);
+    view->setEditTriggers(QAbstractItemView::NoEditTriggers);
+    QHeaderView* header = view->header();
+    // Every column keeps its own stored width, the last one included.
+    header->setStretchLastSection(false);
+    header->setSectionsClickable(true);
+    header->setSectionsMovable(true);
+    const auto columns = model->columns();
+    for (int column = 0; column < int(columns.size()); ++column)
+        header->resizeSection(column, columns[column].designWidth);
+    return view;
+}
+
+QPushButton* createButton(QWidget* parent, const char* objectName)
+{
+    auto* button = new QPushButton(parent);
+    button->setObjectName(QLatin1String(objectName));
+    button->setAutoDefault(false);
+    return button;
+}
+
+QLabel* createLabel(QWidget* parent, const char* objectName)
+{
+    auto* label = new QLabel(parent);
+    label->setObjectName(QLatin1String(objectName));
+    return label;
+}
+
+QAction* createAction(QMenu* menu, const char* objectName)
+{
+    auto* action = menu->addAction(QString());
+    action->setObjectName(QLatin1String(objectName));
+    return action;
+}
+
+int firstPaneSize(const QSplitter& splitter)
+{
+    const QList<int> sizes = splitter.sizes();
+    return sizes.isEmpty() ? 0 : sizes.first();
+}
+
+void setFirstPaneSize(QSplitter& splitter, int size)
+{
+    QList<int> sizes = splitter.sizes();
+    if (sizes.size() != 2)
+        return;
+    const int total = sizes[0] + sizes[1];
+    size = std::clamp(size, 0, total);
+    splitter.setSizes({size, total - size});
+}
+
+} // namespace
+
+FrmMain::FrmMain(SettingsStore& settings, Desktop& desktop, Language& language, QWidget* parent)
+    : QWidget(parent)
+    , m_settings(settings)
+    , m_desktop(desktop)
+    , m_language(language)
+{
+    setObjectName(QStringLiteral("frmMain"));
+    setMinimumSize(MinimumSize);
+    resize(DesignSize);
+    createControls();
+    createMenus();
+    layOutControls();
+    retranslateUi();
+    loadState();
+}
+
+FrmMain::~FrmMain() = default;
+
+void FrmMain::createControls()
+{
+    lblAbout = createLabel(this, "lblAbout");
+    lblAbout->setCursor(Qt::PointingHandCursor);
+    QFont titleFont = lblAbout->font();
+    titleFont.setBold(true);
+    titleFont.setPointSizeF(titleFont.pointSizeF() * 1.3);
+    lblAbout->setFont(titleFont);
+    lblAbout->installEventFilter(this);
+
+    tabSelect = new QTabBar(this);
+    tabSelect->setObjectName(QStringLiteral("tabSelect"));
+    tabSelect->addTab(QString());
+    tabSelect->addTab(QString());
+    tabSelect->setExpanding(false);
+
+    m_serverModel = new ReportModel(ListColumns::serverList(), this);
+    m_playerModel = new ReportModel(ListColumns::playerList(), this);
+    m_serverPlayersModel = new ReportModel(ListColumns::serverPlayers(), this);
+    m_serverRulesModel = new ReportModel(ListColumns::serverRules(), this);
+
+    rzrPSI = new QSplitter(Qt::Vertical, this);
+    rzrPSI->setObjectName(QStringLiteral("rzrPSI"));
+    rzrPSI->setChildrenCollapsible(false);
+    lstServerList = createReportList(rzrPSI, "lstServerList", m_serverModel);
+    rzrSPSI = new QSplitter(Qt::Horizontal, rzrPSI);
+    rzrSPSI->setObjectName(QStringLiteral("rzrSPSI"));
+    rzrSPSI->setChildrenCollapsible(false);
+    lvwPlayers = createReportList(rzrSPSI, "lvwPlayers", m_serverPlayersModel);
+    lvwServerInfo = createReportList(rzrSPSI, "lvwServerInfo", m_serverRulesModel);
+    rzrPSI->addWidget(lstServerList);
+    rzrPSI->addWidget(rzrSPSI);
+    rzrSPSI->addWidget(lvwPlayers);
+    rzrSPSI->addWidget(lvwServerInfo);
+    // The stored size is that of the first pane; it keeps it when the
+    // window grows or shrinks.
+    rzrPSI->setStretchFactor(0, 0);
+    rzrPSI->setStretchFactor(1, 1);
+    rzrSPSI->setStretchFactor(0, 0);
+    rzrSPSI->setStretchFactor(1, 1);
+    lstPlayerList = createReportList(this, "lstPlayerList", m_playerModel);
+
+    lblSName = createLabel(this, "lblSName");
+    mclSName = createLabel(this, "mclSName");
+
+    fraJoin = new QFrame(this);
+    fraJoin->setObjectName(QStringLiteral("fraJoin"));
+    fraJoin->setFrameShape(QFrame::StyledPanel);
+    lblPlayerName = createLabel(fraJoin, "lblPlayerName");
+    cmbPlayerName = new HistoryComboBox(fraJoin);
+    cmbPlayerName->setObjectName(QStringLiteral("cmbPlayerName"));
+    lblPlayerName->setBuddy(cmbPlayerName);
+    lblPassword = createLabel(fraJoin, "lblPassword");
+    cmbPassword = new HistoryComboBox(fraJoin);
+    cmbPassword->setObjectName(QStringLiteral("cmbPassword"));
+    lblPassword->setBuddy(cmbPassword);
+    lblPName = createLabel(fraJoin, "lblPName");
+    mclPName = createLabel(fraJoin, "mclPName");
+    cmdJoin = createButton(fraJoin, "cmdJoin");
+    cmdJoinIP = createButton(fraJoin, "cmdJoinIP");
+
+    cmbFind = new HistoryComboBox(this);
+    cmbFind->setObjectName(QStringLiteral("cmbFind"));
+    cmdFind = createButton(this, "cmdFind");
+    lblPlayers = createLabel(this, "lblPlayers");
+    lblServers = createLabel(this, "lblServers");
+    lblStatus = createLabel(this, "lblStatus");
+    prbProgress = new QProgressBar(this);
+    prbProgress->setObjectName(QStringLiteral("prbProgress"));
+    prbProgress->setRange(0, 1);
+    prbProgress->setValue(0);
+    prbProgress->setTextVisible(false);
+
+    fraQuery = new QFrame(this);
+    fraQuery->setObjectName(QStringLiteral("fraQuery"));
+    cmdGet = createButton(fraQuery, "cmdGet");
+    cmdFav = createButton(fraQuery, "cmdFav");
+    cmdCancel = createButton(fraQuery, "cmdCancel");
+    cmdCancel->setEnabled(false);
+    cmdOrganise = createButton(this, "cmdOrganise");
+    cmdFilters = createButton(this, "cmdFilters");
+    cmdOptions = createButton(this, "cmdOptions");
+    cmdExit = createButton(this, "cmdExit");
+
+    connect(cmdExit, &QPushButton::clicked, this, &QWidget::close);
+    connect(tabSelect, &QTabBar::currentChanged, this, &FrmMain::showView);
+    connect(rzrPSI, &QSplitter::splitterMoved, this, &FrmMain::saveSplitters);
+    connect(rzrSPSI, &QSplitter::splitterMoved, this, &FrmMain::saveSplitters);
+    connect(cmbPlayerName, &HistoryComboBox::enterPressed, this,
+            [this] { cmbPlayerName->remember(cmbPlayerName->currentText()); });
+    connect(cmbPassword, &HistoryComboBox::enterPressed, this,
+            [this] { cmbPassword->remember(cmbPassword->currentText()); });
+    connect(cmbFind, &HistoryComboBox::enterPressed, cmdFind, &QPushButton::click);
+    connect(cmdFind, &QPushButton::clicked, this, [this] { cmbFind->remember(cmbFind->currentText()); });
+}
+
+void FrmMain::createMenus()
+{
+    mPopupAlt = new QMenu(this);
+    mPopupAlt->setObjectName(QStringLiteral("mPopupAlt"));
+    mPopAdd = createAction(mPopupAlt, "mPopAdd");
+    mPopCopyCell = createAction(mPopupAlt, "mPopCopyCell");
+    mPopCopyColumn = createAction(mPopupAlt, "mPopCopyColumn");
+    mPopCopyRow = createAction(mPopupAlt, "mPopCopyRow");
+    mPopCopyAll = createAction(mPopupAlt, "mPopCopyAll");
+    mPopSelServer = createAction(mPopupAlt, "mPopSelServer");
+
+    mPopupAltPlayers = new QMenu(this);
+    mPopupAltPlayers->setObjectName(QStringLiteral("mPopupAltPlayers"));
+    mPopCopyCellP = createAction(mPopupAltPlayers, "mPopCopyCellP");
+    mPopCopyColumnP = createAction(mPopupAltPlayers, "mPopCopyColumnP");
+    mPopCopyRowP = createAction(mPopupAltPlayers, "mPopCopyRowP");
+    mPopCopyAllP = createAction(mPopupAltPlayers, "mPopCopyAllP");
+
+    mPopupAltServerInfo = new QMenu(this);
+    mPopupAltServerInfo->setObjectName(QStringLiteral("mPopupAltServerInfo"));
+    mPopCopyCellSI = createAction(mPopupAltServerInfo, "mPopCopyCellSI");
+    mPopCopyColumnSI = createAction(mPopupAltServerInfo, "mPopCopyColumnSI");
+    mPopCopyRowSI = createAction(mPopupAltServerInfo, "mPopCopyRowSI");
+    mPopCopyAllSI = createAction(mPopupAltServerInfo, "mPopCopyAllSI");
+}
+
+void FrmMain::layOutControls()
+{
+    auto* titleRow = new QHBoxLayout;
+    titleRow->addWidget(lblAbout);
+    titleRow->addStretch();
+
+    auto* views = new QVBoxLayout;
+    views->setSpacing(0);
+    views->addWidget(tabSelect);
+    views->addWidget(lstPlayerList, 1);
+    views->addWidget(rzrPSI, 1);
+
+    auto* serverNameRow = new QHBoxLayout;
+    serverNameRow->addWidget(lblSName);
+    serverNameRow->addWidget(mclSName, 1);
+
+    auto* joinLayout = new QGridLayout(fraJoin);
+    joinLayout->setContentsMargins(6, 6, 6, 6);
+    joinLayout->addWidget(lblPlayerName, 0, 0);
+    joinLayout->addWidget(cmbPlayerName, 0, 1);
+    joinLayout->addWidget(lblPassword, 0, 2);
+    joinLayout->addWidget(cmbPassword, 0, 3);
+    joinLayout->addWidget(cmdJoin, 0, 4);
+    joinLayout->addWidget(cmdJoinIP, 0, 5);
+    auto* playerNameRow = new QHBoxLayout;
+    playerNameRow->addWidget(lblPName);
+    playerNameRow->addWidget(mclPName, 1);
+    joinLayout->addLayout(playerNameRow, 1, 0, 1, 6);
+    joinLayout->setColumnStretch(1, 1);
+    joinLayout->setColumnStretch(3, 1);
+
+    auto* findRow = new QHBoxLayout;
+    findRow->addWidget(cmbFind, 1);
+    findRow->addWidget(cmdFind);
+    findRow->addSpacing(12);
+    findRow->addWidget(lblPlayers);
+    findRow->addSpacing(12);
+    findRow->addWidget(lblServers);
+
+    auto* statusRow = new QHBoxLayout;
+    statusRow->addWidget(lblStatus, 1);
+    statusRow->addWidget(prbProgress, 1);
+
+    auto* queryLayout = new QHBoxLayout(fraQuery);
+    queryLayout->setContentsMargins(0, 0, 0, 0);
+    queryLayout->addWidget(cmdGet);
+    queryLayout->addWidget(cmdFav);
+    queryLayout->addWidget(cmdCancel);
+    queryLayout->addStretch();
+
+    auto* buttonRow = new QHBoxLayout;
+    buttonRow->addWidget(fraQuery, 1);
+    buttonRow->addWidget(cmdExit);
+
+    auto* dialogRow = new QHBoxLayout;
+    dialogRow->addWidget(cmdOrganise);
+    dialogRow->addWidget(cmdFilters);
+    dialogRow->addWidget(cmdOptions);
+    dialogRow->addStretch();
+
+    auto* main = new QVBoxLayout(this);
+    main->addLayout(titleRow);
+    main->addLayout(views, 1);
+    main->addLayout(serverNameRow);
+    main->addWidget(fraJoin);
+    main->addLayout(findRow);
+    main->addLayout(statusRow);
+    main->addLayout(buttonRow);
+    main->addLayout(dialogRow);
+}
+
+void FrmMain::retranslateUi()
+{
+    setWindowTitle(tr("Quake 4 Vantage"));
+    lblAbout->setText(tr("Quake 4 Vantage"));
+    lblAbout->setToolTip(tr("About Quake 4 Vantage"));
+    tabSelect->setTabText(PlayersTab, tr("Players"));
+    tabSelect->setTabText(ServersTab, tr("Servers"));
+
+    cmdCancel->setText(tr("Cancel Query"));
+    cmdGet->setText(tr("Query Masters"));
+    cmdFav->setText(tr("Query Favourites"));
+    cmdOrganise->setText(tr("Favourites"));
+    cmdFilters->setText(tr("Filters"));
+    cmdOptions->setText(tr("Options"));
+    cmdExit->setText(tr("Exit"));
+    cmdJoin->setText(tr("Join"));
+    cmdJoinIP->setText(tr("Join IP"));
+    cmdFind->setText(tr("Find"));
+    lblPlayerName->setText(tr("Name:"));
+    lblPassword->setText(tr("Password:"));
+    cmbFind->setAccessibleName(tr("Find"));
+
+    lstServerList->setAccessibleName(tr("Servers"));
+    lstPlayerList->setAccessibleName(tr("Players"));
+    lvwPlayers->setAccessibleName(tr("Players of the selected server"));
+    lvwServerInfo->setAccessibleName(tr("Rules of the selected server"));
+
+    mPopAdd->setText(tr("&Add To Favourites"));
+    for (QAction* copyCell : {mPopCopyCell, mPopCopyCellP, mPopCopyCellSI})
+        copyCell->setText(tr("&Copy Cell"));
+    for (QAction* copyColumn : {mPopCopyColumn, mPopCopyColumnP, mPopCopyColumnSI})
+        copyColumn->setText(tr("&Copy Column"));
+    for (QAction* copyRow : {mPopCopyRow, mPopCopyRowP, mPopCopyRowSI})
+        copyRow->setText(tr("&Copy Row"));
+    for (QAction* copyAll : {mPopCopyAll, mPopCopyAllP, mPopCopyAllSI})
+        copyAll->setText(tr("&Copy All"));
+    mPopSelServer->setText(tr("&Select Server"));
+
+    for (ReportModel* model : {m_serverModel, m_playerModel, m_serverPlayersModel, m_serverRulesModel})
+        model->retranslate();
+}
+
+void FrmMain::loadState()
+{
+    cmbPlayerName->setEditText(m_settings.get(Keys::PlayerName));
+    cmbPassword->setEditText(m_settings.get(Keys::Password));
+
+    const int tab = m_settings.getNumber(Keys::Tab, Keys::Defaults::Tab) == PlayersTab ? PlayersTab : ServersTab;
+    if (tabSelect->currentIndex() == tab)
+        showView(tab);
+    else
+        tabSelect->setCurrentIndex(tab);
+
+    ColumnLayout::restore(m_settings, Keys::PlayerList.columns, *lstPlayerList->header());
+    ColumnLayout::restore(m_settings, Keys::ServerList.columns, *lstServerList->header());
+    ColumnLayout::restore(m_settings, Keys::ServerPlayers.columns, *lvwPlayers->header());
+    ColumnLayout::restore(m_settings, Keys::ServerRules.columns, *lvwServerInfo->header());
+
+    if (m_language.apply(m_settings.getNumber(Keys::Language, Keys::Defaults::Language)))
+        retranslateUi();
+
+    // Design time: first column, descending, so a first click sorts ascending.
+    m_serverSort = ColumnLayout::readSort(m_settings, Keys::ServerList.sort, ColumnLayout::SortState{});
+    m_playerSort = ColumnLayout::readSort(m_settings, Keys::PlayerList.sort, ColumnLayout::SortState{});
+
+    cmbFind->setEntries(m_settings.getEntries(Keys::FindBox));
+    cmbPlayerName->setEntries(m_settings.getEntries(Keys::PlayerNameBox));
+    cmbPassword->setEntries(m_settings.getEntries(Keys::PasswordBox));
+}
+
+void FrmMain::showView(int tab)
+{
+    const bool players = tab == PlayersTab;
+    lstPlayerList->setVisible(players);
+    rzrPSI->setVisible(!players);
+    rzrSPSI->setVisible(!players);
+    mPopSelServer->setVisible(players);
+    if (!players && m_initialSizeApplied)
+        restoreSplitters();
+}
+
+void FrmMain::restoreSplitters()
+{
+    setFirstPaneSize(*rzrSPSI, m_settings.getNumber(Keys::SplitterPanes, firstPaneSize(*rzrSPSI)));
+    setFirstPaneSize(*rzrPSI, m_settings.getNumber(Keys::SplitterServerList, firstPaneSize(*rzrPSI)));
+}
+
+void FrmMain::saveSplitters()
+{
+    m_settings.saveNumber(Keys::SplitterPanes, firstPaneSize(*rzrSPSI));
+    m_settings.saveNumber(Keys::SplitterServerList, firstPaneSize(*rzrPSI));
+}
+
+void FrmMain::applyInitialGeometry()
+{
+    m_initialSizeApplied = true;
+    m_resizeInProgress = true;
+    resize(m_settings.getNumber(Keys::WindowWidth, width()), m_settings.getNumber(Keys::WindowHeight, height()));
+    m_resizeInProgress = false;
+    // The panes get their stored sizes once the window is shown and laid
+    // out; before that the splitters have no real size to divide.
+    QMetaObject::invokeMethod(
+        this,
+        [this] {
+            if (tabSelect->currentIndex() == ServersTab)
+                restoreSplitters();
+        },
+        Qt::QueuedConnection);
+    if (m_settings.getTruth(Keys::Maximized, false))
+        setWindowState(windowState() | Qt::WindowMaximized);
+}
+
+void FrmMain::resizeEvent(QResizeEvent* event)
+{
+    QWidget::resizeEvent(event);
+    if (m_resizeInProgress)
+        return;
+    if (!m_initialSizeApplied) {
+        applyInitialGeometry();
+        return;
+    }
+    if (!(windowState() & (Qt::WindowMinimized | Qt::WindowMaximized | Qt::WindowFullScreen))) {
+        m_settings.saveNumber(Keys::WindowHeight, height());
+        m_settings.saveNumber(Keys::WindowWidth, width());
+    }
+}
+
+void FrmMain::changeEvent(QEvent* event)
+{
+    QWidget::changeEvent(event);
+    if (event->type() == QEvent::LanguageChange)
+        retranslateUi();
+}
+
+bool FrmMain::eventFilter(QObject* watched, QEvent* event)
+{
+    if (watched == lblAbout && event->type() == QEvent::MouseButtonRelease) {
+        showAbout();
+        return true;
+    }
+    return QWidget::eventFilter(watched, event);
+}
+
+void FrmMain::showAbout()
+{
+    m_desktop.message(this, Desktop::Icon::Information, tr("About Quake 4 Vantage"),
+                      tr("Quake 4 Vantage %1\nA server browser for Quake 4.").arg(QStringLiteral(Q4V_VERSION)),
+                      QMessageBox::Ok);
+}
+
+void FrmMain::emptyAllRecords()
+{
+    m_addresses.clear();
+    m_servers.clear();
+}
+
+void FrmMain::saveColumnOrders()
+{
+    ColumnLayout::saveOrder(m_settings, Keys::PlayerList.columns, *lstPlayerList->header());
+    ColumnLayout::saveOrder(m_settings, Keys::ServerList.columns, *lstServerList->header());
+    ColumnLayout::saveOrder(m_settings, Keys::ServerPlayers.columns, *lvwPlayers->header());
+    ColumnLayout::saveOrder(m_settings, Keys::ServerRules.columns, *lvwServerInfo->header());
+}
+
+void FrmMain::saveColumnWidths()
+{
+    ColumnLayout::saveWidths(m_settings, Keys::PlayerList.columns, *lstPlayerList->header());
+    ColumnLayout::saveWidths(m_settings, Keys::ServerList.columns, *lstServerList->header());
+    ColumnLayout::saveWidths(m_settings, Keys::ServerPlayers.columns, *lvwPlayers->header());
+    ColumnLayout::saveWidths(m_settings, Keys::ServerRules.columns, *lvwServerInfo->header());
+}
+
+void FrmMain::writeStateOnClose()
+{
+    for (QWidget* window : QApplication::topLevelWidgets()) {
+        if (window != this && window->isVisible())
+            window->close();
+    }
+    m_settings.saveTruth(Keys::Maximized, isMaximized());
+    m_settings.save(Keys::PlayerName, cmbPlayerName->currentText());
+    m_settings.save(Keys::Password, cmbPassword->currentText());
+    m_settings.saveNumber(Keys::Tab, tabSelect->currentIndex());
+    m_settings.saveEntries(Keys::FindBox, cmbFind->entries());
+    m_settings.saveEntries(Keys::PlayerNameBox, cmbPlayerName->entries());
+    m_settings.saveEntries(Keys::PasswordBox, cmbPassword->entries());
+    saveColumnOrders();
+    saveColumnWidths();
+}
+
+void FrmMain::closeEvent(QCloseEvent* event)
+{
+    writeStateOnClose();
+    event->accept();
+}

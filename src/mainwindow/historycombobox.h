@@ -1,0 +1,36 @@
+#pragma once
+
+#include <QComboBox>
+#include <QStringList>
+
+// An editable combo box that remembers entries the user confirmed with
+// Enter and forgets a picked entry on Delete, Backspace or DEL. "Picked"
+// means chosen from the list and not edited since, so Backspace while
+// typing only edits the text.
+class HistoryComboBox final : public QComboBox {
+    Q_OBJECT
+    Q_DISABLE_COPY_MOVE(HistoryComboBox)
+
+public:
+    explicit HistoryComboBox(QWidget* parent = nullptr);
+
+    QStringList entries() const;
+    // Replaces the remembered entries and keeps the text being edited.
+    void setEntries(const QStringList& entries);
+    // Appends the text unless an entry is exactly equal to it (case
+    // matters). Returns true when it was added.
+    bool remember(const QString& text);
+    // The entry picked from the list, or -1 once the text was edited.
+    int pickedIndex() const { return m_picked; }
+
+signals:
+    void enterPressed();
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+private:
+    void forgetPicked();
+
+    int m_picked = -1;
+};

@@ -1,0 +1,23 @@
+#pragma once
+
+#include <QString>
+
+#include <span>
+
+// The columns of the main window's four lists, in creation order: column
+// n of a list is the n in its per-column settings keys.
+struct ListColumn {
+    const char* caption; // English (UK) source text, translated in context "ListColumns"
+    int designWidth;     // pixels on a first start
+};
+
+namespace ListColumns {
+
+std::span<const ListColumn> serverList();
+std::span<const ListColumn> playerList();
+std::span<const ListColumn> serverPlayers();
+std::span<const ListColumn> serverRules();
+
+QString caption(const ListColumn& column);
+
+} // namespace ListColumns

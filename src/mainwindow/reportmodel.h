@@ -1,0 +1,26 @@
+#pragma once
+
+#include "listcolumns.h"
+
+#include <QAbstractTableModel>
+
+// Base of the report-style lists: fixed columns with translated captions.
+// The lists that show records derive from it and supply the rows.
+class ReportModel : public QAbstractTableModel {
+    Q_OBJECT
+
+public:
+    explicit ReportModel(std::span<const ListColumn> columns, QObject* parent = nullptr);
+
+    int rowCount(const QModelIndex& parent = {}) const override;
+    int columnCount(const QModelIndex& parent = {}) const override;
+    QVariant data(const QModelIndex& index, int role = Qt::DisplayRole) const override;
+    QVariant headerData(int section, Qt::Orientation orientation, int role = Qt::DisplayRole) const override;
+
+    std::span<const ListColumn> columns() const { return m_columns; }
+    // The captions follow the interface language.
+    void retranslate();
+
+private:
+    std::span<const ListColumn> m_columns;
+};

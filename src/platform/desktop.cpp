@@ -1,0 +1,54 @@
+#include "desktop.h"
+
+#include <QFileDialog>
+#include <QInputDialog>
+#include <QProcess>
+
+namespace {
+
+QMessageBox::Icon toQtIcon(Desktop::Icon icon)
+{
+    switch (icon) {
+    case Desktop::Icon::Information:
+        return QMessageBox::Information;
+    case Desktop::Icon::Warning:
+        return QMessageBox::Warning;
+    case Desktop::Icon::Critical:
+        return QMessageBox::Critical;
+    case Desktop::Icon::Question:
+        return QMessageBox::Question;
+    case Desktop::Icon::None:
+        break;
+    }
+    return QMessageBox::NoIcon;
+}
+
+} // namespace
+
+QMessageBox::StandardButton QtDesktop::message(QWidget* parent, Icon icon, const QString& title, const QString& text,
+                                               QMessageBox::StandardButtons buttons)
+{
+    QMessageBox box(toQtIcon(icon), title, text, buttons, parent);
+    const int result = box.exec();
+    return static_cast<QMessageBox::StandardButton>(result);
+}
+
+std::optional<QString> QtDesktop::inputText(QWidget* parent, const QString& title, const QString& prompt,
+                                            const QString& initialText)
+{
+    bool ok = false;
+    const QString text = QInputDialog::getText(parent, title, prompt, QLineEdit::Normal, initialText, &ok);
+    if (!ok)
+        return std::nullopt;
+    return text;
+}
+
+QString QtDesktop::openFileName(QWidget* parent, const QString& title, const QString& folder, const QString& filter)
+{
+    return QFileDialog::getOpenFileName(parent, title, folder, filter);
+}
+
+bool QtDesktop::startDetached(const QString& program, const QStringList& arguments, const QString& workingFolder)
+{
+    return QProcess::startDetached(program, arguments, workingFolder);
+}

@@ -1,0 +1,47 @@
+#pragma once
+
+#include <QMessageBox>
+#include <QString>
+#include <QStringList>
+
+#include <optional>
+
+class QWidget;
+
+// Everything that would block a test or leave the program: modal boxes,
+// the file dialog and starting another process. Windows get one of these
+// instead of calling the Qt statics, so tests can answer for the user.
+class Desktop {
+public:
+    enum class Icon { None, Information, Warning, Critical, Question };
+
+    virtual ~Desktop() = default;
+
+    // A modal message box; returns the button the user pressed, or
+    // QMessageBox::NoButton when the box was closed some other way.
+    virtual QMessageBox::StandardButton message(QWidget* parent, Icon icon, const QString& title, const QString& text,
+                                                QMessageBox::StandardButtons buttons) = 0;
+
+    // A modal one-line input box; nothing when the user cancelled.
+    virtual std::optional<QString> inputText(QWidget* parent, const QString& title, const QString& prompt,
+                                             const QString& initialText = {}) = 0;
+
+    // A modal file-open dialog; an empty text when the user cancelled.
+    virtual QString openFileName(QWidget* parent, const QString& title, const QString& folder,
+                                 const QString& filter) = 0;
+
+    // Starts a program that outlives this one. The arguments are passed as
+    // they are, never through a shell.
+    virtual bool startDetached(const QString& program, const QStringList& arguments, const QString& workingFolder) = 0;
+};
+
+// The real desktop: Qt's dialogs and QProcess.
+class QtDesktop final : public Desktop {
+public:
+    QMessageBox::StandardButton message(QWidget* parent, Icon icon, const QString& title, const QString& text,
+                                        QMessageBox::StandardButtons buttons) override;
+    std::optional<QString> inputText(QWidget* parent, const QString& title, const QString& prompt,
+                                     const QString& initialText) override;
+    QString openFileName(QWidget* parent, const QString& title, const QString& folder, const QString& filter) override;
+    bool startDetached(const QString& program, const QStringList& arguments, const QString& workingFolder) override;
+};

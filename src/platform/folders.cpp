@@ -1,0 +1,36 @@
+#include "folders.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QStandardPaths>
+#include <QTemporaryFile>
+
+namespace Folders {
+
+QString programFolder()
+{
+    return QCoreApplication::applicationDirPath();
+}
+
+QString dataFolder()
+{
+    return chooseDataFolder(programFolder(), QStandardPaths::writableLocation(QStandardPaths::AppDataLocation));
+}
+
+QString chooseDataFolder(const QString& programFolder, const QString& userFolder)
+{
+    if (!programFolder.isEmpty() && canCreateFilesIn(programFolder))
+        return QDir::cleanPath(programFolder);
+    QDir().mkpath(userFolder);
+    return QDir::cleanPath(userFolder);
+}
+
+bool canCreateFilesIn(const QString& folder)
+{
+    if (!QFileInfo(folder).isDir())
+        return false;
+    QTemporaryFile probe(QDir(folder).filePath(QStringLiteral(".q4vantage-write-probe-XXXXXX")));
+    return probe.open();
+}
+
+} // namespace Folders

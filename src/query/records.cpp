@@ -1,0 +1,58 @@
+#include "records.h"
+
+QString AddressEntry::endpointText() const
+{
+    return address + QLatin1Char(':') + QString::number(port);
+}
+
+void AddressTable::add(const QString& address, int port, const QString& name, const QString& password)
+{
+    m_entries.append(AddressEntry{address, port, name, password});
+}
+
+std::optional<AddressEntry> AddressTable::lastMatching(const QString& endpointText) const
+{
+    for (auto it = m_entries.crbegin(); it != m_entries.crend(); ++it) {
+        if (it->endpointText() == endpointText)
+            return *it;
+    }
+    return std::nullopt;
+}
+
+QString ServerRecord::endpointText() const
+{
+    return address + QLatin1Char(':') + QString::number(port);
+}
+
+QString ServerRecord::playersText() const
+{
+    return QString::number(playerCount) + QLatin1Char('/') + QString::number(maxPlayers);
+}
+
+void ServerStore::clear()
+{
+    m_servers.clear();
+    m_storedPlayers = 0;
+}
+
+int ServerStore::add(ServerRecord record)
+{
+    m_storedPlayers += int(record.players.size());
+    m_servers.append(std::move(record));
+    return int(m_servers.size()) - 1;
+}
+
+void ServerStore::replace(int index, ServerRecord record)
+{
+    m_storedPlayers += int(record.players.size()) - int(m_servers.at(index).players.size());
+    m_servers[index] = std::move(record);
+}
+
+int ServerStore::indexOf(const QString& address, int port) const
+{
+    for (int i = 0; i < m_servers.size(); ++i) {
+        if (m_servers.at(i).port == port && m_servers.at(i).address == address)
+            return i;
+    }
+    return -1;
+}

@@ -1,0 +1,99 @@
+#pragma once
+
+#include <QList>
+#include <QString>
+#include <QStringList>
+
+#include <optional>
+
+// One address the scheduler will query. Name and password are filled only
+// when the table comes from the favourites.
+struct AddressEntry {
+    QString address;
+    int port = 0;
+    QString name;
+    QString password;
+
+    QString endpointText() const;
+    friend bool operator==(const AddressEntry&, const AddressEntry&) = default;
+};
+
+// The addresses of one query in the master's (or the favourites') order.
+// Duplicates are kept: a server listed twice is queried twice.
+class AddressTable final {
+public:
+    void clear() { m_entries.clear(); }
+    void add(const QString& address, int port, const QString& name = {}, const QString& password = {});
+    int count() const { return int(m_entries.size()); }
+    bool isEmpty() const { return m_entries.isEmpty(); }
+    const AddressEntry& at(int index) const { return m_entries.at(index); }
+    const QList<AddressEntry>& entries() const { return m_entries; }
+
+    // The last entry whose "address:port" equals the text, as the join's
+    // password lookup wants it (a later favourite overrides an earlier one).
+    std::optional<AddressEntry> lastMatching(const QString& endpointText) const;
+
+private:
+    QList<AddressEntry> m_entries;
+};
+
+struct PlayerRecord {
+    QString clan;
+    QString name; // with its ^ colour codes
+    qint16 clientNumber = 0;
+    qint32 rate = 0;
+    qint32 ping = 0;
+
+    friend bool operator==(const PlayerRecord&, const PlayerRecord&) = default;
+};
+
+// What one infoResponse told about a server. The defaults are the values a
+// server is listed with when its reply lacks the key.
+struct ServerRecord {
+    static constexpr int MaxPing = 999;
+
+    QString address;
+    int port = 0;
+    QString name = QStringLiteral("noname");
+    QString map = QStringLiteral("nomap");
+    qint16 playerCount = 0;
+    qint16 maxPlayers = 0;
+    qint32 ping = 0;
+    QString passwordMark = QStringLiteral(" ");
+    QString gameType = QStringLiteral("DM");
+    QString gameName = QStringLiteral("baseQUAKE4-1");
+    // Every key and value of the reply in order, raw, for the rules view
+    // and the filters.
+    QStringList tokens;
+    // Players that could be stored; playerCount may be larger.
+    QList<PlayerRecord> players;
+    // Players whose ping is 0 (bots and connecting clients): a server with
+    // only those counts as empty.
+    int zeroPingCount = 0;
+
+    QString endpointText() const;
+    QString playersText() const;
+    bool isPassworded() const { return passwordMark == QLatin1String("*"); }
+
+    friend bool operator==(const ServerRecord&, const ServerRecord&) = default;
+};
+
+// Every answering server of the current query, kept in arrival order. A
+// list row refers to its server by the index returned from add(), which
+// stays valid until clear().
+class ServerStore final {
+public:
+    void clear();
+    int add(ServerRecord record);
+    void replace(int index, ServerRecord record);
+    int count() const { return int(m_servers.size()); }
+    const ServerRecord& at(int index) const { return m_servers.at(index); }
+    // Index of the first server at this address and port, or -1.
+    int indexOf(const QString& address, int port) const;
+    // All players of all servers, counted as the player list counts them.
+    int storedPlayerCount() const { return m_storedPlayers; }
+
+private:
+    QList<ServerRecord> m_servers;
+    int m_storedPlayers = 0;
+};

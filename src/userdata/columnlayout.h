@@ -1,0 +1,41 @@
+#pragma once
+
+#include <QList>
+#include <QStringView>
+
+class QHeaderView;
+class SettingsStore;
+
+// Column order, widths and sort of a list, kept in the settings under the
+// list's prefix. Order entry i holds the column shown at display position i;
+// width keys are keyed by column, never by display position.
+namespace ColumnLayout {
+
+// Sort direction and column of a list: order 0 ascending, 1 descending.
+struct SortState {
+    int key = 0;
+    int order = 1;
+    friend bool operator==(const SortState&, const SortState&) = default;
+};
+
+// True when order holds every column 0..count-1 exactly once.
+bool isPermutation(const QList<int>& order, int count);
+
+// The column at each display position (Qt: the logical index at visual i).
+QList<int> displayOrder(const QHeaderView& header);
+// Moves the sections so that position i shows column order[i]. An order
+// that is not a permutation of the header's columns is ignored.
+bool applyDisplayOrder(QHeaderView& header, const QList<int>& order);
+
+// The stored order, entry by entry: a missing key reads as its own position.
+QList<int> readOrder(const SettingsStore& settings, QStringView prefix, int count);
+
+// Restores widths (stored width, else the current one) and then the order.
+void restore(const SettingsStore& settings, QStringView prefix, QHeaderView& header);
+void saveOrder(SettingsStore& settings, QStringView prefix, const QHeaderView& header);
+void saveWidths(SettingsStore& settings, QStringView prefix, const QHeaderView& header);
+
+SortState readSort(const SettingsStore& settings, QStringView prefix, SortState designTime);
+void saveSort(SettingsStore& settings, QStringView prefix, SortState sort);
+
+} // namespace ColumnLayout

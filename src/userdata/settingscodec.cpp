@@ -1,0 +1,102 @@
+#include "settingscodec.h"
+
+#include <limits>
+
+namespace SettingsCodec {
+
+int toNumber(QStringView text)
+{
+    qsizetype i = 0;
+    while (i < text.size() && (text[i] == QLatin1Char(' ') || text[i] == QLatin1Char('\t')))
+        ++i;
+    bool negative = false;
+    if (i < text.size() && (text[i] == QLatin1Char('-') || text[i] == QLatin1Char('+'))) {
+        negative = text[i] == QLatin1Char('-');
+        ++i;
+    }
+    qint64 value = 0;
+    constexpr qint64 limit = qint64(std::numeric_limits<int>::max()) + 1;
+    for (; i < text.size() && text[i] >= QLatin1Char('0') && text[i] <= QLatin1Char('9'); ++i) {
+        value = value * 10 + (text[i].unicode() - '0');
+        if (value > limit)
+            value = limit;
+    }
+    if (negative)
+        return int(std::max(-value, qint64(std::numeric_limits<int>::min())));
+    return int(std::min(value, qint64(std::numeric_limits<int>::max())));
+}
+
+bool isOn(QStringView text)
+{
+    return text == QLatin1String("1");
+}
+
+QString flagText(bool on)
+{
+    return on ? QStringLiteral("1") : QStringLiteral("0");
+}
+
+bool toTruth(QStringView text, bool fallback)
+{
+    const QStringView trimmed = text.trimmed();
+    if (trimmed.compare(QLatin1String("true"), Qt::CaseInsensitive) == 0)
+        return true;
+    if (trimmed.compare(QLatin1String("false"), Qt::CaseInsensitive) == 0)
+        return false;
+    bool isNumber = false;
+    const double number = trimmed.toDouble(&isNumber);
+    if (isNumber)
+        return number != 0.0;
+    return fallback;
+}
+
+QString truthText(bool value)
+{
+    return value ? QStringLiteral("True") : QStringLiteral("False");
+}
+
+QString encodeEntries(const QStringList& entries)
+{
+    QString text;
+    for (const QString& entry : entries) {
+        text += entry;
+        text += EntryTerminator;
+    }
+    return text;
+}
+
+QStringList decodeEntries(QStringView text)
+{
+    QStringList entries;
+    qsizetype position = 0;
+    for (;;) {
+        const qsizetype end = text.indexOf(EntryTerminator, position);
+        if (end < 0)
+            break;
+        entries.append(text.mid(position, end - position).toString());
+        position = end + 1;
+    }
+    return entries;
+}
+
+QString columnOrderKey(QStringView prefix, int column)
+{
+    return prefix.toString() + QLatin1String("ColumnOrder") + QString::number(column);
+}
+
+QString columnWidthKey(QStringView prefix, int column)
+{
+    return prefix.toString() + QLatin1String("ColumnWidth") + QString::number(column);
+}
+
+QString sortOrderKey(QStringView prefix)
+{
+    return prefix.toString() + QLatin1String("SortOrder");
+}
+
+QString sortKeyKey(QStringView prefix)
+{
+    return prefix.toString() + QLatin1String("SortKey");
+}
+
+} // namespace SettingsCodec

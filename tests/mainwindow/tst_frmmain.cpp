@@ -1,0 +1,344 @@
+#include "frmmain.h"
+#include "historycombobox.h"
+#include "language.h"
+#include "scripteddesktop.h"
+#include "settingsstore.h"
+
+#include <QAction>
+#include <QHeaderView>
+#include <QLabel>
+#include <QLayout>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QSplitter>
+#include <QTabBar>
+#include <QTemporaryDir>
+#include <QTest>
+#include <QTreeView>
+
+namespace {
+
+// One run of the program against a settings file that outlives it.
+struct Run {
+    ScriptedDesktop desktop;
+    Language language;
+    std::unique_ptr<FrmMain> window;
+
+    explicit Run(SettingsStore& settings)
+        : window(std::make_unique<FrmMain>(settings, desktop, language))
+    {
+    }
+
+    template <typename T> T* find(const char* name) const
+    {
+        T* child = window->findChild<T*>(QLatin1String(name));
+        if (!child)
+            qFatal("no control named %s", name);
+        return child;
+    }
+    QTreeView* list(const char* name) const { return find<QTreeView>(name); }
+    QHeaderView* header(const char* name) const { return list(name)->header(); }
+    QString text(const char* button) const { return find<QPushButton>(button)->text(); }
+
+    bool show()
+    {
+        window->show();
+        return QTest::qWaitForWindowExposed(window.get());
+    }
+};
+
+QStringList headerCaptions(const QHeaderView* header)
+{
+    QStringList captions;
+    for (int column = 0; column < header->count(); ++column)
+        captions.append(header->model()->headerData(column, Qt::Horizontal).toString());
+    return captions;
+}
+
+} // namespace
+
+class TestFrmMain final : public QObject {
+    Q_OBJECT
+
+    QTemporaryDir m_dir;
+    int m_files = 0;
+    std::unique_ptr<SettingsStore> m_settings;
+
+private slots:
+    void init() { m_settings = std::make_unique<SettingsStore>(m_dir.filePath(QString::number(++m_files) + ".ini")); }
+
+    void firstStartShowsTheDesignTimeWindow()
+    {
+        Run run(*m_settings);
+        QVERIFY(run.show());
+        QCOMPARE(run.window->objectName(), QStringLiteral("frmMain"));
+        QCOMPARE(run.find<QTabBar>("tabSelect")->currentIndex(), int(FrmMain::ServersTab));
+        QVERIFY(run.list("lstServerList")->isVisible());
+        QVERIFY(run.list("lvwPlayers")->isVisible());
+        QVERIFY(!run.list("lstPlayerList")->isVisible());
+        QCOMPARE(run.window->size(), FrmMain::DesignSize);
+        QVERIFY(!run.window->isMaximized());
+        QCOMPARE(run.window->minimumSize(), QSize(500, 545));
+        QVERIFY(run.window->layout()->minimumSize().width() <= 500);
+        QVERIFY(run.window->layout()->minimumSize().height() <= 545);
+        QCOMPARE(run.window->serverSort(), (ColumnLayout::SortState{0, 1}));
+        QCOMPARE(run.window->playerSort(), (ColumnLayout::SortState{0, 1}));
+        QVERIFY(!run.find<QPushButton>("cmdCancel")->isEnabled());
+        for (const char* box : {"cmbFind", "cmbPlayerName", "cmbPassword"}) {
+            QCOMPARE(run.find<HistoryComboBox>(box)->count(), 0);
+            QCOMPARE(run.find<HistoryComboBox>(box)->currentText(), QString());
+        }
+        for (const char* name : {"lstServerList", "lstPlayerList", "lvwPlayers", "lvwServerInfo"}) {
+            const QHeaderView* header = run.header(name);
+            for (int position = 0; position < header->count(); ++position)
+                QCOMPARE(header->logicalIndex(position), position);
+        }
+        QCOMPARE(run.find<QAction>("mPopSelServer")->isVisible(), false);
+        // Without stored sizes both splitters keep usable panes.
+        for (const char* name : {"rzrPSI", "rzrSPSI"}) {
+            const QList<int> sizes = run.find<QSplitter>(name)->sizes();
+            QVERIFY2(sizes.first() >= 60 && sizes.last() >= 60, name);
+        }
+    }
+
+    void listsHaveTheirColumnsInOrder()
+    {
+        Run run(*m_settings);
+        QCOMPARE(headerCaptions(run.header("lstServerList")),
+                 (QStringList{"Server", "Map", "Players", "Ping", "Pw", "Type", "Game", "Server IP Address"}));
+        QCOMPARE(headerCaptions(run.header("lstPlayerList")),
+                 (QStringList{"Player", "Clan", "Ping", "Rate", "Server", "Map", "Players", "Svr Ping", "Pw", "Mod",
+                              "Game"}));
+        QCOMPARE(headerCaptions(run.header("lvwPlayers")), (QStringList{"Num", "Player", "Clan", "Ping", "Rate"}));
+        QCOMPARE(headerCaptions(run.header("lvwServerInfo")), (QStringList{"Variable", "Value"}));
+        for (const char* name : {"lstServerList", "lstPlayerList", "lvwPlayers", "lvwServerInfo"}) {
+            QVERIFY(run.header(name)->sectionsMovable());
+            QCOMPARE(run.list(name)->selectionBehavior(), QAbstractItemView::SelectRows);
+        }
+    }
+
+    void storedTabChoosesTheView_data()
+    {
+        QTest::addColumn<QString>("stored");
+        QTest::addColumn<int>("tab");
+        QTest::newRow("0 is Players") << "0" << 0;
+        QTest::newRow("1 is Servers") << "1" << 1;
+        QTest::newRow("any other number is Servers") << "7" << 1;
+        QTest::newRow("garbage reads 0") << "x" << 0;
+    }
+    void storedTabChoosesTheView()
+    {
+        QFETCH(QString, stored);
+        QFETCH(int, tab);
+        m_settings->save(u"Tab", stored);
+        Run run(*m_settings);
+        QVERIFY(run.show());
+        QCOMPARE(run.find<QTabBar>("tabSelect")->currentIndex(), tab);
+        QCOMPARE(run.list("lstPlayerList")->isVisible(), tab == 0);
+        QCOMPARE(run.find<QSplitter>("rzrPSI")->isVisible(), tab == 1);
+        QCOMPARE(run.find<QAction>("mPopSelServer")->isVisible(), tab == 0);
+    }
+
+    void layoutSurvivesARestart()
+    {
+        {
+            Run run(*m_settings);
+            QVERIFY(run.show());
+            run.window->resize(640, 580);
+            QHeaderView* servers = run.header("lstServerList");
+            servers->moveSection(servers->visualIndex(7), 0); // address column first
+            servers->resizeSection(7, 177);
+            run.header("lstPlayerList")->moveSection(0, 3);
+            run.header("lvwServerInfo")->resizeSection(1, 222);
+
+            auto* rzrPSI = run.find<QSplitter>("rzrPSI");
+            QSplitterHandle* handle = rzrPSI->handle(1);
+            const QPoint middle = handle->rect().center();
+            QTest::mousePress(handle, Qt::LeftButton, {}, middle);
+            QTest::mouseMove(handle, middle + QPoint(0, 40));
+            QTest::mouseRelease(handle, Qt::LeftButton, {}, middle + QPoint(0, 40));
+            QVERIFY(m_settings->contains(u"rzrPSISize"));
+            QVERIFY(m_settings->contains(u"rzrSPSISize"));
+            const int serverListHeight = rzrPSI->sizes().first();
+            QCOMPARE(m_settings->getNumber(u"rzrPSISize", -1), serverListHeight);
+
+            auto* name = run.find<HistoryComboBox>("cmbPlayerName");
+            name->setEditText(QStringLiteral("^1Fragger"));
+            name->remember(QStringLiteral("^1Fragger"));
+            name->remember(QStringLiteral("Other"));
+            run.find<HistoryComboBox>("cmbPassword")->setEditText(QStringLiteral("secret"));
+            run.find<HistoryComboBox>("cmbFind")->remember(QStringLiteral("clan"));
+            run.find<QTabBar>("tabSelect")->setCurrentIndex(FrmMain::PlayersTab);
+            QTest::mouseClick(run.find<QPushButton>("cmdExit"), Qt::LeftButton);
+            QVERIFY(!run.window->isVisible());
+        }
+        QCOMPARE(m_settings->get(u"WindowWidth"), QStringLiteral("640"));
+        QCOMPARE(m_settings->get(u"Maximized"), QStringLiteral("False"));
+        QCOMPARE(m_settings->get(u"Tab"), QStringLiteral("0"));
+        QCOMPARE(m_settings->get(u"SColumnOrder0"), QStringLiteral("7"));
+        QCOMPARE(m_settings->get(u"SColumnWidth7"), QStringLiteral("177"));
+        QCOMPARE(m_settings->get(u"SIColumnWidth1"), QStringLiteral("222"));
+        QCOMPARE(m_settings->get(u"PlayerNameBox"), QStringLiteral("^1Fragger\u0001Other\u0001"));
+
+        m_settings->save(u"Tab", QStringLiteral("1"));
+        Run again(*m_settings);
+        QVERIFY(again.show());
+        QCOMPARE(again.window->size(), QSize(640, 580));
+        QCOMPARE(again.header("lstServerList")->logicalIndex(0), 7);
+        QCOMPARE(again.header("lstServerList")->sectionSize(7), 177);
+        QCOMPARE(again.header("lstPlayerList")->logicalIndex(3), 0);
+        QCOMPARE(again.header("lvwServerInfo")->sectionSize(1), 222);
+        QCOMPARE(again.find<QSplitter>("rzrPSI")->sizes().first(), m_settings->getNumber(u"rzrPSISize", -1));
+        auto* name = again.find<HistoryComboBox>("cmbPlayerName");
+        QCOMPARE(name->currentText(), QStringLiteral("^1Fragger"));
+        QCOMPARE(name->entries(), (QStringList{"^1Fragger", "Other"}));
+        QCOMPARE(again.find<HistoryComboBox>("cmbPassword")->currentText(), QStringLiteral("secret"));
+        QCOMPARE(again.find<HistoryComboBox>("cmbFind")->entries(), QStringList{"clan"});
+    }
+
+    void closingWritesEveryListsColumns()
+    {
+        {
+            Run run(*m_settings);
+            QVERIFY(run.show());
+            run.window->close();
+        }
+        const struct {
+            const char16_t* prefix;
+            int columns;
+        } lists[] = {{u"S", 8}, {u"P", 11}, {u"SP", 5}, {u"SI", 2}};
+        for (const auto& list : lists) {
+            const QString prefix = QString::fromUtf16(list.prefix);
+            for (int column = 0; column < list.columns; ++column) {
+                QCOMPARE(m_settings->get(prefix + "ColumnOrder" + QString::number(column)), QString::number(column));
+                QVERIFY(m_settings->getNumber(prefix + "ColumnWidth" + QString::number(column), 0) > 0);
+            }
+            QVERIFY(!m_settings->contains(prefix + "ColumnOrder" + QString::number(list.columns)));
+        }
+        // The sorts are written by column clicks only.
+        QVERIFY(!m_settings->contains(u"SSortOrder"));
+    }
+
+    void restoredSortOnlySetsTheState()
+    {
+        m_settings->save(u"SSortKey", QStringLiteral("3"));
+        m_settings->save(u"SSortOrder", QStringLiteral("0"));
+        m_settings->save(u"PSortKey", QStringLiteral("7"));
+        Run run(*m_settings);
+        QCOMPARE(run.window->serverSort(), (ColumnLayout::SortState{3, 0}));
+        QCOMPARE(run.window->playerSort(), (ColumnLayout::SortState{7, 1}));
+        QVERIFY(!run.header("lstServerList")->isSortIndicatorShown());
+    }
+
+    void maximizedWindowRestartsAtItsNormalSizeThenMaximizes()
+    {
+        m_settings->save(u"WindowWidth", QStringLiteral("620"));
+        m_settings->save(u"WindowHeight", QStringLiteral("560"));
+        m_settings->save(u"Maximized", QStringLiteral("True"));
+        {
+            Run run(*m_settings);
+            QVERIFY(run.show());
+            QTRY_VERIFY(run.window->isMaximized());
+            QCOMPARE(run.window->normalGeometry().size(), QSize(620, 560));
+            run.window->close();
+        }
+        QCOMPARE(m_settings->get(u"Maximized"), QStringLiteral("True"));
+        QCOMPARE(m_settings->get(u"WindowWidth"), QStringLiteral("620"));
+        QCOMPARE(m_settings->get(u"WindowHeight"), QStringLiteral("560"));
+    }
+
+    void resizingIsStoredButMinimizingIsNot()
+    {
+        Run run(*m_settings);
+        QVERIFY(run.show());
+        run.window->resize(700, 600);
+        QCOMPARE(m_settings->get(u"WindowWidth"), QStringLiteral("700"));
+        QCOMPARE(m_settings->get(u"WindowHeight"), QStringLiteral("600"));
+        run.window->showMinimized();
+        QTRY_VERIFY(run.window->isMinimized());
+        run.window->resize(520, 550);
+        QCOMPARE(m_settings->get(u"WindowWidth"), QStringLiteral("700"));
+        QCOMPARE(m_settings->get(u"WindowHeight"), QStringLiteral("600"));
+    }
+
+    void storedSizeBelowTheMinimumIsRaised()
+    {
+        m_settings->save(u"WindowWidth", QStringLiteral("junk"));
+        m_settings->save(u"WindowHeight", QStringLiteral("100"));
+        Run run(*m_settings);
+        QVERIFY(run.show());
+        QCOMPARE(run.window->size(), QSize(500, 545));
+    }
+
+    void americanEnglishAtStart()
+    {
+        m_settings->save(u"Language", QStringLiteral("1"));
+        Run run(*m_settings);
+        QCOMPARE(run.text("cmdFav"), QStringLiteral("Query Favorites"));
+        QCOMPARE(run.text("cmdOrganise"), QStringLiteral("Favorites"));
+        QCOMPARE(run.find<QAction>("mPopAdd")->text(), QStringLiteral("&Add To Favorites"));
+        QCOMPARE(run.text("cmdGet"), QStringLiteral("Query Masters"));
+        QCOMPARE(run.text("cmdCancel"), QStringLiteral("Cancel Query"));
+        QCOMPARE(run.find<QTabBar>("tabSelect")->tabText(0), QStringLiteral("Players"));
+    }
+
+    void unknownLanguageKeepsTheDesignTimeTexts()
+    {
+        m_settings->save(u"Language", QStringLiteral("7"));
+        Run run(*m_settings);
+        QCOMPARE(run.text("cmdFav"), QStringLiteral("Query Favourites"));
+        QCOMPARE(run.text("cmdOrganise"), QStringLiteral("Favourites"));
+        QCOMPARE(run.find<QLabel>("lblPlayerName")->text(), QStringLiteral("Name:"));
+    }
+
+    void switchingLanguageRetranslatesTheOpenWindow()
+    {
+        Run run(*m_settings);
+        QVERIFY(run.show());
+        QCOMPARE(run.text("cmdFav"), QStringLiteral("Query Favourites"));
+        run.language.apply(1);
+        QTRY_COMPARE(run.text("cmdFav"), QStringLiteral("Query Favorites"));
+        run.language.apply(0);
+        QTRY_COMPARE(run.text("cmdFav"), QStringLiteral("Query Favourites"));
+    }
+
+    void buttonsReadTheirCaptionsToScreenReaders()
+    {
+        Run run(*m_settings);
+        QCOMPARE(run.text("cmdGet"), QStringLiteral("Query Masters"));
+        QCOMPARE(run.text("cmdExit"), QStringLiteral("Exit"));
+        QCOMPARE(run.text("cmdFind"), QStringLiteral("Find"));
+        QCOMPARE(run.find<QLabel>("lblPlayerName")->buddy(), run.find<HistoryComboBox>("cmbPlayerName"));
+        QCOMPARE(run.find<QLabel>("lblPassword")->buddy(), run.find<HistoryComboBox>("cmbPassword"));
+    }
+
+    void aboutLabelOpensTheAboutBox()
+    {
+        Run run(*m_settings);
+        QVERIFY(run.show());
+        run.desktop.messageAnswers.enqueue(QMessageBox::Ok);
+        QTest::mouseClick(run.find<QLabel>("lblAbout"), Qt::LeftButton);
+        QCOMPARE(run.desktop.messages.size(), 1);
+        QVERIFY(run.desktop.messages.first().text.startsWith(QStringLiteral("Quake 4 Vantage")));
+        QCOMPARE(run.desktop.unexpectedCalls, 0);
+    }
+
+    void enterInTheJoinBoxesRemembers()
+    {
+        Run run(*m_settings);
+        QVERIFY(run.show());
+        auto* password = run.find<HistoryComboBox>("cmbPassword");
+        QTest::keyClicks(password->lineEdit(), QStringLiteral("pw1"));
+        QTest::keyClick(password->lineEdit(), Qt::Key_Return);
+        QTest::keyClick(password->lineEdit(), Qt::Key_Return);
+        QCOMPARE(password->entries(), QStringList{"pw1"});
+        auto* find = run.find<HistoryComboBox>("cmbFind");
+        QTest::keyClicks(find->lineEdit(), QStringLiteral("abc"));
+        QTest::keyClick(find->lineEdit(), Qt::Key_Return);
+        QTest::mouseClick(run.find<QPushButton>("cmdFind"), Qt::LeftButton);
+        QCOMPARE(find->entries(), QStringList{"abc"});
+    }
+};
+
+QTEST_MAIN(TestFrmMain)
+#include "tst_frmmain.moc"

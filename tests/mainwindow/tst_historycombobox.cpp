@@ -1,0 +1,117 @@
+#include "historycombobox.h"
+
+#include <QLineEdit>
+#include <QSignalSpy>
+#include <QTest>
+
+namespace {
+
+void pressDel(HistoryComboBox& box)
+{
+    QKeyEvent press(QEvent::KeyPress, 0, Qt::NoModifier, QString(QChar(127)));
+    QCoreApplication::sendEvent(box.lineEdit(), &press);
+}
+
+} // namespace
+
+class TestHistoryComboBox final : public QObject {
+    Q_OBJECT
+
+private slots:
+    void enterRemembersEachTextOnce()
+    {
+        HistoryComboBox box;
+        QSignalSpy enter(&box, &HistoryComboBox::enterPressed);
+        connect(&box, &HistoryComboBox::enterPressed, &box, [&box] { box.remember(box.currentText()); });
+        box.show();
+        QTest::keyClicks(box.lineEdit(), QStringLiteral("Abc"));
+        QTest::keyClick(box.lineEdit(), Qt::Key_Return);
+        QTest::keyClick(box.lineEdit(), Qt::Key_Enter);
+        box.lineEdit()->clear();
+        QTest::keyClicks(box.lineEdit(), QStringLiteral("abc"));
+        QTest::keyClick(box.lineEdit(), Qt::Key_Return);
+        QCOMPARE(enter.count(), 3);
+        QCOMPARE(box.entries(), (QStringList{"Abc", "abc"}));
+        QCOMPARE(box.currentText(), QStringLiteral("abc"));
+        // An empty text is a real entry too.
+        box.lineEdit()->clear();
+        QTest::keyClick(box.lineEdit(), Qt::Key_Return);
+        QTest::keyClick(box.lineEdit(), Qt::Key_Return);
+        QCOMPARE(box.entries(), (QStringList{"Abc", "abc", ""}));
+    }
+
+    void rememberingKeepsTheTextBeingEdited()
+    {
+        HistoryComboBox box;
+        box.setEditText(QStringLiteral("typed"));
+        QVERIFY(box.remember(QStringLiteral("first")));
+        QVERIFY(!box.remember(QStringLiteral("first")));
+        QCOMPARE(box.currentText(), QStringLiteral("typed"));
+    }
+
+    void setEntriesKeepsTheText()
+    {
+        HistoryComboBox box;
+        box.setEditText(QStringLiteral("Player"));
+        box.setEntries({"one", "two"});
+        QCOMPARE(box.currentText(), QStringLiteral("Player"));
+        QCOMPARE(box.entries(), (QStringList{"one", "two"}));
+        QCOMPARE(box.pickedIndex(), -1);
+    }
+
+    void deleteKeysForgetAPickedEntry_data()
+    {
+        QTest::addColumn<int>("key");
+        QTest::newRow("Delete") << int(Qt::Key_Delete);
+        QTest::newRow("Backspace") << int(Qt::Key_Backspace);
+        QTest::newRow("DEL character") << 127;
+    }
+    void deleteKeysForgetAPickedEntry()
+    {
+        QFETCH(int, key);
+        HistoryComboBox box;
+        box.setEntries({"one", "two", "three"});
+        box.show();
+        box.lineEdit()->setFocus();
+        QTest::keyClick(&box, Qt::Key_Down); // picks "one"
+        QTest::keyClick(&box, Qt::Key_Down); // picks "two"
+        QCOMPARE(box.pickedIndex(), 1);
+        QCOMPARE(box.currentText(), QStringLiteral("two"));
+        if (key == 127)
+            pressDel(box);
+        else
+            QTest::keyClick(box.lineEdit(), Qt::Key(key));
+        QCOMPARE(box.entries(), (QStringList{"one", "three"}));
+        QCOMPARE(box.pickedIndex(), -1);
+        QVERIFY(box.currentText().startsWith(QStringLiteral("tw")));
+    }
+
+    void editingAfterPickingProtectsTheEntries()
+    {
+        HistoryComboBox box;
+        box.setEntries({"one", "two"});
+        box.show();
+        box.lineEdit()->setFocus();
+        QTest::keyClick(&box, Qt::Key_Down);
+        QTest::keyClicks(box.lineEdit(), QStringLiteral("x"));
+        QTest::keyClick(box.lineEdit(), Qt::Key_Backspace);
+        QTest::keyClick(box.lineEdit(), Qt::Key_Backspace);
+        QTest::keyClick(box.lineEdit(), Qt::Key_Delete);
+        pressDel(box);
+        QCOMPARE(box.entries(), (QStringList{"one", "two"}));
+    }
+
+    void typingAloneNeverForgets()
+    {
+        HistoryComboBox box;
+        box.setEntries({"abc"});
+        box.show();
+        QTest::keyClicks(box.lineEdit(), QStringLiteral("abc"));
+        QTest::keyClick(box.lineEdit(), Qt::Key_Backspace);
+        QCOMPARE(box.entries(), (QStringList{"abc"}));
+        QCOMPARE(box.currentText(), QStringLiteral("ab"));
+    }
+};
+
+QTEST_MAIN(TestHistoryComboBox)
+#include "tst_historycombobox.moc"

@@ -1,0 +1,54 @@
+#include "language.h"
+
+#include <QCoreApplication>
+#include <QTest>
+
+namespace {
+QString translated(const char* source)
+{
+    return QCoreApplication::translate("FrmMain", source);
+}
+} // namespace
+
+class TestLanguage final : public QObject {
+    Q_OBJECT
+
+private slots:
+    void americanEnglishChangesOnlyThreeTexts()
+    {
+        Language language;
+        QVERIFY(language.apply(1));
+        QCOMPARE(translated("Query Favourites"), QStringLiteral("Query Favorites"));
+        QCOMPARE(translated("Favourites"), QStringLiteral("Favorites"));
+        QCOMPARE(translated("&Add To Favourites"), QStringLiteral("&Add To Favorites"));
+        QCOMPARE(translated("Query Masters"), QStringLiteral("Query Masters"));
+        QCOMPARE(translated("Cancel Query"), QStringLiteral("Cancel Query"));
+
+        QVERIFY(language.apply(0));
+        QCOMPARE(translated("Favourites"), QStringLiteral("Favourites"));
+        QCOMPARE(language.current(), 0);
+    }
+
+    void indexOutsideTheTableChangesNothing()
+    {
+        Language language;
+        QVERIFY(language.apply(1));
+        QVERIFY(!language.apply(7));
+        QVERIFY(!language.apply(-1));
+        QCOMPARE(language.current(), 1);
+        QCOMPARE(translated("Favourites"), QStringLiteral("Favorites"));
+    }
+
+    void namesAsListed()
+    {
+        const QStringList names = Language::names();
+        QCOMPARE(names.size(), Language::Count);
+        QCOMPARE(names.at(2), QStringLiteral("Deustch"));
+        QCOMPARE(names.at(6), QStringLiteral("Portugu\u00eas"));
+        QCOMPARE(Language::localeName(1), QStringLiteral("en_US"));
+        QCOMPARE(Language::localeName(7), QString());
+    }
+};
+
+QTEST_GUILESS_MAIN(TestLanguage)
+#include "tst_language.moc"

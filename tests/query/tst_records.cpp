@@ -1,0 +1,92 @@
+#include "records.h"
+
+#include <QTest>
+
+class TestRecords final : public QObject {
+    Q_OBJECT
+
+private slots:
+    void freshServerHasTheListingDefaults()
+    {
+        const ServerRecord server;
+        QCOMPARE(server.name, QStringLiteral("noname"));
+        QCOMPARE(server.map, QStringLiteral("nomap"));
+        QCOMPARE(server.gameType, QStringLiteral("DM"));
+        QCOMPARE(server.gameName, QStringLiteral("baseQUAKE4-1"));
+        QCOMPARE(server.passwordMark, QStringLiteral(" "));
+        QVERIFY(!server.isPassworded());
+        QCOMPARE(server.playersText(), QStringLiteral("0/0"));
+    }
+
+    void cellTexts()
+    {
+        ServerRecord server;
+        server.address = QStringLiteral("10.0.0.1");
+        server.port = 28004;
+        server.playerCount = 7;
+        server.maxPlayers = 16;
+        server.passwordMark = QStringLiteral("*");
+        QCOMPARE(server.endpointText(), QStringLiteral("10.0.0.1:28004"));
+        QCOMPARE(server.playersText(), QStringLiteral("7/16"));
+        QVERIFY(server.isPassworded());
+    }
+
+    void addressTableKeepsOrderAndDuplicates()
+    {
+        AddressTable table;
+        table.add(QStringLiteral("1.2.3.4"), 28004);
+        table.add(QStringLiteral("5.6.7.8"), 28004, QStringLiteral("Fav"), QStringLiteral("one"));
+        table.add(QStringLiteral("1.2.3.4"), 28004);
+        QCOMPARE(table.count(), 3);
+        QCOMPARE(table.at(0), table.at(2));
+        QCOMPARE(table.at(1).name, QStringLiteral("Fav"));
+        table.clear();
+        QVERIFY(table.isEmpty());
+    }
+
+    void lastMatchingFavouriteWins()
+    {
+        AddressTable table;
+        table.add(QStringLiteral("1.2.3.4"), 28004, QStringLiteral("A"), QStringLiteral("first"));
+        table.add(QStringLiteral("1.2.3.4"), 28005, QStringLiteral("B"), QStringLiteral("other port"));
+        table.add(QStringLiteral("1.2.3.4"), 28004, QStringLiteral("C"), QStringLiteral("second"));
+        QCOMPARE(table.lastMatching(QStringLiteral("1.2.3.4:28004"))->password, QStringLiteral("second"));
+        QCOMPARE(table.lastMatching(QStringLiteral("1.2.3.4:28005"))->name, QStringLiteral("B"));
+        QVERIFY(!table.lastMatching(QStringLiteral("1.2.3.4:1")));
+    }
+
+    void serverStoreIndexesRowsAndCountsPlayers()
+    {
+        ServerStore store;
+        ServerRecord first;
+        first.address = QStringLiteral("1.1.1.1");
+        first.port = 28004;
+        first.players = {PlayerRecord{{}, QStringLiteral("^1a"), 0, 25000, 40},
+                         PlayerRecord{QStringLiteral("clan"), QStringLiteral("b"), 1, 9000, 0}};
+        first.playerCount = 2;
+        ServerRecord second = first;
+        second.address = QStringLiteral("2.2.2.2");
+        second.players.clear();
+
+        QCOMPARE(store.add(first), 0);
+        QCOMPARE(store.add(second), 1);
+        QCOMPARE(store.storedPlayerCount(), 2);
+        QCOMPARE(store.indexOf(QStringLiteral("2.2.2.2"), 28004), 1);
+        QCOMPARE(store.indexOf(QStringLiteral("2.2.2.2"), 28005), -1);
+
+        // A refresh replaces the record in place: same index, new players.
+        ServerRecord refreshed = second;
+        refreshed.players = {PlayerRecord{}, PlayerRecord{}, PlayerRecord{}};
+        store.replace(1, refreshed);
+        QCOMPARE(store.at(1).players.size(), 3);
+        QCOMPARE(store.storedPlayerCount(), 5);
+
+        store.clear();
+        QCOMPARE(store.count(), 0);
+        QCOMPARE(store.storedPlayerCount(), 0);
+        QCOMPARE(store.add(second), 0);
+    }
+};
+
+QTEST_APPLESS_MAIN(TestRecords)
+#include "tst_records.moc"

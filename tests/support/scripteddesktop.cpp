@@ -1,0 +1,38 @@
+#include "scripteddesktop.h"
+
+QMessageBox::StandardButton ScriptedDesktop::message(QWidget*, Icon icon, const QString& title, const QString& text,
+                                                     QMessageBox::StandardButtons buttons)
+{
+    messages.append({icon, title, text, buttons});
+    if (messageAnswers.isEmpty()) {
+        ++unexpectedCalls;
+        return QMessageBox::Cancel;
+    }
+    return messageAnswers.dequeue();
+}
+
+std::optional<QString> ScriptedDesktop::inputText(QWidget*, const QString& title, const QString& prompt, const QString&)
+{
+    inputs.append({title, prompt});
+    if (inputAnswers.isEmpty()) {
+        ++unexpectedCalls;
+        return std::nullopt;
+    }
+    return inputAnswers.dequeue();
+}
+
+QString ScriptedDesktop::openFileName(QWidget*, const QString& title, const QString& folder, const QString& filter)
+{
+    fileRequests.append({title, folder, filter});
+    if (fileAnswers.isEmpty()) {
+        ++unexpectedCalls;
+        return {};
+    }
+    return fileAnswers.dequeue();
+}
+
+bool ScriptedDesktop::startDetached(const QString& program, const QStringList& arguments, const QString& workingFolder)
+{
+    starts.append({program, arguments, workingFolder});
+    return startSucceeds;
+}

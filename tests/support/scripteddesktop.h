@@ -1,0 +1,54 @@
+#pragma once
+
+#include "desktop.h"
+
+#include <QList>
+#include <QQueue>
+
+#include <optional>
+
+// Answers modal boxes and file dialogs from a script the test writes in
+// advance, and records every call, so a test can check what the user was
+// asked and what would have been started. A call with no scripted answer
+// is recorded as unexpected and answered with "cancel".
+class ScriptedDesktop final : public Desktop {
+public:
+    struct Message {
+        Icon icon;
+        QString title;
+        QString text;
+        QMessageBox::StandardButtons buttons;
+    };
+    struct Input {
+        QString title;
+        QString prompt;
+    };
+    struct FileRequest {
+        QString title;
+        QString folder;
+        QString filter;
+    };
+    struct Start {
+        QString program;
+        QStringList arguments;
+        QString workingFolder;
+    };
+
+    QQueue<QMessageBox::StandardButton> messageAnswers;
+    QQueue<std::optional<QString>> inputAnswers;
+    QQueue<QString> fileAnswers;
+    bool startSucceeds = true;
+
+    QList<Message> messages;
+    QList<Input> inputs;
+    QList<FileRequest> fileRequests;
+    QList<Start> starts;
+    int unexpectedCalls = 0;
+
+    QMessageBox::StandardButton message(QWidget* parent, Icon icon, const QString& title, const QString& text,
+                                        QMessageBox::StandardButtons buttons) override;
+    std::optional<QString> inputText(QWidget* parent, const QString& title, const QString& prompt,
+                                     const QString& initialText) override;
+    QString openFileName(QWidget* parent, const QString& title, const QString& folder, const QString& filter) override;
+    bool startDetached(const QString& program, const QStringList& arguments, const QString& workingFolder) override;
+};
