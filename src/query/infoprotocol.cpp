@@ -1,0 +1,153 @@
+#include "infoprotocol.h"
+
+#include "masterprotocol.h"
+
+#include <limits>
+
+namespace InfoProtocol {
+
+namespace {
+
+// Leading blanks, a sign and the leading digits, as the settings read
+// numbers; nothing when no digit leads.
+std::optional<qint64> leadingNumber(const QByteArray& text)
+{
+    qsizetype i = 0;
+    while (i < text.size() && (text[i] == ' ' || text[i] == '\t'))
+        ++i;
+    bool negative = false;
+    if (i < text.size() && (text[i] == '-' || text[i] == '+'))
+        negative = text[i++] == '-';
+    qint64 value = 0;
+    const qsizetype firstDigit = i;
+    for (; i < text.size() && text[i] >= '0' && text[i] <= '9'; ++i)
+        value = std::min<qint64>(value * 10 + (text[i] - '0'), std::numeric_limits<qint32>::max() + qint64(1));
+    if (i == firstDigit)
+        return std::nullopt;
+    return negative ? -value : value;
+}
+
+// True when the whole text is a number (blanks around it allowed) of at
+// most 7: such a player section is a count, not player data.
+bool isSmallNumber(const QByteArray& text)
+{
+    bool ok = false;
+    const double value = text.trimmed().toDouble(&ok);
+    return ok && value <= 7;
+}
+
+// A 16-bit little-endian value whose high byte is below 128; a larger one
+// does not fit the signed arithmetic and reads as nothing.
+std::optional<qint32> signed16At(const QByteArray& bytes, qsizetype offset)
+{
+    if (offset < 0 || offset + 1 >= bytes.size())
+        return std::nullopt;
+    const uchar low = uchar(bytes.at(offset));
+    const uchar high = uchar(bytes.at(offset + 1));
+    if (high >= 128)
+        return std::nullopt;
+    return high * 256 + low;
+}
+
+QString latin1(const QByteArray& bytes)
+{
+    return QString::fromLatin1(bytes);
+}
+
+void readPlayers(const QByteArray& section, ServerRecord& server)
+{
+    const QByteArray pair("\0\0", 2);
+    qsizetype p = 0;
+    int index = 0;
+    while (section.indexOf(pair, p) >= 0) {
+        PlayerRecord player;
+        if (p < section.size())
+            player.clientNumber = qint16(uchar(section.at(p)));
+        player.ping = signed16At(section, p + 1).value_or(0);
+        player.rate = signed16At(section, p + 3).value_or(0);
+
+        const qsizetype nameStart = std::min(p + 7, section.size());
+        qsizetype nameEnd = section.indexOf('\0', nameStart);
+        if (nameEnd < 0)
+            nameEnd = section.size();
+        player.name = latin1(section.mid(nameStart, nameEnd - nameStart));
+        const qsizetype clanStart = std::min(nameEnd + 1, section.size());
+        qsizetype clanEnd = section.indexOf('\0', clanStart);
+        if (clanEnd < 0)
+            clanEnd = section.size();
+        player.clan = latin1(section.mid(clanStart, clanEnd - clanStart));
+        p = clanEnd + 1;
+
+        if (index <= server.maxPlayers)
+            server.players.append(player);
+        ++index;
+        if (server.playerCount < std::numeric_limits<qint16>::max())
+            ++server.playerCount;
+        if (player.ping == 0)
+            ++server.zeroPingCount;
+    }
+}
+
+} // namespace
+
+QByteArray getInfoRequest()
+{
+    return QByteArray("\xFF\xFFgetInfo\0\x04\0\0\0", 14);
+}
+
+QByteArray replyHeader()
+{
+    return QByteArray("\xFF\xFFinfoResponse\0\x04\0\0\0\x3E\0\x02", HeaderLength);
+}
+
+Sections splitSections(const QByteArray& datagram)
+{
+    QByteArray text = MasterProtocol::removeAll(datagram, replyHeader());
+    // The last byte of the protocol version follows the header; the keys
+    // start after it.
+    if (text.size() < datagram.size() && text.startsWith('\0'))
+        text.remove(0, 1);
+    const qsizetype end = text.indexOf(QByteArray("\0\0\0", 3));
+    if (end < 0)
+        return Sections{text, {}};
+    QByteArray players = text.mid(end + 3);
+    players.chop(3);
+    return Sections{text.left(end), players};
+}
+
+ServerRecord parseReply(const QByteArray& datagram)
+{
+    const Sections sections = splitSections(datagram);
+    ServerRecord server;
+    if (!sections.keyValues.isEmpty()) {
+        const QList<QByteArray> tokens = sections.keyValues.split('\0');
+        server.tokens.reserve(tokens.size());
+        for (const QByteArray& token : tokens)
+            server.tokens.append(latin1(token));
+        for (qsizetype i = 0; i + 1 < tokens.size(); i += 2) {
+            const QByteArray key = tokens.at(i).toLower();
+            const QByteArray& value = tokens.at(i + 1);
+            if (key == "si_maxplayers") {
+                const auto number = leadingNumber(value);
+                const qint64 players = number.value_or(0);
+                if (players >= std::numeric_limits<qint16>::min() && players <= std::numeric_limits<qint16>::max())
+                    server.maxPlayers = qint16(players);
+            } else if (key == "si_name") {
+                server.name = latin1(value);
+            } else if (key == "si_map") {
+                server.map = latin1(value);
+            } else if (key == "si_gametype") {
+                server.gameType = latin1(value);
+            } else if (key == "gamename") {
+                server.gameName = latin1(value);
+            } else if (key == "si_usepass") {
+                server.passwordMark = leadingNumber(value).value_or(0) == 1 ? QStringLiteral("*") : QString();
+            }
+        }
+    }
+    if (sections.keyValues.size() >= MinimumKeyValueLength && !isSmallNumber(sections.players))
+        readPlayers(sections.players, server);
+    return server;
+}
+
+} // namespace InfoProtocol

@@ -1,0 +1,120 @@
+#include "favourites.h"
+
+#include <QFile>
+
+#include <cmath>
+
+namespace Favourites {
+
+namespace {
+
+constexpr QChar Separator = QChar(1);
+
+// Blanks, a sign, digits and a decimal part, as a lenient number reader
+// takes them; 0 when no number leads.
+double leadingValue(QStringView text)
+{
+    qsizetype end = 0;
+    while (end < text.size() && text[end] == QLatin1Char(' '))
+        ++end;
+    const qsizetype start = end;
+    if (end < text.size() && (text[end] == QLatin1Char('-') || text[end] == QLatin1Char('+')))
+        ++end;
+    while (end < text.size() && (text[end].isDigit() || text[end] == QLatin1Char('.')))
+        ++end;
+    bool ok = false;
+    const double value = text.mid(start, end - start).toDouble(&ok);
+    return ok ? value : 0.0;
+}
+
+int roundedPort(QStringView text)
+{
+    const double value = std::nearbyint(leadingValue(text));
+    if (value < std::numeric_limits<int>::min() || value > std::numeric_limits<int>::max())
+        return 0;
+    return int(value);
+}
+
+bool blankLineAt(const QString& text, qsizetype position)
+{
+    if (text.at(position) == QLatin1Char('\n'))
+        return true;
+    return text.at(position) == QLatin1Char('\r') && position + 1 < text.size() &&
+           text.at(position + 1) == QLatin1Char('\n');
+}
+
+} // namespace
+
+std::optional<QList<Favourite>> parse(const QByteArray& bytes)
+{
+    if (bytes.size() < 4)
+        return std::nullopt;
+    const QString text = QString::fromLatin1(bytes);
+    QList<Favourite> favourites;
+    qsizetype p = 0;
+    while (p < text.size()) {
+        if (blankLineAt(text, p)) {
+            p = text.indexOf(QLatin1Char('\n'), p) + 1;
+            continue;
+        }
+        Favourite favourite;
+        qsizetype separator = text.indexOf(Separator, p);
+        const qsizetype colon = text.indexOf(QLatin1Char(':'), p);
+        if (colon < 0 || (separator >= 0 && colon > separator) || separator < 0) {
+            // Only a separator at the very start of the file leaves the
+            // address empty with port 0.
+            if (separator >= 1) {
+                favourite.address = text.mid(p, separator - p);
+                favourite.port = DefaultPort;
+            }
+        } else {
+            favourite.address = text.mid(p, colon - p);
+            p = colon + 1;
+            separator = text.indexOf(Separator, p);
+            if (separator >= 0)
+                favourite.port = roundedPort(QStringView(text).mid(p, separator - p));
+        }
+        if (separator < 0)
+            break;
+        p = separator + 1;
+        const qsizetype second = text.indexOf(Separator, p);
+        if (second < 0)
+            break;
+        favourite.password = text.mid(p, second - p);
+        p = second + 1;
+
+        const qsizetype lineFeed = text.indexOf(QLatin1Char('\n'), p);
+        qsizetype length = 0;
+        if (lineFeed >= 0) {
+            length = lineFeed - p;
+            if (length > 0 && text.at(lineFeed - 1) == QLatin1Char('\r'))
+                --length;
+        } else {
+            length = text.size() - p - 2;
+        }
+        favourite.name = text.mid(p, std::max<qsizetype>(length, 0));
+        favourites.append(favourite);
+        if (lineFeed < 0)
+            break;
+        p = lineFeed + 1;
+    }
+    return favourites;
+}
+
+std::optional<QList<Favourite>> readFile(const QString& path)
+{
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly))
+        return std::nullopt;
+    return parse(file.readAll());
+}
+
+AddressTable toAddressTable(const QList<Favourite>& favourites)
+{
+    AddressTable table;
+    for (const Favourite& favourite : favourites)
+        table.add(favourite.address, favourite.port, favourite.name, favourite.password);
+    return table;
+}
+
+} // namespace Favourites

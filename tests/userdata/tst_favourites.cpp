@@ -1,0 +1,112 @@
+#include "favourites.h"
+
+#include <QFile>
+#include <QTemporaryDir>
+#include <QTest>
+
+using Favourites::Favourite;
+
+namespace {
+QByteArray lines(std::initializer_list<const char*> list)
+{
+    QByteArray bytes;
+    for (const char* line : list)
+        bytes += QByteArray(line).replace('|', '\x01') + "\r\n";
+    return bytes;
+}
+} // namespace
+
+class TestFavourites final : public QObject {
+    Q_OBJECT
+
+private slots:
+    void readsTheFields()
+    {
+        const auto read = Favourites::parse(lines({"192.0.2.7:27960|pw|My server", "host.example|x|Named"}));
+        QVERIFY(read);
+        QCOMPARE(read->size(), 2);
+        QCOMPARE(read->at(0), (Favourite{"192.0.2.7", 27960, "My server", "pw"}));
+        QCOMPARE(read->at(1), (Favourite{"host.example", 27960, "Named", "x"}));
+    }
+
+    void missingPortReadsAsTheDefault()
+    {
+        const auto read = Favourites::parse(lines({"1.2.3.4:28004||A", "host|pw|name", "5.6.7.8:abc||B"}));
+        QCOMPARE(read->at(1).port, 27960);
+        QCOMPARE(read->at(2).port, 0);
+    }
+
+    void emptyAddressOnTheFirstLineHasPortZero()
+    {
+        const auto read = Favourites::parse(lines({"||first", "||second"}));
+        QCOMPARE(read->at(0), (Favourite{"", 0, "first", ""}));
+        QCOMPARE(read->at(1), (Favourite{"", 27960, "second", ""}));
+    }
+
+    void lastLineWithoutLineEndLosesTwoCharacters()
+    {
+        const auto read = Favourites::parse(QByteArray("1.2.3.4:1\x01\x01Server\r\n5.6.7.8:2\x01\x01Last"));
+        QCOMPARE(read->size(), 2);
+        QCOMPARE(read->at(0).name, QStringLiteral("Server"));
+        QCOMPARE(read->at(1).name, QStringLiteral("La"));
+        QCOMPARE(Favourites::parse(QByteArray("a:1\x01\x01X"))->at(0).name, QString());
+    }
+
+    void bareLineFeedsLoseNothing()
+    {
+        const auto read = Favourites::parse(QByteArray("1.2.3.4:1\x01pw\x01Linux edited\n5.6.7.8:2\x01\x01Two\n"));
+        QCOMPARE(read->size(), 2);
+        QCOMPARE(read->at(0).name, QStringLiteral("Linux edited"));
+        QCOMPARE(read->at(1).name, QStringLiteral("Two"));
+    }
+
+    void blankLinesAreSkipped()
+    {
+        const auto read = Favourites::parse("\r\n" + lines({"1.2.3.4:1||A"}) + "\r\n\n" + lines({"5.6.7.8:2||B"}));
+        QCOMPARE(read->size(), 2);
+        QCOMPARE(read->at(1).name, QStringLiteral("B"));
+    }
+
+    void tooShortOrMissingFilesHaveNoFavourites()
+    {
+        QVERIFY(!Favourites::parse(QByteArray("a\x01\x01")));
+        QVERIFY(!Favourites::parse(QByteArray()));
+        QVERIFY(!Favourites::readFile(QStringLiteral("/nonexistent/favourites.dat")));
+    }
+
+    void lineWithoutSeparatorsEndsTheReading()
+    {
+        const auto read = Favourites::parse(lines({"1.2.3.4:1||A", "garbage line", "5.6.7.8:2||B"}));
+        QVERIFY(read);
+        QVERIFY(read->size() <= 2);
+        QCOMPARE(read->at(0).name, QStringLiteral("A"));
+        // Pure binary never crashes either.
+        QByteArray noise;
+        for (int i = 0; i < 3000; ++i)
+            noise += char((i * 131) % 256);
+        QVERIFY(Favourites::parse(noise).has_value());
+    }
+
+    void bytesAreLatin1()
+    {
+        const auto read = Favourites::parse(QByteArray("1.2.3.4:1\x01\xE9\x01"
+                                                       "Caf\xE9\r\n"));
+        QCOMPARE(read->at(0).name, QStringLiteral("Caf\u00e9"));
+        QCOMPARE(read->at(0).password, QStringLiteral("\u00e9"));
+    }
+
+    void asAddressTable()
+    {
+        QTemporaryDir dir;
+        QFile file(dir.filePath(Favourites::FileName));
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        file.write(lines({"127.0.0.1:27961|secret|Local", "127.0.0.1:27962||Other"}));
+        file.close();
+        const AddressTable table = Favourites::toAddressTable(*Favourites::readFile(file.fileName()));
+        QCOMPARE(table.count(), 2);
+        QCOMPARE(table.at(0), (AddressEntry{"127.0.0.1", 27961, "Local", "secret"}));
+    }
+};
+
+QTEST_APPLESS_MAIN(TestFavourites)
+#include "tst_favourites.moc"
