@@ -1,0 +1,10 @@
+#pragma once
+
+namespace SystemLimits {
+
+// Lets the process keep up to `wanted` sockets and files open, as far as
+// the system allows; returns the limit now in force (or -1 when the
+// platform has no such limit to raise).
+long raiseOpenFileLimit(long wanted);
+
+} // namespace SystemLimits

@@ -1,0 +1,54 @@
+#pragma once
+
+#include "masteraddress.h"
+#include "queryerror.h"
+#include "records.h"
+
+#include <QHostAddress>
+#include <QObject>
+
+#include <optional>
+
+class QTimer;
+class QUdpSocket;
+
+// Asks the master server for the list of game servers and gathers its
+// reply datagrams until one shorter than a full datagram arrives.
+class MasterQuery final : public QObject {
+    Q_OBJECT
+    Q_DISABLE_COPY_MOVE(MasterQuery)
+
+public:
+    // No datagram within this time of the request (or of the last full
+    // datagram) ends the master query.
+    static constexpr int TimeoutMs = 2000;
+
+    explicit MasterQuery(QObject* parent = nullptr);
+    ~MasterQuery() override;
+
+    std::optional<QueryError> start(const MasterAddress& master, quint16 localPort);
+    void cancel();
+    bool isRunning() const;
+    int droppedDatagrams() const { return m_dropped; }
+
+signals:
+    void receiving();
+    void sorting();
+    void addressesReady(const AddressTable& table);
+    void timedOut();
+    void failed(const QueryError& error);
+
+private:
+    void send();
+    void readReplies();
+    void finish();
+    void stop();
+
+    QUdpSocket* m_socket = nullptr;
+    QTimer* m_timer = nullptr;
+    int m_lookupId = -1;
+    MasterAddress m_master;
+    QHostAddress m_target;
+    QByteArray m_gathered;
+    int m_dropped = 0;
+};

@@ -1,0 +1,245 @@
+#include "queryscheduler.h"
+
+#include "infoprotocol.h"
+
+#include <QHostInfo>
+#include <QNetworkDatagram>
+#include <QTimer>
+#include <QUdpSocket>
+
+QueryScheduler::QueryScheduler(QObject* parent)
+    : QObject(parent)
+{
+    for (int index = 0; index < int(m_slots.size()); ++index) {
+        Slot& slot = m_slots[index];
+        slot.timer = new QTimer(this);
+        slot.timer->setSingleShot(true);
+        slot.timer->setInterval(TimeoutMs);
+        slot.timer->setTimerType(Qt::PreciseTimer);
+        connect(slot.timer, &QTimer::timeout, this, [this, index] { timeOut(index); });
+    }
+}
+
+QueryScheduler::~QueryScheduler()
+{
+    cancel();
+}
+
+void QueryScheduler::setPool(int lastSocketIndex, quint16 startPort)
+{
+    m_lastSocketIndex = std::clamp(lastSocketIndex, 0, QuerySpeed::PoolCapacity - 1);
+    m_startPort = startPort;
+}
+
+std::optional<QueryError> QueryScheduler::bindSlot(int index)
+{
+    Slot& slot = m_slots[index];
+    if (slot.socket)
+        return std::nullopt;
+    const int port = m_startPort + index;
+    auto* socket = new QUdpSocket(this);
+    // No ShareAddress or ReuseAddressHint: a port in use must fail here,
+    // not silently share its datagrams with another program.
+    if (port > 65535 || !socket->bind(QHostAddress::AnyIPv4, quint16(port), QAbstractSocket::DefaultForPlatform)) {
+        QueryError error{QueryError::Kind::PortUnavailable, QString::number(port),
+                         port > 65535 ? QStringLiteral("beyond 65535") : socket->errorString()};
+        delete socket;
+        return error;
+    }
+    connect(socket, &QUdpSocket::readyRead, this, [this, index] { readReplies(index); });
+    slot.socket = socket;
+    return std::nullopt;
+}
+
+void QueryScheduler::closeSlot(int index)
+{
+    Slot& slot = m_slots[index];
+    slot.timer->stop();
+    if (slot.lookupId >= 0)
+        QHostInfo::abortHostLookup(slot.lookupId);
+    slot.lookupId = -1;
+    slot.busy = false;
+    slot.refresh = false;
+    if (slot.socket) {
+        slot.socket->disconnect(this);
+        slot.socket->close();
+        slot.socket->deleteLater();
+        slot.socket = nullptr;
+    }
+}
+
+std::optional<QueryError> QueryScheduler::openPool()
+{
+    for (int index = 0; index <= m_lastSocketIndex; ++index) {
+        if (auto error = bindSlot(index)) {
+            closePool();
+            return error;
+        }
+    }
+    return std::nullopt;
+}
+
+void QueryScheduler::closePool()
+{
+    for (int index = 0; index < int(m_slots.size()); ++index)
+        closeSlot(index);
+}
+
+int QueryScheduler::busySockets() const
+{
+    return int(std::count_if(m_slots.begin(), m_slots.end(), [](const Slot& slot) { return slot.busy; }));
+}
+
+int QueryScheduler::lowestFreeSlot() const
+{
+    for (int index = 0; index <= m_lastSocketIndex; ++index) {
+        if (!m_slots[index].busy)
+            return index;
+    }
+    return -1;
+}
+
+void QueryScheduler::run(const AddressTable& table)
+{
+    m_table = table;
+    m_next = 0;
+    m_sent = 0;
+    m_answered = 0;
+    m_timedOut = 0;
+    m_dropped = 0;
+    m_running = true;
+    pump();
+}
+
+void QueryScheduler::cancel()
+{
+    m_running = false;
+    closePool();
+}
+
+std::optional<QueryError> QueryScheduler::refresh(const QString& address, int port)
+{
+    const int index = lowestFreeSlot();
+    if (index < 0)
+        return std::nullopt;
+    if (auto error = bindSlot(index))
+        return error;
+    sendOn(index, address, port, true);
+    return std::nullopt;
+}
+
+void QueryScheduler::pump()
+{
+    while (m_running && m_next < m_table.count()) {
+        const int index = lowestFreeSlot();
+        if (index < 0)
+            return;
+        const AddressEntry& entry = m_table.at(m_next++);
+        ++m_sent;
+        sendOn(index, entry.address, entry.port, false);
+        emit requestSent(m_sent, m_table.count());
+    }
+    if (m_running && m_next >= m_table.count() && busySockets() == 0) {
+        m_running = false;
+        emit finished();
+    }
+}
+
+void QueryScheduler::sendOn(int index, const QString& address, int port, bool refresh)
+{
+    Slot& slot = m_slots[index];
+    slot.busy = true;
+    slot.refresh = refresh;
+    slot.address = address;
+    slot.port = port;
+    slot.targetPort = 0;
+    if (port <= 0 || port > 65535 || !slot.socket) {
+        // Nothing can be sent there: the server counts as silent.
+        QMetaObject::invokeMethod(
+            this, [this, index] { timeOut(index); }, Qt::QueuedConnection);
+        return;
+    }
+    slot.targetPort = quint16(port);
+    const QHostAddress literal(address);
+    if (!literal.isNull()) {
+        slot.target = literal;
+        transmit(index);
+        return;
+    }
+    // A favourite may name a host; resolve it first (Qt caches lookups).
+    slot.timer->start();
+    slot.lookupId = QHostInfo::lookupHost(address, this, [this, index](const QHostInfo& info) {
+        Slot& resolved = m_slots[index];
+        resolved.lookupId = -1;
+        if (!resolved.busy)
+            return;
+        const auto addresses = info.addresses();
+        const auto v4 = std::find_if(addresses.begin(), addresses.end(), [](const QHostAddress& candidate) {
+            return candidate.protocol() == QAbstractSocket::IPv4Protocol;
+        });
+        if (v4 == addresses.end()) {
+            timeOut(index);
+            return;
+        }
+        resolved.target = *v4;
+        transmit(index);
+    });
+}
+
+void QueryScheduler::transmit(int index)
+{
+    Slot& slot = m_slots[index];
+    slot.socket->writeDatagram(InfoProtocol::getInfoRequest(), slot.target, slot.targetPort);
+    slot.clock.start();
+    slot.timer->start();
+}
+
+void QueryScheduler::release(int index)
+{
+    Slot& slot = m_slots[index];
+    slot.timer->stop();
+    slot.busy = false;
+    // Outside a query a refreshed server's socket is not kept bound.
+    if (slot.refresh && !m_running)
+        closeSlot(index);
+    slot.refresh = false;
+}
+
+void QueryScheduler::readReplies(int index)
+{
+    Slot& slot = m_slots[index];
+    while (slot.socket && slot.socket->hasPendingDatagrams()) {
+        const QNetworkDatagram datagram = slot.socket->receiveDatagram();
+        if (!slot.busy || slot.targetPort == 0 || datagram.senderPort() != slot.targetPort ||
+            !datagram.senderAddress().isEqual(slot.target, QHostAddress::ConvertV4MappedToIPv4)) {
+            ++m_dropped;
+            continue;
+        }
+        ServerRecord server = InfoProtocol::parseReply(datagram.data());
+        server.address = slot.address;
+        server.port = slot.port;
+        server.ping = int(std::min<qint64>(slot.clock.elapsed(), MaxPing));
+        const bool refresh = slot.refresh;
+        ++m_answered;
+        release(index);
+        emit serverAnswered(server, refresh);
+        if (!refresh)
+            pump();
+    }
+}
+
+void QueryScheduler::timeOut(int index)
+{
+    Slot& slot = m_slots[index];
+    if (!slot.busy)
+        return;
+    if (slot.lookupId >= 0) {
+        QHostInfo::abortHostLookup(slot.lookupId);
+        slot.lookupId = -1;
+    }
+    const bool refresh = slot.refresh;
+    ++m_timedOut;
+    release(index);
+    if (!refresh)
+        pump();
+}

@@ -1,0 +1,275 @@
+#include "infoprotocol.h"
+#include "queryscheduler.h"
+#include "simfleet.h"
+
+#include <QElapsedTimer>
+#include <QSignalSpy>
+#include <QTest>
+#include <QUdpSocket>
+
+namespace {
+
+constexpr quint16 PoolPort = 41100;
+
+FleetOptions fleetOf(int servers, quint16 firstPort, int delayMs = 0)
+{
+    FleetOptions options;
+    options.servers = servers;
+    options.firstServerPort = firstPort;
+    options.masterPort = quint16(firstPort - 1);
+    options.delayMs = delayMs;
+    options.seed = firstPort;
+    return options;
+}
+
+AddressTable tableOf(const SimFleet& fleet)
+{
+    AddressTable table;
+    for (const auto& server : fleet.servers())
+        table.add(QStringLiteral("127.0.0.1"), server.port);
+    return table;
+}
+
+QList<ServerRecord> answers(const QSignalSpy& spy)
+{
+    QList<ServerRecord> records;
+    for (const auto& arguments : spy)
+        records.append(arguments.at(0).value<ServerRecord>());
+    return records;
+}
+
+} // namespace
+
+class TestQueryScheduler final : public QObject {
+    Q_OBJECT
+
+private slots:
+    void initTestCase() { qRegisterMetaType<ServerRecord>(); }
+
+    void speedTable()
+    {
+        const int expected[] = {1, 2, 5, 11, 15, 19};
+        for (int speed = 0; speed <= 5; ++speed)
+            QCOMPARE(QuerySpeed::lastSocketIndex(speed, 7), expected[speed]);
+        QCOMPARE(QuerySpeed::lastSocketIndex(6, 19), 19);
+        QCOMPARE(QuerySpeed::lastSocketIndex(-1, 5), 5);
+    }
+
+    void everyServerAnswersOnceWithItsData()
+    {
+        SimFleet fleet(fleetOf(60, 42000));
+        QVERIFY(!fleet.start());
+        QueryScheduler scheduler;
+        scheduler.setPool(5, PoolPort);
+        QVERIFY(!scheduler.openPool());
+        QSignalSpy answered(&scheduler, &QueryScheduler::serverAnswered);
+        QSignalSpy sent(&scheduler, &QueryScheduler::requestSent);
+        QSignalSpy finished(&scheduler, &QueryScheduler::finished);
+        scheduler.run(tableOf(fleet));
+        QTRY_COMPARE_WITH_TIMEOUT(finished.count(), 1, 5000);
+        QCOMPARE(answered.count(), 60);
+        QCOMPARE(sent.count(), 60);
+        QCOMPARE(sent.last().at(0).toInt(), 60);
+        QCOMPARE(sent.last().at(1).toInt(), 60);
+        QVERIFY(!scheduler.isRunning());
+        QCOMPARE(scheduler.busySockets(), 0);
+        for (const ServerRecord& record : answers(answered)) {
+            const auto& server = fleet.servers().at(record.port - 42000);
+            const ServerRecord expected = InfoProtocol::parseReply(server.reply);
+            QCOMPARE(record.address, QStringLiteral("127.0.0.1"));
+            QCOMPARE(record.name, expected.name);
+            QCOMPARE(record.players, expected.players);
+            QCOMPARE(record.tokens, expected.tokens);
+            QVERIFY(record.ping >= 0 && record.ping <= 999);
+            QCOMPARE(answered.first().at(1).toBool(), false);
+        }
+        for (const auto& server : fleet.servers())
+            QCOMPARE(server.requests, 1);
+    }
+
+    void slowestSpeedKeepsTwoRequestsInFlight()
+    {
+        SimFleet fleet(fleetOf(3, 42100, 300));
+        QVERIFY(!fleet.start());
+        QueryScheduler scheduler;
+        scheduler.setPool(QuerySpeed::lastSocketIndex(0, 19), PoolPort);
+        QVERIFY(!scheduler.openPool());
+        QSignalSpy finished(&scheduler, &QueryScheduler::finished);
+        QElapsedTimer clock;
+        clock.start();
+        scheduler.run(tableOf(fleet));
+        QCOMPARE(scheduler.busySockets(), 2);
+        QCOMPARE(scheduler.sentCount(), 2);
+        QTest::qWait(150);
+        QCOMPARE(fleet.infoRequests(), 2); // the third waits for a free socket
+        QTRY_COMPARE_WITH_TIMEOUT(finished.count(), 1, 3000);
+        QCOMPARE(fleet.infoRequests(), 3);
+        QVERIFY2(clock.elapsed() >= 550, "the third request went out only after a reply");
+    }
+
+    void silentServersTimeOutAndAreNotRetried()
+    {
+        FleetOptions options = fleetOf(4, 42200);
+        options.silentFraction = 1.0;
+        SimFleet fleet(options);
+        QVERIFY(!fleet.start());
+        QueryScheduler scheduler;
+        scheduler.setPool(19, PoolPort);
+        QVERIFY(!scheduler.openPool());
+        QSignalSpy answered(&scheduler, &QueryScheduler::serverAnswered);
+        QSignalSpy finished(&scheduler, &QueryScheduler::finished);
+        QElapsedTimer clock;
+        clock.start();
+        scheduler.run(tableOf(fleet));
+        QTRY_COMPARE_WITH_TIMEOUT(finished.count(), 1, 4000);
+        QVERIFY(clock.elapsed() >= QueryScheduler::TimeoutMs - 50);
+        QVERIFY(clock.elapsed() < QueryScheduler::TimeoutMs + 1000);
+        QCOMPARE(answered.count(), 0);
+        QCOMPARE(scheduler.timedOutCount(), 4);
+        QCOMPARE(fleet.infoRequests(), 4);
+    }
+
+    void duplicatesAreQueriedTwice()
+    {
+        SimFleet fleet(fleetOf(2, 42300));
+        QVERIFY(!fleet.start());
+        AddressTable table = tableOf(fleet);
+        table.add(QStringLiteral("127.0.0.1"), 42300);
+        QueryScheduler scheduler;
+        scheduler.setPool(0, PoolPort);
+        QVERIFY(!scheduler.openPool());
+        QSignalSpy answered(&scheduler, &QueryScheduler::serverAnswered);
+        QSignalSpy finished(&scheduler, &QueryScheduler::finished);
+        scheduler.run(table);
+        QTRY_COMPARE_WITH_TIMEOUT(finished.count(), 1, 3000);
+        QCOMPARE(answered.count(), 3);
+        QCOMPARE(fleet.servers().at(0).requests, 2);
+    }
+
+    void emptyTableFinishesAtOnce()
+    {
+        QueryScheduler scheduler;
+        scheduler.setPool(19, PoolPort);
+        QVERIFY(!scheduler.openPool());
+        QSignalSpy finished(&scheduler, &QueryScheduler::finished);
+        scheduler.run(AddressTable());
+        QCOMPARE(finished.count(), 1);
+        QCOMPARE(scheduler.sentCount(), 0);
+    }
+
+    void cancelStopsSendingAndFreesThePorts()
+    {
+        SimFleet fleet(fleetOf(40, 42400, 60));
+        QVERIFY(!fleet.start());
+        QueryScheduler scheduler;
+        scheduler.setPool(1, PoolPort);
+        QVERIFY(!scheduler.openPool());
+        QSignalSpy answered(&scheduler, &QueryScheduler::serverAnswered);
+        QSignalSpy finished(&scheduler, &QueryScheduler::finished);
+        scheduler.run(tableOf(fleet));
+        QTRY_VERIFY_WITH_TIMEOUT(answered.count() >= 4, 3000);
+        scheduler.cancel();
+        const int answeredAtCancel = int(answered.count());
+        const int requestsAtCancel = fleet.infoRequests();
+        QTest::qWait(250);
+        QCOMPARE(answered.count(), answeredAtCancel);
+        QCOMPARE(fleet.infoRequests(), requestsAtCancel);
+        QCOMPARE(finished.count(), 0);
+        QVERIFY(!scheduler.isRunning());
+        QUdpSocket probe;
+        QVERIFY2(probe.bind(QHostAddress::AnyIPv4, PoolPort), "cancel releases the pool's ports");
+    }
+
+    void onlyTheAskedServerIsHeard()
+    {
+        FleetOptions options = fleetOf(1, 42500);
+        options.silentFraction = 1.0;
+        SimFleet fleet(options);
+        QVERIFY(!fleet.start());
+        QueryScheduler scheduler;
+        scheduler.setPool(0, PoolPort);
+        QVERIFY(!scheduler.openPool());
+        QSignalSpy answered(&scheduler, &QueryScheduler::serverAnswered);
+        scheduler.run(tableOf(fleet));
+        QTRY_COMPARE(fleet.infoRequests(), 1);
+
+        // A valid reply, but from a port the request did not go to.
+        QUdpSocket rogue;
+        QVERIFY(rogue.bind(QHostAddress::LocalHost, 42501));
+        rogue.writeDatagram(SimReplies::infoResponse({{"si_name", "impostor"}}, {}), QHostAddress::LocalHost, PoolPort);
+        QTRY_COMPARE(scheduler.droppedDatagrams(), 1);
+        QCOMPARE(answered.count(), 0);
+        QCOMPARE(scheduler.busySockets(), 1);
+    }
+
+    void lateReplyAfterReuseIsNotCreditedToTheNextServer()
+    {
+        // Server 0 answers after its time-out; by then socket 0 waits for
+        // server 1, which is silent. The late reply must be dropped.
+        FleetOptions options = fleetOf(2, 42600, QueryScheduler::TimeoutMs + 300);
+        SimFleet fleet(options);
+        QVERIFY(!fleet.start());
+        QueryScheduler scheduler;
+        scheduler.setPool(0, PoolPort);
+        QVERIFY(!scheduler.openPool());
+        QSignalSpy answered(&scheduler, &QueryScheduler::serverAnswered);
+        QSignalSpy finished(&scheduler, &QueryScheduler::finished);
+        AddressTable table;
+        table.add(QStringLiteral("127.0.0.1"), 42600);
+        table.add(QStringLiteral("127.0.0.1"), 42699); // nobody there
+        scheduler.run(table);
+        QTRY_COMPARE_WITH_TIMEOUT(finished.count(), 1, 5000);
+        QTRY_COMPARE_WITH_TIMEOUT(scheduler.droppedDatagrams(), 1, 2000);
+        QCOMPARE(answered.count(), 0);
+    }
+
+    void refreshQueriesOneServerOutsideAQuery()
+    {
+        SimFleet fleet(fleetOf(3, 42700));
+        QVERIFY(!fleet.start());
+        QueryScheduler scheduler;
+        scheduler.setPool(19, PoolPort);
+        QSignalSpy answered(&scheduler, &QueryScheduler::serverAnswered);
+        QVERIFY(!scheduler.refresh(QStringLiteral("127.0.0.1"), 42701));
+        QTRY_COMPARE(answered.count(), 1);
+        QCOMPARE(answered.first().at(0).value<ServerRecord>().port, 42701);
+        QCOMPARE(answered.first().at(1).toBool(), true);
+        QCOMPARE(fleet.infoRequests(), 1);
+        QTRY_COMPARE(scheduler.busySockets(), 0);
+        QUdpSocket probe;
+        QVERIFY2(probe.bind(QHostAddress::AnyIPv4, PoolPort), "a refresh does not keep its port");
+    }
+
+    void portInUseIsReportedAndNothingStaysBound()
+    {
+        QUdpSocket squatter;
+        QVERIFY(squatter.bind(QHostAddress::AnyIPv4, PoolPort + 3));
+        QueryScheduler scheduler;
+        scheduler.setPool(5, PoolPort);
+        const auto error = scheduler.openPool();
+        QVERIFY(error);
+        QCOMPARE(error->kind, QueryError::Kind::PortUnavailable);
+        QCOMPARE(error->detail, QString::number(PoolPort + 3));
+        QVERIFY(error->message().contains(QString::number(PoolPort + 3)));
+        QUdpSocket probe;
+        QVERIFY(probe.bind(QHostAddress::AnyIPv4, PoolPort));
+    }
+
+    void unusablePortsCountAsSilent()
+    {
+        QueryScheduler scheduler;
+        scheduler.setPool(1, PoolPort);
+        QVERIFY(!scheduler.openPool());
+        QSignalSpy finished(&scheduler, &QueryScheduler::finished);
+        AddressTable table;
+        table.add(QStringLiteral("127.0.0.1"), 0);
+        table.add(QStringLiteral("127.0.0.1"), 70000);
+        scheduler.run(table);
+        QTRY_COMPARE(finished.count(), 1);
+        QCOMPARE(scheduler.sentCount(), 2);
+        QCOMPARE(scheduler.timedOutCount(), 2);
+    }
+};
+
+QTEST_GUILESS_MAIN(TestQueryScheduler)
+#include "tst_queryscheduler.moc"

@@ -1,0 +1,199 @@
+#include "masterprotocol.h"
+#include "querysession.h"
+#include "simfleet.h"
+
+#include <QElapsedTimer>
+#include <QSignalSpy>
+#include <QTest>
+#include <QUdpSocket>
+
+namespace {
+
+constexpr quint16 PoolPort = 41200;
+
+FleetOptions fleetOf(int servers, quint16 masterPort)
+{
+    FleetOptions options;
+    options.servers = servers;
+    options.masterPort = masterPort;
+    options.firstServerPort = quint16(masterPort + 1);
+    options.seed = masterPort;
+    return options;
+}
+
+MasterAddress masterAt(quint16 port)
+{
+    return MasterAddress{QStringLiteral("127.0.0.1"), port};
+}
+
+} // namespace
+
+class TestQuerySession final : public QObject {
+    Q_OBJECT
+
+private slots:
+    void initTestCase() { qRegisterMetaType<ServerRecord>(); }
+
+    void masterListIsQueriedThroughThePhases()
+    {
+        SimFleet fleet(fleetOf(300, 23000)); // two master datagrams
+        QVERIFY(!fleet.start());
+        QuerySession session;
+        session.setPool(19, PoolPort);
+        QSignalSpy phases(&session, &QuerySession::phaseChanged);
+        QSignalSpy answered(&session, &QuerySession::serverAnswered);
+        QSignalSpy finished(&session, &QuerySession::finished);
+        QVERIFY(!session.startMaster(masterAt(23000)));
+        QCOMPARE(session.phase(), QuerySession::Phase::Requesting);
+        QTRY_COMPARE_WITH_TIMEOUT(finished.count(), 1, 10000);
+        QCOMPARE(answered.count(), 300);
+        QCOMPARE(session.addresses().count(), 300);
+        QCOMPARE(session.addresses().at(299).port, 23300);
+        QList<QuerySession::Phase> seen;
+        for (const auto& arguments : phases)
+            seen.append(arguments.at(0).value<QuerySession::Phase>());
+        QCOMPARE(seen.first(), QuerySession::Phase::Requesting);
+        QVERIFY(seen.contains(QuerySession::Phase::Receiving));
+        QVERIFY(seen.contains(QuerySession::Phase::Sorting));
+        QVERIFY(seen.contains(QuerySession::Phase::Querying));
+        QCOMPARE(seen.last(), QuerySession::Phase::Idle);
+        QVERIFY(!session.isRunning());
+        QCOMPARE(session.droppedDatagrams(), 0);
+    }
+
+    void masterPortLiesThreeAboveThePool()
+    {
+        QuerySession session;
+        session.setPool(QuerySpeed::lastSocketIndex(0, 19), 9000);
+        QCOMPARE(session.masterLocalPort(), 9004);
+        session.setPool(QuerySpeed::lastSocketIndex(5, 19), 9000);
+        QCOMPARE(session.masterLocalPort(), 9022);
+    }
+
+    void silentMasterTimesOutAndARetryWorks()
+    {
+        SimFleet fleet(fleetOf(5, 23400));
+        QVERIFY(!fleet.start());
+        fleet.setMasterSilent(true);
+        QuerySession session;
+        session.setPool(1, PoolPort);
+        QSignalSpy timedOut(&session, &QuerySession::masterTimedOut);
+        QSignalSpy finished(&session, &QuerySession::finished);
+        QElapsedTimer clock;
+        clock.start();
+        QVERIFY(!session.startMaster(masterAt(23400)));
+        QTRY_COMPARE_WITH_TIMEOUT(timedOut.count(), 1, 4000);
+        QVERIFY(clock.elapsed() >= MasterQuery::TimeoutMs - 50);
+        QVERIFY(!session.isRunning());
+        QCOMPARE(finished.count(), 0);
+
+        fleet.setMasterSilent(false);
+        QVERIFY(!session.startMaster(masterAt(23400)));
+        QTRY_COMPARE_WITH_TIMEOUT(finished.count(), 1, 4000);
+        QCOMPARE(session.addresses().count(), 5);
+        QCOMPARE(fleet.masterRequests(), 2);
+    }
+
+    void fullLastDatagramWaitsForTheTimeOut()
+    {
+        SimFleet fleet(fleetOf(1, 23500));
+        QVERIFY(!fleet.start());
+        QByteArray full = MasterProtocol::replyHeader();
+        full.append(231 * 6, '\x01');
+        fleet.setMasterDatagrams({full});
+        QuerySession session;
+        session.setPool(1, PoolPort);
+        QSignalSpy timedOut(&session, &QuerySession::masterTimedOut);
+        QSignalSpy phases(&session, &QuerySession::phaseChanged);
+        QVERIFY(!session.startMaster(masterAt(23500)));
+        QTRY_COMPARE_WITH_TIMEOUT(timedOut.count(), 1, 4000);
+        QCOMPARE(session.addresses().count(), 0);
+        QVERIFY(phases.count() >= 2); // requesting, receiving, then idle
+    }
+
+    void tooLongAListEndsWithAClearError()
+    {
+        SimFleet fleet(fleetOf(1, 23600));
+        QVERIFY(!fleet.start());
+        QList<QPair<quint32, quint16>> listed;
+        for (int i = 0; i < MasterProtocol::MaxRecords + 1; ++i)
+            listed.append({0x7F000001u, quint16(20000 + i % 1000)});
+        fleet.setMasterDatagrams(SimReplies::serverList(listed));
+        QuerySession session;
+        session.setPool(1, PoolPort);
+        QSignalSpy failed(&session, &QuerySession::failed);
+        QVERIFY(!session.startMaster(masterAt(23600)));
+        QTRY_COMPARE_WITH_TIMEOUT(failed.count(), 1, 4000);
+        QCOMPARE(failed.first().at(0).value<QueryError>().kind, QueryError::Kind::TooManyServers);
+        QVERIFY(!session.isRunning());
+    }
+
+    void masterPortInUseStopsBeforeSending()
+    {
+        QUdpSocket squatter;
+        QVERIFY(squatter.bind(QHostAddress::AnyIPv4, PoolPort + 1 + QuerySpeed::MasterPortOffset));
+        QuerySession session;
+        session.setPool(1, PoolPort);
+        const auto error = session.startMaster(masterAt(23700));
+        QVERIFY(error);
+        QCOMPARE(error->kind, QueryError::Kind::PortUnavailable);
+        QVERIFY(!session.isRunning());
+        QUdpSocket probe;
+        QVERIFY2(probe.bind(QHostAddress::AnyIPv4, PoolPort), "the pool was released again");
+    }
+
+    void unknownMasterHostFailsClearly()
+    {
+        QuerySession session;
+        session.setPool(1, PoolPort);
+        QSignalSpy failed(&session, &QuerySession::failed);
+        QSignalSpy timedOut(&session, &QuerySession::masterTimedOut);
+        QVERIFY(!session.startMaster(MasterAddress{QStringLiteral("no-such-host.invalid"), 27650}));
+        QTRY_VERIFY_WITH_TIMEOUT(failed.count() + timedOut.count() == 1, 5000);
+        QVERIFY(!session.isRunning());
+    }
+
+    void answersFromAForeignAddressAreDropped()
+    {
+        SimFleet fleet(fleetOf(2, 23800));
+        QVERIFY(!fleet.start());
+        // The master lists a server that is not the fleet's; a rogue then
+        // sends the master's reply from another port.
+        QuerySession session;
+        session.setPool(1, PoolPort);
+        fleet.setMasterSilent(true);
+        QSignalSpy timedOut(&session, &QuerySession::masterTimedOut);
+        QVERIFY(!session.startMaster(masterAt(23800)));
+        QUdpSocket rogue;
+        QVERIFY(rogue.bind(QHostAddress::LocalHost, 23899));
+        QTRY_COMPARE(fleet.masterRequests(), 1);
+        rogue.writeDatagram(MasterProtocol::replyHeader() + QByteArray("\x7F\0\0\x01\x10\x27", 6),
+                            QHostAddress::LocalHost, session.masterLocalPort());
+        QTRY_COMPARE(session.droppedDatagrams(), 1);
+        QTRY_COMPARE_WITH_TIMEOUT(timedOut.count(), 1, 4000);
+    }
+
+    void favouritesRunWithoutTheMaster()
+    {
+        SimFleet fleet(fleetOf(3, 23900));
+        QVERIFY(!fleet.start());
+        AddressTable table;
+        table.add(QStringLiteral("localhost"), 23901, QStringLiteral("by name"));
+        table.add(QStringLiteral("127.0.0.1"), 23902);
+        QuerySession session;
+        session.setPool(1, PoolPort);
+        QSignalSpy answered(&session, &QuerySession::serverAnswered);
+        QSignalSpy finished(&session, &QuerySession::finished);
+        QVERIFY(!session.startAddresses(table));
+        QTRY_COMPARE_WITH_TIMEOUT(finished.count(), 1, 4000);
+        QCOMPARE(answered.count(), 2);
+        QCOMPARE(fleet.masterRequests(), 0);
+        QStringList addresses;
+        for (const auto& arguments : answered)
+            addresses.append(arguments.at(0).value<ServerRecord>().endpointText());
+        QVERIFY(addresses.contains(QStringLiteral("localhost:23901")));
+    }
+};
+
+QTEST_GUILESS_MAIN(TestQuerySession)
+#include "tst_querysession.moc"

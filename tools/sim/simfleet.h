@@ -1,0 +1,77 @@
+#pragma once
+
+#include "simreplies.h"
+
+#include <QHostAddress>
+#include <QList>
+#include <QObject>
+
+#include <optional>
+
+class QUdpSocket;
+
+struct FleetOptions {
+    int servers = 200;
+    QHostAddress address = QHostAddress::LocalHost;
+    quint16 masterPort = 27950;
+    quint16 firstServerPort = 28000;
+    double silentFraction = 0.0; // share of servers that never answer
+    int delayMs = 0;             // before each reply
+    int jitterMs = 0;            // added at random, 0 to this
+    int playersPerServer = 8;    // at most; each server gets 0 to this many
+    quint32 seed = 1;            // same seed, same names, maps and players
+};
+
+// A master server and a fleet of game servers, each on its own UDP port,
+// answering as real ones do.
+class SimFleet final : public QObject {
+    Q_OBJECT
+    Q_DISABLE_COPY_MOVE(SimFleet)
+
+public:
+    struct Server {
+        quint16 port = 0;
+        bool silent = false;
+        SimReplies::Rules rules;
+        QList<SimReplies::Player> players;
+        QByteArray reply;
+        int requests = 0;
+    };
+
+    explicit SimFleet(const FleetOptions& options, QObject* parent = nullptr);
+    ~SimFleet() override;
+
+    // Binds the master and every server; the error text when a port is taken.
+    std::optional<QString> start();
+    void stop();
+
+    const FleetOptions& options() const { return m_options; }
+    const QList<Server>& servers() const { return m_servers; }
+    int answeringServers() const;
+    int masterRequests() const { return m_masterRequests; }
+    int infoRequests() const { return m_infoRequests; }
+
+    // Replaces what the master sends (for lists with duplicates, odd
+    // lengths or foreign addresses); by default it lists the fleet.
+    void setMasterDatagrams(const QList<QByteArray>& datagrams) { m_masterDatagrams = datagrams; }
+    // Makes the master keep quiet, as an unreachable one is.
+    void setMasterSilent(bool silent) { m_masterSilent = silent; }
+
+signals:
+    void masterQueried();
+
+private:
+    void generate();
+    void answerMaster();
+    void answer(int index);
+
+    FleetOptions m_options;
+    QList<Server> m_servers;
+    QList<QUdpSocket*> m_sockets;
+    QUdpSocket* m_master = nullptr;
+    QList<QByteArray> m_masterDatagrams;
+    bool m_masterSilent = false;
+    int m_masterRequests = 0;
+    int m_infoRequests = 0;
+    quint32 m_jitterState = 0;
+};
