@@ -1,4 +1,5 @@
 #include "desktop.h"
+#include "folders.h"
 #include "frmmain.h"
 #include "language.h"
 #include "settingsstore.h"
@@ -15,7 +16,7 @@ int main(int argc, char* argv[])
     SettingsStore settings;
     QtDesktop desktop;
     Language language;
-    FrmMain window(settings, desktop, language);
+    FrmMain window(settings, desktop, language, Folders::dataFolder());
     window.show();
     return QApplication::exec();
 }

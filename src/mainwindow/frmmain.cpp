@@ -2,15 +2,20 @@
 
 #include "columnlayout.h"
 #include "desktop.h"
+#include "favourites.h"
 #include "historycombobox.h"
 #include "language.h"
+#include "masteraddress.h"
+#include "playerlistmodel.h"
 #include "reportmodel.h"
+#include "serverlistmodel.h"
 #include "settingskeys.h"
 #include "settingsstore.h"
 
 #include <QAction>
 #include <QApplication>
 #include <QCloseEvent>
+#include <QDir>
 #include <QFrame>
 #include <QHBoxLayout>
 #include <QHeaderView>
@@ -18,6 +23,7 @@
 #include <QMenu>
 #include <QProgressBar>
 #include <QPushButton>
+#include <QSortFilterProxyModel>
 #include <QSplitter>
 #include <QTabBar>
 #include <QTreeView>
@@ -25,7 +31,8 @@
 
 namespace {
 
-QTreeView* createReportList(QWidget* parent, const char* objectName, ReportModel* model)
+QTreeView* createReportList(QWidget* parent, const char* objectName, QAbstractItemModel* model,
+                            std::span<const ListColumn> columns)
 {
     auto* view = new QTreeView(parent);
     view->setObjectName(QLatin1String(objectName));
@@ -42,7 +49,6 @@ QTreeView* createReportList(QWidget* parent, const char* objectName, ReportModel
     header->setStretchLastSection(false);
     header->setSectionsClickable(true);
     header->setSectionsMovable(true);
-    const auto columns = model->columns();
     for (int column = 0; column < int(columns.size()); ++column)
         header->resizeSection(column, columns[column].designWidth);
     return view;
@@ -88,11 +94,12 @@ void setFirstPaneSize(QSplitter& splitter, int size)
 
 } // namespace
 
-FrmMain::FrmMain(SettingsStore& settings, Desktop& desktop, Language& language, QWidget* parent)
+FrmMain::FrmMain(SettingsStore& settings, Desktop& desktop, Language& language, QString dataFolder, QWidget* parent)
     : QWidget(parent)
     , m_settings(settings)
     , m_desktop(desktop)
     , m_language(language)
+    , m_dataFolder(std::move(dataFolder))
 {
     setObjectName(QStringLiteral("frmMain"));
     setMinimumSize(MinimumSize);
@@ -122,20 +129,27 @@ void FrmMain::createControls()
     tabSelect->addTab(QString());
     tabSelect->setExpanding(false);
 
-    m_serverModel = new ReportModel(ListColumns::serverList(), this);
-    m_playerModel = new ReportModel(ListColumns::playerList(), this);
+    m_serverModel = new ServerListModel(this);
+    m_playerModel = new PlayerListModel(*m_serverModel, this);
+    // The visible lists: what passes the filters, in the order the user sorted.
+    m_visibleServers = new QSortFilterProxyModel(this);
+    m_visibleServers->setDynamicSortFilter(false);
+    m_visibleServers->setSourceModel(m_serverModel);
+    m_visiblePlayers = new QSortFilterProxyModel(this);
+    m_visiblePlayers->setDynamicSortFilter(false);
+    m_visiblePlayers->setSourceModel(m_playerModel);
     m_serverPlayersModel = new ReportModel(ListColumns::serverPlayers(), this);
     m_serverRulesModel = new ReportModel(ListColumns::serverRules(), this);
 
     rzrPSI = new QSplitter(Qt::Vertical, this);
     rzrPSI->setObjectName(QStringLiteral("rzrPSI"));
     rzrPSI->setChildrenCollapsible(false);
-    lstServerList = createReportList(rzrPSI, "lstServerList", m_serverModel);
+    lstServerList = createReportList(rzrPSI, "lstServerList", m_visibleServers, ListColumns::serverList());
     rzrSPSI = new QSplitter(Qt::Horizontal, rzrPSI);
     rzrSPSI->setObjectName(QStringLiteral("rzrSPSI"));
     rzrSPSI->setChildrenCollapsible(false);
-    lvwPlayers = createReportList(rzrSPSI, "lvwPlayers", m_serverPlayersModel);
-    lvwServerInfo = createReportList(rzrSPSI, "lvwServerInfo", m_serverRulesModel);
+    lvwPlayers = createReportList(rzrSPSI, "lvwPlayers", m_serverPlayersModel, ListColumns::serverPlayers());
+    lvwServerInfo = createReportList(rzrSPSI, "lvwServerInfo", m_serverRulesModel, ListColumns::serverRules());
     rzrPSI->addWidget(lstServerList);
     rzrPSI->addWidget(rzrSPSI);
     rzrSPSI->addWidget(lvwPlayers);
@@ -146,7 +160,7 @@ void FrmMain::createControls()
     rzrPSI->setStretchFactor(1, 1);
     rzrSPSI->setStretchFactor(0, 0);
     rzrSPSI->setStretchFactor(1, 1);
-    lstPlayerList = createReportList(this, "lstPlayerList", m_playerModel);
+    lstPlayerList = createReportList(this, "lstPlayerList", m_visiblePlayers, ListColumns::playerList());
 
     lblSName = createLabel(this, "lblSName");
     mclSName = createLabel(this, "mclSName");
@@ -173,6 +187,13 @@ void FrmMain::createControls()
     lblPlayers = createLabel(this, "lblPlayers");
     lblServers = createLabel(this, "lblServers");
     lblStatus = createLabel(this, "lblStatus");
+    // The status colours (orange, yellow, green, red) read best on black.
+    lblStatus->setAutoFillBackground(true);
+    QPalette statusPalette = lblStatus->palette();
+    statusPalette.setColor(QPalette::Window, Qt::black);
+    lblStatus->setPalette(statusPalette);
+    lblStatus->setMinimumHeight(2 * lblStatus->fontMetrics().height() + 4);
+    lblStatus->setContentsMargins(4, 0, 4, 0);
     prbProgress = new QProgressBar(this);
     prbProgress->setObjectName(QStringLiteral("prbProgress"));
     prbProgress->setRange(0, 1);
@@ -185,12 +206,31 @@ void FrmMain::createControls()
     cmdFav = createButton(fraQuery, "cmdFav");
     cmdCancel = createButton(fraQuery, "cmdCancel");
     cmdCancel->setEnabled(false);
+    cmdCancel->setVisible(false);
     cmdOrganise = createButton(this, "cmdOrganise");
     cmdFilters = createButton(this, "cmdFilters");
     cmdOptions = createButton(this, "cmdOptions");
     cmdExit = createButton(this, "cmdExit");
 
     connect(cmdExit, &QPushButton::clicked, this, &QWidget::close);
+    connect(cmdGet, &QPushButton::clicked, this, &FrmMain::startMasterQuery);
+    connect(cmdFav, &QPushButton::clicked, this, &FrmMain::startFavouritesQuery);
+    connect(cmdCancel, &QPushButton::clicked, this, &FrmMain::cancelQuery);
+    connect(lstServerList, &QAbstractItemView::clicked, this, &FrmMain::serverClicked);
+
+    m_flushTimer.setSingleShot(true);
+    m_flushTimer.setInterval(40);
+    connect(&m_flushTimer, &QTimer::timeout, this, &FrmMain::flushAnswers);
+    connect(&m_session, &QuerySession::phaseChanged, this, &FrmMain::showPhase);
+    connect(&m_session, &QuerySession::requestSent, this, [this](int sent, int total) {
+        prbProgress->setMaximum(std::max(total, 1));
+        prbProgress->setValue(sent);
+    });
+    connect(&m_session, &QuerySession::serverAnswered, this, &FrmMain::queueAnswer);
+    connect(&m_session, &QuerySession::finished, this, &FrmMain::finishQuery);
+    // The Retry/Cancel box is modal: open it once the engine has unwound.
+    connect(&m_session, &QuerySession::masterTimedOut, this, &FrmMain::masterTimedOut, Qt::QueuedConnection);
+    connect(&m_session, &QuerySession::failed, this, &FrmMain::queryFailed);
     connect(tabSelect, &QTabBar::currentChanged, this, &FrmMain::showView);
     connect(rzrPSI, &QSplitter::splitterMoved, this, &FrmMain::saveSplitters);
     connect(rzrSPSI, &QSplitter::splitterMoved, this, &FrmMain::saveSplitters);
@@ -337,7 +377,8 @@ void FrmMain::retranslateUi()
         copyAll->setText(tr("&Copy All"));
     mPopSelServer->setText(tr("&Select Server"));
 
-    for (ReportModel* model : {m_serverModel, m_playerModel, m_serverPlayersModel, m_serverRulesModel})
+    for (ReportModel* model :
+         std::initializer_list<ReportModel*>{m_serverModel, m_playerModel, m_serverPlayersModel, m_serverRulesModel})
         model->retranslate();
 }
 
@@ -451,8 +492,214 @@ void FrmMain::showAbout()
 
 void FrmMain::emptyAllRecords()
 {
-    m_addresses.clear();
-    m_servers.clear();
+    m_flushTimer.stop();
+    m_pendingAnswers.clear();
+    m_playerModel->clear();
+    m_serverModel->clear();
+}
+
+void FrmMain::setStatus(const QString& text, QRgb colour)
+{
+    QPalette palette = lblStatus->palette();
+    palette.setColor(QPalette::WindowText, QColor(colour));
+    lblStatus->setPalette(palette);
+    lblStatus->setText(text);
+}
+
+void FrmMain::setCounters(int servers, int players)
+{
+    lblServers->setText(QString::number(servers) + QLatin1Char(' ') + tr("servers found"));
+    lblPlayers->setText(QString::number(players) + QLatin1Char(' ') + tr("players found"));
+}
+
+void FrmMain::updateCounters()
+{
+    setCounters(m_visibleServers->rowCount(), m_visiblePlayers->rowCount());
+}
+
+void FrmMain::setQueryingButtons()
+{
+    for (QWidget* control : {static_cast<QWidget*>(cmdFav), static_cast<QWidget*>(cmdGet),
+                             static_cast<QWidget*>(cmdOptions), static_cast<QWidget*>(cmdOrganise)})
+        control->setEnabled(false);
+    lblAbout->setVisible(false);
+    cmdCancel->setEnabled(true);
+    cmdCancel->setVisible(true);
+}
+
+void FrmMain::setIdleButtons()
+{
+    cmdCancel->setEnabled(false);
+    cmdCancel->setVisible(false);
+    for (QWidget* control : {static_cast<QWidget*>(cmdFav), static_cast<QWidget*>(cmdGet),
+                             static_cast<QWidget*>(cmdOptions), static_cast<QWidget*>(cmdOrganise)})
+        control->setEnabled(true);
+    cmdFav->setVisible(true);
+    cmdGet->setVisible(true);
+    lblAbout->setVisible(true);
+}
+
+bool FrmMain::preparePool()
+{
+    m_lastSocketIndex =
+        QuerySpeed::lastSocketIndex(m_settings.getNumber(Keys::Speed, Keys::Defaults::Speed), m_lastSocketIndex);
+    const int startPort = m_settings.getNumber(Keys::StartPort, Keys::Defaults::StartPort);
+    if (startPort < 1 || startPort + m_lastSocketIndex + QuerySpeed::MasterPortOffset > 65535) {
+        setStatus(tr("The start port %1 is not valid. Choose another in the options.").arg(startPort), Red);
+        return false;
+    }
+    m_session.setPool(m_lastSocketIndex, quint16(startPort));
+    return true;
+}
+
+void FrmMain::startMasterQuery()
+{
+    if (m_session.isRunning())
+        return;
+    const QString setting = m_settings.get(Keys::MasterServer);
+    const auto master = parseMasterAddress(setting);
+    if (!master) {
+        queryFailed(QueryError{QueryError::Kind::BadMasterAddress, setting});
+        return;
+    }
+    if (!preparePool())
+        return;
+    setQueryingButtons();
+    for (QLabel* label : {lblPName, lblSName, mclPName, mclSName, lblServers, lblPlayers})
+        label->clear();
+    emptyAllRecords();
+    prbProgress->setValue(0);
+    m_masterHost = master->host;
+    setStatus(QString(), Orange);
+    if (const auto error = m_session.startMaster(*master))
+        queryFailed(*error);
+}
+
+void FrmMain::startFavouritesQuery()
+{
+    if (m_session.isRunning())
+        return;
+    const auto favourites = Favourites::readFile(QDir(m_dataFolder).filePath(Favourites::FileName));
+    if (!favourites)
+        return;
+    if (!preparePool())
+        return;
+    setQueryingButtons();
+    for (QLabel* label : {lblPName, lblSName, mclPName, mclSName, lblServers, lblPlayers})
+        label->clear();
+    emptyAllRecords();
+    prbProgress->setValue(0);
+    setStatus(QString(), Orange);
+    if (const auto error = m_session.startAddresses(Favourites::toAddressTable(*favourites)))
+        queryFailed(*error);
+}
+
+void FrmMain::showPhase(QuerySession::Phase phase)
+{
+    const QString host = QLatin1Char('\n') + m_masterHost;
+    switch (phase) {
+    case QuerySession::Phase::Requesting:
+        setStatus(tr("Requesting Server List from") + host, Orange);
+        break;
+    case QuerySession::Phase::Receiving:
+        setStatus(tr("Receiving Server List from") + host, Orange);
+        break;
+    case QuerySession::Phase::Sorting:
+        setStatus(tr("Sorting IP Address Lists") + host, Orange);
+        break;
+    case QuerySession::Phase::Querying: {
+        const int count = m_session.addresses().count();
+        setStatus(tr("Querying") + QLatin1Char(' ') + QString::number(count) + QLatin1Char(' ') + tr("Servers") +
+                      QStringLiteral("..."),
+                  Yellow);
+        setCounters(0, 0);
+        prbProgress->setMinimum(0);
+        prbProgress->setMaximum(std::max(count, 1));
+        prbProgress->setValue(0);
+        break;
+    }
+    case QuerySession::Phase::Idle:
+        break;
+    }
+}
+
+void FrmMain::queueAnswer(const ServerRecord& server, bool refresh)
+{
+    if (refresh) {
+        applyRefresh(server);
+        return;
+    }
+    m_pendingAnswers.append(server);
+    if (!m_flushTimer.isActive())
+        m_flushTimer.start();
+}
+
+void FrmMain::flushAnswers()
+{
+    m_flushTimer.stop();
+    if (m_pendingAnswers.isEmpty())
+        return;
+    const int first = m_serverModel->append(m_pendingAnswers);
+    m_pendingAnswers.clear();
+    m_playerModel->appendServersFrom(first);
+    updateCounters();
+}
+
+void FrmMain::applyRefresh(const ServerRecord& server)
+{
+    const int index = m_serverModel->store().indexOf(server.address, server.port);
+    if (index < 0)
+        return;
+    m_serverModel->replace(index, server);
+    m_playerModel->replaceServer(index);
+    updateCounters();
+}
+
+void FrmMain::cancelQuery()
+{
+    m_session.cancel();
+    flushAnswers();
+    setIdleButtons();
+    setStatus(tr("Cancelled"), Red);
+    prbProgress->setValue(0);
+}
+
+void FrmMain::finishQuery()
+{
+    cancelQuery();
+    setStatus(tr("Done"), Green);
+}
+
+void FrmMain::masterTimedOut()
+{
+    setIdleButtons();
+    setStatus(tr("Master Servers Timed Out"), Red);
+    setCounters(0, 0);
+    prbProgress->setValue(0);
+    const auto answer = m_desktop.message(this, Desktop::Icon::Critical, tr("Quake 4 Vantage"),
+                                          tr("Master Servers Timed Out"), QMessageBox::Retry | QMessageBox::Cancel);
+    if (answer == QMessageBox::Retry)
+        startMasterQuery();
+}
+
+void FrmMain::queryFailed(const QueryError& error)
+{
+    m_session.cancel();
+    flushAnswers();
+    setIdleButtons();
+    prbProgress->setValue(0);
+    setStatus(error.message(), Red);
+}
+
+void FrmMain::serverClicked(const QModelIndex& index)
+{
+    if (!index.isValid() || m_session.isRunning() || !m_settings.getFlag(Keys::RefreshServers, true))
+        return;
+    const ServerRecord& server = m_serverModel->record(m_visibleServers->mapToSource(index).row());
+    if (!preparePool())
+        return;
+    if (const auto error = m_session.refresh(server.address, server.port))
+        setStatus(error->message(), Red);
 }
 
 void FrmMain::saveColumnOrders()
@@ -473,6 +720,8 @@ void FrmMain::saveColumnWidths()
 
 void FrmMain::writeStateOnClose()
 {
+    if (m_session.isRunning())
+        cancelQuery();
     for (QWidget* window : QApplication::topLevelWidgets()) {
         if (window != this && window->isVisible())
             window->close();

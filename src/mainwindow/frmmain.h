@@ -1,8 +1,10 @@
 #pragma once
 
 #include "columnlayout.h"
+#include "querysession.h"
 #include "records.h"
 
+#include <QTimer>
 #include <QWidget>
 
 class Desktop;
@@ -16,8 +18,11 @@ class QProgressBar;
 class QPushButton;
 class QSplitter;
 class QTabBar;
+class PlayerListModel;
+class QSortFilterProxyModel;
 class QTreeView;
 class ReportModel;
+class ServerListModel;
 class SettingsStore;
 
 // The main window: the lists, the panes of the selected server, the query
@@ -33,7 +38,15 @@ public:
     static constexpr QSize MinimumSize{500, 545};
     static constexpr QSize DesignSize{760, 570};
 
-    FrmMain(SettingsStore& settings, Desktop& desktop, Language& language, QWidget* parent = nullptr);
+    // Text colours of the status line.
+    static constexpr QRgb Orange = qRgb(255, 128, 0);
+    static constexpr QRgb Yellow = qRgb(255, 255, 0);
+    static constexpr QRgb Green = qRgb(0, 128, 8);
+    static constexpr QRgb Red = qRgb(255, 0, 0);
+
+    // dataFolder holds favourites.dat and the other data files.
+    FrmMain(SettingsStore& settings, Desktop& desktop, Language& language, QString dataFolder,
+            QWidget* parent = nullptr);
     ~FrmMain() override;
 
     // The sort the two big lists will use; restored at start, changed by a
@@ -41,11 +54,9 @@ public:
     ColumnLayout::SortState serverSort() const { return m_serverSort; }
     ColumnLayout::SortState playerSort() const { return m_playerSort; }
 
-    // Empties the address table, the servers and their players, as a new
-    // master query does.
-    void emptyAllRecords();
-    const AddressTable& addressTable() const { return m_addresses; }
-    const ServerStore& servers() const { return m_servers; }
+    const ServerListModel& serverList() const { return *m_serverModel; }
+    const PlayerListModel& playerList() const { return *m_playerModel; }
+    const QuerySession& session() const { return m_session; }
 
 protected:
     void resizeEvent(QResizeEvent* event) override;
@@ -68,12 +79,36 @@ private:
     void writeStateOnClose();
     void showAbout();
 
+    void emptyAllRecords();
+    bool preparePool();
+    void setQueryingButtons();
+    void setIdleButtons();
+    void setStatus(const QString& text, QRgb colour);
+    void setCounters(int servers, int players);
+    void updateCounters();
+    void startMasterQuery();
+    void startFavouritesQuery();
+    void cancelQuery();
+    void showPhase(QuerySession::Phase phase);
+    void queueAnswer(const ServerRecord& server, bool refresh);
+    void flushAnswers();
+    void applyRefresh(const ServerRecord& server);
+    void finishQuery();
+    void masterTimedOut();
+    void queryFailed(const QueryError& error);
+    void serverClicked(const QModelIndex& index);
+
     SettingsStore& m_settings;
     Desktop& m_desktop;
     Language& m_language;
 
-    AddressTable m_addresses;
-    ServerStore m_servers;
+    QString m_dataFolder;
+    QuerySession m_session;
+    QString m_masterHost;
+    int m_lastSocketIndex = QuerySpeed::DefaultLastSocketIndex;
+    // Answers are added to the lists in batches, not one row per datagram.
+    QList<ServerRecord> m_pendingAnswers;
+    QTimer m_flushTimer;
 
     ColumnLayout::SortState m_serverSort;
     ColumnLayout::SortState m_playerSort;
@@ -88,8 +123,10 @@ private:
     QTreeView* lstPlayerList = nullptr;
     QTreeView* lvwPlayers = nullptr;
     QTreeView* lvwServerInfo = nullptr;
-    ReportModel* m_serverModel = nullptr;
-    ReportModel* m_playerModel = nullptr;
+    ServerListModel* m_serverModel = nullptr;
+    PlayerListModel* m_playerModel = nullptr;
+    QSortFilterProxyModel* m_visibleServers = nullptr;
+    QSortFilterProxyModel* m_visiblePlayers = nullptr;
     ReportModel* m_serverPlayersModel = nullptr;
     ReportModel* m_serverRulesModel = nullptr;
 

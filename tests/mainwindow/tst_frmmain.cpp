@@ -24,8 +24,8 @@ struct Run {
     Language language;
     std::unique_ptr<FrmMain> window;
 
-    explicit Run(SettingsStore& settings)
-        : window(std::make_unique<FrmMain>(settings, desktop, language))
+    explicit Run(SettingsStore& settings, const QString& dataFolder = QString())
+        : window(std::make_unique<FrmMain>(settings, desktop, language, dataFolder))
     {
     }
 

@@ -97,6 +97,14 @@ void SimFleet::generate()
     m_masterDatagrams = SimReplies::serverList(listed);
 }
 
+void SimFleet::setServer(int index, const SimReplies::Rules& rules, const QList<SimReplies::Player>& players)
+{
+    Server& server = m_servers[index];
+    server.rules = rules;
+    server.players = players;
+    server.reply = SimReplies::infoResponse(rules, players);
+}
+
 int SimFleet::answeringServers() const
 {
     return int(std::count_if(m_servers.begin(), m_servers.end(), [](const Server& s) { return !s.silent; }));

@@ -54,6 +54,9 @@ public:
     // Replaces what the master sends (for lists with duplicates, odd
     // lengths or foreign addresses); by default it lists the fleet.
     void setMasterDatagrams(const QList<QByteArray>& datagrams) { m_masterDatagrams = datagrams; }
+    // Changes what one server answers from now on (a map change, players
+    // joining).
+    void setServer(int index, const SimReplies::Rules& rules, const QList<SimReplies::Player>& players);
     // Makes the master keep quiet, as an unreachable one is.
     void setMasterSilent(bool silent) { m_masterSilent = silent; }
 

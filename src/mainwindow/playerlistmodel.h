@@ -1,0 +1,42 @@
+#pragma once
+
+#include "reportmodel.h"
+
+class ServerListModel;
+
+// Every player of every answering server: the hidden full player list.
+// Rows point into the server list's store (server and player index), so
+// the raw names with colour codes and the server's address stay at hand.
+class PlayerListModel final : public ReportModel {
+    Q_OBJECT
+    Q_DISABLE_COPY_MOVE(PlayerListModel)
+
+public:
+    enum Column { Name, Clan, Ping, Rate, ServerName, Map, Players, ServerPing, Password, Mod, GameType, ColumnCount };
+
+    struct Row {
+        int server = 0;
+        int player = 0;
+        QString plainName;
+        QString plainClan;
+    };
+
+    explicit PlayerListModel(const ServerListModel& servers, QObject* parent = nullptr);
+
+    int rowCount(const QModelIndex& parent = {}) const override;
+    QVariant data(const QModelIndex& index, int role = Qt::DisplayRole) const override;
+
+    void clear();
+    // Appends the stored players of the servers from this store index on.
+    void appendServersFrom(int firstServer);
+    // Drops the rows of one server and appends its players anew.
+    void replaceServer(int server);
+
+    const Row& row(int row) const { return m_rows.at(row); }
+
+private:
+    QList<Row> rowsOf(int server) const;
+
+    const ServerListModel& m_servers;
+    QList<Row> m_rows;
+};

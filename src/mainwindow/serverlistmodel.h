@@ -1,0 +1,37 @@
+#pragma once
+
+#include "records.h"
+#include "reportmodel.h"
+
+// Every server that answered, in answer order: the hidden full server
+// list. The visible list is a proxy over it. Each row refers to its record
+// in the per-server store by the store's index.
+class ServerListModel final : public ReportModel {
+    Q_OBJECT
+    Q_DISABLE_COPY_MOVE(ServerListModel)
+
+public:
+    enum Column { Name, Map, Players, Ping, Password, GameType, GameName, Address, ColumnCount };
+
+    explicit ServerListModel(QObject* parent = nullptr);
+
+    int rowCount(const QModelIndex& parent = {}) const override;
+    QVariant data(const QModelIndex& index, int role = Qt::DisplayRole) const override;
+
+    void clear();
+    // Appends the servers as new rows; returns the store index of the first.
+    int append(const QList<ServerRecord>& servers);
+    // Puts a new answer of a listed server in place of its old one.
+    void replace(int storeIndex, const ServerRecord& server);
+
+    const ServerStore& store() const { return m_store; }
+    const ServerRecord& record(int row) const { return m_store.at(row); }
+    // The server name as the lists show it (colour codes removed).
+    const QString& plainName(int row) const { return m_plainNames.at(row); }
+
+    static QString cellText(const ServerRecord& server, const QString& plainName, int column);
+
+private:
+    ServerStore m_store;
+    QStringList m_plainNames;
+};

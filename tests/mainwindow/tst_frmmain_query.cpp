@@ -1,0 +1,242 @@
+#include "colourcodes.h"
+#include "frmmain.h"
+#include "infoprotocol.h"
+#include "language.h"
+#include "playerlistmodel.h"
+#include "scripteddesktop.h"
+#include "serverlistmodel.h"
+#include "settingsstore.h"
+#include "simfleet.h"
+
+#include <QFile>
+#include <QLabel>
+#include <QProgressBar>
+#include <QPushButton>
+#include <QTemporaryDir>
+#include <QTest>
+#include <QTreeView>
+#include <QUdpSocket>
+
+namespace {
+
+constexpr quint16 StartPort = 41300;
+
+struct Window {
+    QTemporaryDir dir;
+    SettingsStore settings{dir.filePath(QStringLiteral("settings.ini"))};
+    ScriptedDesktop desktop;
+    Language language;
+    std::unique_ptr<FrmMain> window;
+
+    explicit Window(quint16 masterPort)
+    {
+        settings.save(u"MasterServer", QStringLiteral("127.0.0.1:%1").arg(masterPort));
+        settings.save(u"StartPort", QString::number(StartPort));
+        settings.save(u"AutoUpdate", QStringLiteral("0"));
+        window = std::make_unique<FrmMain>(settings, desktop, language, dir.path());
+        window->show();
+    }
+    template <typename T> T* find(const char* name) const { return window->findChild<T*>(QLatin1String(name)); }
+    QPushButton* button(const char* name) const { return find<QPushButton>(name); }
+    QString status() const { return find<QLabel>("lblStatus")->text(); }
+    QRgb statusColour() const { return find<QLabel>("lblStatus")->palette().color(QPalette::WindowText).rgb(); }
+    QAbstractItemModel* visible(const char* list) const { return find<QTreeView>(list)->model(); }
+    QString cell(const char* list, int row, int column) const
+    {
+        QAbstractItemModel* model = visible(list);
+        return model->data(model->index(row, column)).toString();
+    }
+};
+
+FleetOptions fleetOf(int servers, quint16 masterPort)
+{
+    FleetOptions options;
+    options.servers = servers;
+    options.masterPort = masterPort;
+    options.firstServerPort = quint16(masterPort + 1);
+    options.seed = masterPort;
+    return options;
+}
+
+} // namespace
+
+class TestFrmMainQuery final : public QObject {
+    Q_OBJECT
+
+private slots:
+    void queryMastersListsWhatTheServersSent()
+    {
+        FleetOptions options = fleetOf(120, 24000);
+        options.silentFraction = 0.1;
+        SimFleet fleet(options);
+        QVERIFY(!fleet.start());
+        Window w(24000);
+        QTest::mouseClick(w.button("cmdGet"), Qt::LeftButton);
+        QVERIFY(w.status().startsWith(QStringLiteral("Requesting Server List from\n127.0.0.1")));
+        QCOMPARE(w.statusColour(), FrmMain::Orange);
+        QVERIFY(!w.button("cmdGet")->isEnabled());
+        QVERIFY(!w.button("cmdFav")->isEnabled());
+        QVERIFY(!w.button("cmdOptions")->isEnabled());
+        QVERIFY(!w.button("cmdOrganise")->isEnabled());
+        QVERIFY(w.button("cmdCancel")->isVisible());
+        QVERIFY(!w.find<QLabel>("lblAbout")->isVisible());
+
+        QTRY_COMPARE_WITH_TIMEOUT(w.status(), QStringLiteral("Done"), 8000);
+        QCOMPARE(w.statusColour(), FrmMain::Green);
+        QVERIFY(w.button("cmdGet")->isEnabled());
+        QVERIFY(!w.button("cmdCancel")->isVisible());
+        QVERIFY(w.find<QLabel>("lblAbout")->isVisible());
+        QCOMPARE(w.find<QProgressBar>("prbProgress")->value(), 0);
+
+        const int answering = fleet.answeringServers();
+        QCOMPARE(w.visible("lstServerList")->rowCount(), answering);
+        int players = 0;
+        for (const auto& server : fleet.servers())
+            players += server.silent ? 0 : int(server.players.size());
+        QCOMPARE(w.visible("lstPlayerList")->rowCount(), players);
+        QCOMPARE(w.find<QLabel>("lblServers")->text(), QStringLiteral("%1 servers found").arg(answering));
+        QCOMPARE(w.find<QLabel>("lblPlayers")->text(), QStringLiteral("%1 players found").arg(players));
+
+        // Cells show the records as the lists show them.
+        for (int row = 0; row < answering; ++row) {
+            const QString address = w.cell("lstServerList", row, ServerListModel::Address);
+            const int port = address.section(QLatin1Char(':'), 1).toInt();
+            const auto& sent = fleet.servers().at(port - options.firstServerPort);
+            const ServerRecord expected = InfoProtocol::parseReply(sent.reply);
+            QVERIFY(!sent.silent);
+            QCOMPARE(w.cell("lstServerList", row, ServerListModel::Name),
+                     ColourCodes::StripColourCodesCounted(expected.name));
+            QCOMPARE(w.cell("lstServerList", row, ServerListModel::Map), expected.map);
+            QCOMPARE(w.cell("lstServerList", row, ServerListModel::Players),
+                     QStringLiteral("%1/%2").arg(expected.playerCount).arg(expected.maxPlayers));
+            QCOMPARE(w.cell("lstServerList", row, ServerListModel::Password), expected.passwordMark);
+            QCOMPARE(w.cell("lstServerList", row, ServerListModel::GameName), expected.gameName);
+        }
+        const PlayerListModel& hidden = w.window->playerList();
+        for (int row = 0; row < hidden.rowCount(); ++row) {
+            const auto& entry = hidden.row(row);
+            const ServerRecord& server = w.window->serverList().record(entry.server);
+            QCOMPARE(w.cell("lstPlayerList", row, PlayerListModel::Name),
+                     ColourCodes::StripColourCodes(server.players.at(entry.player).name));
+            QCOMPARE(w.cell("lstPlayerList", row, PlayerListModel::Mod), server.gameName);
+            QCOMPARE(w.cell("lstPlayerList", row, PlayerListModel::GameType), server.gameType);
+        }
+    }
+
+    void cancelStopsTheQuery()
+    {
+        FleetOptions options = fleetOf(60, 24200);
+        options.delayMs = 80;
+        SimFleet fleet(options);
+        QVERIFY(!fleet.start());
+        Window w(24200);
+        w.settings.save(u"Speed", QStringLiteral("0"));
+        QTest::mouseClick(w.button("cmdGet"), Qt::LeftButton);
+        QTRY_VERIFY_WITH_TIMEOUT(w.status().startsWith(QStringLiteral("Querying 60 Servers...")), 4000);
+        QCOMPARE(w.statusColour(), FrmMain::Yellow);
+        QTRY_VERIFY_WITH_TIMEOUT(w.find<QProgressBar>("prbProgress")->value() >= 4, 4000);
+        QTest::mouseClick(w.button("cmdCancel"), Qt::LeftButton);
+        QCOMPARE(w.status(), QStringLiteral("Cancelled"));
+        QCOMPARE(w.statusColour(), FrmMain::Red);
+        QVERIFY(w.button("cmdGet")->isEnabled());
+        const int listed = w.visible("lstServerList")->rowCount();
+        QVERIFY(listed > 0 && listed < 60);
+        const int requests = fleet.infoRequests();
+        QTest::qWait(300);
+        QCOMPARE(fleet.infoRequests(), requests);
+        QCOMPARE(w.visible("lstServerList")->rowCount(), listed);
+    }
+
+    void masterTimeOutOffersRetry()
+    {
+        SimFleet fleet(fleetOf(3, 24300));
+        QVERIFY(!fleet.start());
+        fleet.setMasterSilent(true);
+        Window w(24300);
+        w.desktop.messageAnswers.enqueue(QMessageBox::Retry);
+        w.desktop.messageAnswers.enqueue(QMessageBox::Cancel);
+        QTest::mouseClick(w.button("cmdGet"), Qt::LeftButton);
+        QTRY_COMPARE_WITH_TIMEOUT(w.desktop.messages.size(), 2, 7000);
+        const auto& box = w.desktop.messages.first();
+        QCOMPARE(box.icon, Desktop::Icon::Critical);
+        QCOMPARE(box.buttons, QMessageBox::Retry | QMessageBox::Cancel);
+        QCOMPARE(box.text, QStringLiteral("Master Servers Timed Out"));
+        QCOMPARE(fleet.masterRequests(), 2);
+        QCOMPARE(w.status(), QStringLiteral("Master Servers Timed Out"));
+        QCOMPARE(w.statusColour(), FrmMain::Red);
+        QCOMPARE(w.find<QLabel>("lblServers")->text(), QStringLiteral("0 servers found"));
+        QVERIFY(w.button("cmdGet")->isEnabled());
+        QVERIFY(!w.button("cmdCancel")->isVisible());
+    }
+
+    void portInUseIsShownAndTheWindowStaysIdle()
+    {
+        QUdpSocket squatter;
+        QVERIFY(squatter.bind(QHostAddress::AnyIPv4, StartPort + 2));
+        Window w(24400);
+        QTest::mouseClick(w.button("cmdGet"), Qt::LeftButton);
+        QVERIFY(w.status().contains(QString::number(StartPort + 2)));
+        QCOMPARE(w.statusColour(), FrmMain::Red);
+        QVERIFY(w.button("cmdGet")->isEnabled());
+        QVERIFY(!w.window->session().isRunning());
+    }
+
+    void favouritesAreQueriedFromTheDataFolder()
+    {
+        SimFleet fleet(fleetOf(4, 24500));
+        QVERIFY(!fleet.start());
+        Window w(24500);
+        QTest::mouseClick(w.button("cmdFav"), Qt::LeftButton);
+        QVERIFY2(!w.window->session().isRunning(), "no favourites file: nothing happens");
+        QCOMPARE(w.status(), QString());
+
+        QFile file(w.dir.filePath(QStringLiteral("favourites.dat")));
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        file.write("127.0.0.1:24502\x01\x01One\r\n127.0.0.1:24504\x01pw\x01Two\r\n");
+        file.close();
+        QTest::mouseClick(w.button("cmdFav"), Qt::LeftButton);
+        QTRY_COMPARE_WITH_TIMEOUT(w.status(), QStringLiteral("Done"), 4000);
+        QCOMPARE(w.visible("lstServerList")->rowCount(), 2);
+        QCOMPARE(fleet.masterRequests(), 0);
+    }
+
+    void clickingAServerRefreshesItsRowsInPlace()
+    {
+        SimFleet fleet(fleetOf(5, 24600));
+        QVERIFY(!fleet.start());
+        Window w(24600);
+        QTest::mouseClick(w.button("cmdGet"), Qt::LeftButton);
+        QTRY_COMPARE_WITH_TIMEOUT(w.status(), QStringLiteral("Done"), 4000);
+        const int playersBefore = w.visible("lstPlayerList")->rowCount();
+
+        int row = 0;
+        while (w.cell("lstServerList", row, ServerListModel::Address) != QStringLiteral("127.0.0.1:24603"))
+            ++row;
+        const int target = 2;
+        const int oldPlayers = int(fleet.servers().at(target).players.size());
+        fleet.setServer(target, {{"si_name", "^1Re^7named"}, {"si_map", "q4dm9"}, {"si_maxplayers", "8"}},
+                        {{0, 30, 25000, "^2New", ""}, {1, 40, 25000, "Other", "[C]"}});
+        const int requests = fleet.servers().at(target).requests;
+
+        QTreeView* list = w.find<QTreeView>("lstServerList");
+        const QRect cell = list->visualRect(list->model()->index(row, 0));
+        QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, cell.center());
+        QTRY_COMPARE(w.cell("lstServerList", row, ServerListModel::Name), QStringLiteral("Renamed"));
+        QCOMPARE(fleet.servers().at(target).requests, requests + 1);
+        QCOMPARE(w.cell("lstServerList", row, ServerListModel::Map), QStringLiteral("q4dm9"));
+        QCOMPARE(w.cell("lstServerList", row, ServerListModel::Players), QStringLiteral("2/8"));
+        QCOMPARE(w.visible("lstServerList")->rowCount(), 5);
+        QCOMPARE(w.visible("lstPlayerList")->rowCount(), playersBefore - oldPlayers + 2);
+        QCOMPARE(w.cell("lstPlayerList", w.visible("lstPlayerList")->rowCount() - 1, PlayerListModel::Clan),
+                 QStringLiteral("[C]"));
+
+        // With refreshing off a click only selects.
+        w.settings.save(u"RefreshServers", QStringLiteral("0"));
+        QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, cell.center());
+        QTest::qWait(200);
+        QCOMPARE(fleet.servers().at(target).requests, requests + 1);
+    }
+};
+
+QTEST_MAIN(TestFrmMainQuery)
+#include "tst_frmmain_query.moc"
