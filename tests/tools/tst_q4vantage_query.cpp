@@ -1,0 +1,123 @@
+#include "queryreport.h"
+#include "simfleet.h"
+
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QProcess>
+#include <QSignalSpy>
+#include <QTemporaryDir>
+#include <QTest>
+#include <QUdpSocket>
+
+namespace {
+
+constexpr quint16 StartPort = 41500;
+
+struct Run {
+    int exitCode = -1;
+    QByteArray out;
+    QByteArray err;
+};
+
+// Runs the tool while this process's event loop keeps the fleet answering.
+Run runTool(const QStringList& arguments, const QString& home)
+{
+    QProcess process;
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert(QStringLiteral("XDG_CONFIG_HOME"), home); // never the user's own settings
+    process.setProcessEnvironment(environment);
+    QSignalSpy finished(&process, &QProcess::finished);
+    process.start(QStringLiteral(QUERY_TOOL), arguments);
+    if (!finished.wait(15000))
+        process.kill();
+    return Run{process.exitCode(), process.readAllStandardOutput(), process.readAllStandardError()};
+}
+
+} // namespace
+
+class TestQueryTool final : public QObject {
+    Q_OBJECT
+
+    QTemporaryDir m_home;
+
+private slots:
+    void jsonReportKeepsEveryByte()
+    {
+        ServerRecord server;
+        server.address = QStringLiteral("10.0.0.1");
+        server.port = 28004;
+        server.name = QStringLiteral("^1Caf\u00e9^^^2\u00ff");
+        server.tokens = {QStringLiteral("si_name"), server.name, QStringLiteral("lonely")};
+        server.players = {PlayerRecord{QStringLiteral("[c]"), QStringLiteral("^2Bob"), 7, 25000, 33}};
+        server.playerCount = 1;
+        const QJsonObject document = QJsonDocument::fromJson(QueryReport::json({1, 1, 0, 2, 40}, {server})).object();
+        QCOMPARE(document[QStringLiteral("dropped_datagrams")].toInt(), 2);
+        const QJsonObject first = document[QStringLiteral("servers")].toArray().first().toObject();
+        QCOMPARE(first[QStringLiteral("name")].toString(), server.name);
+        QCOMPARE(first[QStringLiteral("name_plain")].toString(),
+                 QStringLiteral("Caf\u00e9^")); // the third caret swallows the last
+        QCOMPARE(first[QStringLiteral("password")].toString(), QStringLiteral(" "));
+        const QJsonArray rules = first[QStringLiteral("rules")].toArray();
+        QCOMPARE(rules.size(), 2);
+        QCOMPARE(rules.at(1).toArray().at(1).toString(), QString());
+        const QJsonObject player = first[QStringLiteral("player_list")].toArray().first().toObject();
+        QCOMPARE(player[QStringLiteral("name_plain")].toString(), QStringLiteral("Bob"));
+        QCOMPARE(player[QStringLiteral("num")].toInt(), 7);
+    }
+
+    void queriesTheMastersListAndExitsZero()
+    {
+        FleetOptions options;
+        options.servers = 30;
+        options.masterPort = 25500;
+        options.firstServerPort = 25501;
+        options.silentFraction = 0.2;
+        options.seed = 5;
+        SimFleet fleet(options);
+        QVERIFY(!fleet.start());
+        const Run run =
+            runTool({QStringLiteral("--master"), QStringLiteral("127.0.0.1:25500"), QStringLiteral("--start-port"),
+                     QString::number(StartPort), QStringLiteral("--format"), QStringLiteral("json")},
+                    m_home.path());
+        QCOMPARE(run.exitCode, 0);
+        const QJsonObject document = QJsonDocument::fromJson(run.out).object();
+        QCOMPARE(document[QStringLiteral("addresses")].toInt(), 30);
+        QCOMPARE(document[QStringLiteral("answered")].toInt(), fleet.answeringServers());
+        QCOMPARE(document[QStringLiteral("timed_out")].toInt(), 30 - fleet.answeringServers());
+        const QJsonArray servers = document[QStringLiteral("servers")].toArray();
+        QCOMPARE(servers.size(), fleet.answeringServers());
+        for (const auto& value : servers) {
+            const QJsonObject server = value.toObject();
+            const auto& sent = fleet.servers().at(server[QStringLiteral("port")].toInt() - 25501);
+            QCOMPARE(server[QStringLiteral("name")].toString(), QString::fromLatin1(sent.rules.at(0).second));
+            QCOMPARE(server[QStringLiteral("player_list")].toArray().size(), sent.players.size());
+        }
+    }
+
+    void exitCodes()
+    {
+        QCOMPARE(runTool({QStringLiteral("--speed"), QStringLiteral("9")}, m_home.path()).exitCode, 2);
+        QCOMPARE(runTool({QStringLiteral("--server"), QStringLiteral("nohost")}, m_home.path()).exitCode, 2);
+        QCOMPARE(runTool({QStringLiteral("--format"), QStringLiteral("xml")}, m_home.path()).exitCode, 2);
+
+        QUdpSocket squatter;
+        QVERIFY(squatter.bind(QHostAddress::AnyIPv4, StartPort));
+        const Run busy = runTool({QStringLiteral("--server"), QStringLiteral("127.0.0.1:25600"),
+                                  QStringLiteral("--start-port"), QString::number(StartPort)},
+                                 m_home.path());
+        QCOMPARE(busy.exitCode, 3);
+        QVERIFY(busy.err.contains(QByteArray::number(StartPort)));
+        squatter.close();
+
+        // Nobody answers on this master port: the master times out.
+        const Run silent = runTool({QStringLiteral("--master"), QStringLiteral("127.0.0.1:25700"),
+                                    QStringLiteral("--start-port"), QString::number(StartPort)},
+                                   m_home.path());
+        QCOMPARE(silent.exitCode, 1);
+        QVERIFY(silent.err.contains("Timed Out"));
+    }
+};
+
+QTEST_GUILESS_MAIN(TestQueryTool)
+#include "tst_q4vantage_query.moc"

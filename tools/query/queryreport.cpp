@@ -1,0 +1,85 @@
+#include "queryreport.h"
+
+#include "colourcodes.h"
+
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+
+namespace QueryReport {
+
+namespace {
+
+QJsonArray rules(const QStringList& tokens)
+{
+    QJsonArray pairs;
+    for (qsizetype i = 0; i < tokens.size(); i += 2)
+        pairs.append(QJsonArray{tokens.at(i), i + 1 < tokens.size() ? tokens.at(i + 1) : QString()});
+    return pairs;
+}
+
+QJsonObject server(const ServerRecord& record)
+{
+    QJsonArray players;
+    for (const PlayerRecord& player : record.players) {
+        players.append(QJsonObject{{QStringLiteral("num"), player.clientNumber},
+                                   {QStringLiteral("name"), player.name},
+                                   {QStringLiteral("name_plain"), ColourCodes::StripColourCodes(player.name)},
+                                   {QStringLiteral("clan"), player.clan},
+                                   {QStringLiteral("ping"), player.ping},
+                                   {QStringLiteral("rate"), player.rate}});
+    }
+    return QJsonObject{{QStringLiteral("address"), record.address},
+                       {QStringLiteral("port"), record.port},
+                       {QStringLiteral("name"), record.name},
+                       {QStringLiteral("name_plain"), ColourCodes::StripColourCodesCounted(record.name)},
+                       {QStringLiteral("map"), record.map},
+                       {QStringLiteral("players"), record.playerCount},
+                       {QStringLiteral("max_players"), record.maxPlayers},
+                       {QStringLiteral("ping"), record.ping},
+                       {QStringLiteral("password"), record.passwordMark},
+                       {QStringLiteral("gametype"), record.gameType},
+                       {QStringLiteral("gamename"), record.gameName},
+                       {QStringLiteral("zero_ping_players"), record.zeroPingCount},
+                       {QStringLiteral("rules"), rules(record.tokens)},
+                       {QStringLiteral("player_list"), players}};
+}
+
+} // namespace
+
+QByteArray json(const Summary& summary, const QList<ServerRecord>& servers)
+{
+    QJsonArray list;
+    for (const ServerRecord& record : servers)
+        list.append(server(record));
+    const QJsonObject document{{QStringLiteral("addresses"), summary.addresses},
+                               {QStringLiteral("answered"), summary.answered},
+                               {QStringLiteral("timed_out"), summary.timedOut},
+                               {QStringLiteral("dropped_datagrams"), summary.droppedDatagrams},
+                               {QStringLiteral("elapsed_ms"), summary.elapsedMs},
+                               {QStringLiteral("servers"), list}};
+    return QJsonDocument(document).toJson(QJsonDocument::Indented);
+}
+
+QByteArray text(const Summary& summary, const QList<ServerRecord>& servers)
+{
+    QString out;
+    for (const ServerRecord& record : servers) {
+        out += QStringLiteral("%1  %2  %3ms  %4  %5  %6\n")
+                   .arg(record.endpointText(), -21)
+                   .arg(record.playersText(), 5)
+                   .arg(record.ping, 3)
+                   .arg(record.passwordMark == QLatin1String("*") ? QStringLiteral("pw") : QStringLiteral("  "))
+                   .arg(record.map, -10)
+                   .arg(ColourCodes::StripColourCodesCounted(record.name));
+    }
+    out += QStringLiteral("%1 addresses, %2 answered, %3 timed out, %4 dropped datagrams, %5 ms\n")
+               .arg(summary.addresses)
+               .arg(summary.answered)
+               .arg(summary.timedOut)
+               .arg(summary.droppedDatagrams)
+               .arg(summary.elapsedMs);
+    return out.toUtf8();
+}
+
+} // namespace QueryReport

@@ -1,0 +1,24 @@
+#pragma once
+
+#include "records.h"
+
+#include <QByteArray>
+#include <QList>
+
+// What q4vantage-query prints: the answers of one query as JSON or text.
+namespace QueryReport {
+
+struct Summary {
+    int addresses = 0;
+    int answered = 0;
+    int timedOut = 0;
+    int droppedDatagrams = 0;
+    qint64 elapsedMs = 0;
+};
+
+// Every received byte is the Unicode character of the same code in the
+// strings, so the raw names survive exactly.
+QByteArray json(const Summary& summary, const QList<ServerRecord>& servers);
+QByteArray text(const Summary& summary, const QList<ServerRecord>& servers);
+
+} // namespace QueryReport
