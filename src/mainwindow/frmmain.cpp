@@ -8,6 +8,7 @@
 #include "masteraddress.h"
 #include "playerlistmodel.h"
 #include "reportmodel.h"
+#include "reportview.h"
 #include "serverlistmodel.h"
 #include "settingskeys.h"
 #include "settingsstore.h"
@@ -26,33 +27,9 @@
 #include <QSortFilterProxyModel>
 #include <QSplitter>
 #include <QTabBar>
-#include <QTreeView>
 #include <QVBoxLayout>
 
 namespace {
-
-QTreeView* createReportList(QWidget* parent, const char* objectName, QAbstractItemModel* model,
-                            std::span<const ListColumn> columns)
-{
-    auto* view = new QTreeView(parent);
-    view->setObjectName(QLatin1String(objectName));
-    view->setModel(model);
-    view->setRootIsDecorated(false);
-    view->setItemsExpandable(false);
-    view->setUniformRowHeights(true);
-    view->setAllColumnsShowFocus(true);
-    view->setSelectionBehavior(QAbstractItemView::SelectRows);
-    view->setSelectionMode(QAbstractItemView::SingleSelection);
-    view->setEditTriggers(QAbstractItemView::NoEditTriggers);
-    QHeaderView* header = view->header();
-    // Every column keeps its own stored width, the last one included.
-    header->setStretchLastSection(false);
-    header->setSectionsClickable(true);
-    header->setSectionsMovable(true);
-    for (int column = 0; column < int(columns.size()); ++column)
-        header->resizeSection(column, columns[column].designWidth);
-    return view;
-}
 
 QPushButton* createButton(QWidget* parent, const char* objectName)
 {
@@ -122,6 +99,11 @@ void FrmMain::createControls()
     titleFont.setPointSizeF(titleFont.pointSizeF() * 1.3);
     lblAbout->setFont(titleFont);
     lblAbout->installEventFilter(this);
+    // Hidden while a query runs; keeping its place means the lists are not
+    // laid out again when it comes back, which is slow with many rows.
+    QSizePolicy keepPlace = lblAbout->sizePolicy();
+    keepPlace.setRetainSizeWhenHidden(true);
+    lblAbout->setSizePolicy(keepPlace);
 
     tabSelect = new QTabBar(this);
     tabSelect->setObjectName(QStringLiteral("tabSelect"));
@@ -144,12 +126,15 @@ void FrmMain::createControls()
     rzrPSI = new QSplitter(Qt::Vertical, this);
     rzrPSI->setObjectName(QStringLiteral("rzrPSI"));
     rzrPSI->setChildrenCollapsible(false);
-    lstServerList = createReportList(rzrPSI, "lstServerList", m_visibleServers, ListColumns::serverList());
+    lstServerList = new ReportView(m_visibleServers, ListColumns::serverList(), rzrPSI);
+    lstServerList->setObjectName(QStringLiteral("lstServerList"));
     rzrSPSI = new QSplitter(Qt::Horizontal, rzrPSI);
     rzrSPSI->setObjectName(QStringLiteral("rzrSPSI"));
     rzrSPSI->setChildrenCollapsible(false);
-    lvwPlayers = createReportList(rzrSPSI, "lvwPlayers", m_serverPlayersModel, ListColumns::serverPlayers());
-    lvwServerInfo = createReportList(rzrSPSI, "lvwServerInfo", m_serverRulesModel, ListColumns::serverRules());
+    lvwPlayers = new ReportView(m_serverPlayersModel, ListColumns::serverPlayers(), rzrSPSI);
+    lvwPlayers->setObjectName(QStringLiteral("lvwPlayers"));
+    lvwServerInfo = new ReportView(m_serverRulesModel, ListColumns::serverRules(), rzrSPSI);
+    lvwServerInfo->setObjectName(QStringLiteral("lvwServerInfo"));
     rzrPSI->addWidget(lstServerList);
     rzrPSI->addWidget(rzrSPSI);
     rzrSPSI->addWidget(lvwPlayers);
@@ -160,7 +145,8 @@ void FrmMain::createControls()
     rzrPSI->setStretchFactor(1, 1);
     rzrSPSI->setStretchFactor(0, 0);
     rzrSPSI->setStretchFactor(1, 1);
-    lstPlayerList = createReportList(this, "lstPlayerList", m_visiblePlayers, ListColumns::playerList());
+    lstPlayerList = new ReportView(m_visiblePlayers, ListColumns::playerList(), this);
+    lstPlayerList->setObjectName(QStringLiteral("lstPlayerList"));
 
     lblSName = createLabel(this, "lblSName");
     mclSName = createLabel(this, "mclSName");
@@ -207,6 +193,9 @@ void FrmMain::createControls()
     cmdCancel = createButton(fraQuery, "cmdCancel");
     cmdCancel->setEnabled(false);
     cmdCancel->setVisible(false);
+    QSizePolicy keepCancelPlace = cmdCancel->sizePolicy();
+    keepCancelPlace.setRetainSizeWhenHidden(true);
+    cmdCancel->setSizePolicy(keepCancelPlace);
     cmdOrganise = createButton(this, "cmdOrganise");
     cmdFilters = createButton(this, "cmdFilters");
     cmdOptions = createButton(this, "cmdOptions");
@@ -722,6 +711,7 @@ void FrmMain::writeStateOnClose()
 {
     if (m_session.isRunning())
         cancelQuery();
+    const SettingsStore::Batch batch(m_settings);
     for (QWidget* window : QApplication::topLevelWidgets()) {
         if (window != this && window->isVisible())
             window->close();

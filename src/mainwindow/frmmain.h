@@ -20,8 +20,8 @@ class QSplitter;
 class QTabBar;
 class PlayerListModel;
 class QSortFilterProxyModel;
-class QTreeView;
 class ReportModel;
+class ReportView;
 class ServerListModel;
 class SettingsStore;
 
@@ -119,10 +119,10 @@ private:
     QTabBar* tabSelect = nullptr;
     QSplitter* rzrPSI = nullptr;
     QSplitter* rzrSPSI = nullptr;
-    QTreeView* lstServerList = nullptr;
-    QTreeView* lstPlayerList = nullptr;
-    QTreeView* lvwPlayers = nullptr;
-    QTreeView* lvwServerInfo = nullptr;
+    ReportView* lstServerList = nullptr;
+    ReportView* lstPlayerList = nullptr;
+    ReportView* lvwPlayers = nullptr;
+    ReportView* lvwServerInfo = nullptr;
     ServerListModel* m_serverModel = nullptr;
     PlayerListModel* m_playerModel = nullptr;
     QSortFilterProxyModel* m_visibleServers = nullptr;

@@ -4,6 +4,7 @@
 
 #ifdef Q_OS_UNIX
 #include <sys/resource.h>
+#include <time.h>
 #endif
 
 namespace SystemLimits {
@@ -22,6 +23,18 @@ long raiseOpenFileLimit(long wanted)
     return long(limit.rlim_cur);
 #else
     Q_UNUSED(wanted);
+    return -1;
+#endif
+}
+
+long long threadCpuMicroseconds()
+{
+#ifdef Q_OS_UNIX
+    timespec now{};
+    if (clock_gettime(CLOCK_THREAD_CPUTIME_ID, &now) != 0)
+        return -1;
+    return (long long)now.tv_sec * 1000000 + now.tv_nsec / 1000;
+#else
     return -1;
 #endif
 }

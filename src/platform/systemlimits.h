@@ -7,4 +7,8 @@ namespace SystemLimits {
 // platform has no such limit to raise).
 long raiseOpenFileLimit(long wanted);
 
+// CPU time used so far by the calling thread, in microseconds (-1 where
+// the platform cannot tell).
+long long threadCpuMicroseconds();
+
 } // namespace SystemLimits

@@ -4,6 +4,7 @@
 
 #include <QHostInfo>
 #include <QNetworkDatagram>
+#include <QNetworkProxy>
 #include <QTimer>
 #include <QUdpSocket>
 
@@ -37,6 +38,7 @@ std::optional<QueryError> MasterQuery::start(const MasterAddress& master, quint1
     m_gathered.clear();
     m_dropped = 0;
     auto* socket = new QUdpSocket(this);
+    socket->setProxy(QNetworkProxy::NoProxy);
     if (!socket->bind(QHostAddress::AnyIPv4, localPort, QAbstractSocket::DefaultForPlatform)) {
         QueryError error{QueryError::Kind::PortUnavailable, QString::number(localPort), socket->errorString()};
         delete socket;

@@ -4,6 +4,7 @@
 
 #include <QHostInfo>
 #include <QNetworkDatagram>
+#include <QNetworkProxy>
 #include <QTimer>
 #include <QUdpSocket>
 
@@ -38,6 +39,9 @@ std::optional<QueryError> QueryScheduler::bindSlot(int index)
         return std::nullopt;
     const int port = m_startPort + index;
     auto* socket = new QUdpSocket(this);
+    // Game queries never go through a proxy; asking the system's proxy
+    // configuration for every socket would only cost time.
+    socket->setProxy(QNetworkProxy::NoProxy);
     // No ShareAddress or ReuseAddressHint: a port in use must fail here,
     // not silently share its datagrams with another program.
     if (port > 65535 || !socket->bind(QHostAddress::AnyIPv4, quint16(port), QAbstractSocket::DefaultForPlatform)) {

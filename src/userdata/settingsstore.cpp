@@ -31,11 +31,36 @@ SettingsStore::SettingsStore(QString filePath)
 {
 }
 
+SettingsStore::~SettingsStore() = default;
+SettingsStore::SettingsStore(SettingsStore&&) noexcept = default;
+
+SettingsStore::Batch::Batch(SettingsStore& store)
+    : m_store(store)
+{
+    if (m_store.m_batchDepth++ == 0) {
+        m_store.m_batch = std::make_unique<QSettings>(m_store.m_filePath, QSettings::IniFormat);
+        m_store.m_batch->beginGroup(Group);
+    }
+}
+
+SettingsStore::Batch::~Batch()
+{
+    if (--m_store.m_batchDepth == 0) {
+        m_store.m_batch->sync();
+        m_store.m_batch.reset();
+    }
+}
+
 QString SettingsStore::get(QStringView key, const QString& defaultValue) const
 {
-    QSettings settings(m_filePath, QSettings::IniFormat);
-    settings.beginGroup(Group);
-    const QVariant value = settings.value(key);
+    QVariant value;
+    if (m_batch) {
+        value = m_batch->value(key);
+    } else {
+        QSettings settings(m_filePath, QSettings::IniFormat);
+        settings.beginGroup(Group);
+        value = settings.value(key);
+    }
     if (!value.isValid())
         return defaultValue;
     return asText(value);
@@ -43,6 +68,8 @@ QString SettingsStore::get(QStringView key, const QString& defaultValue) const
 
 bool SettingsStore::contains(QStringView key) const
 {
+    if (m_batch)
+        return m_batch->contains(key);
     QSettings settings(m_filePath, QSettings::IniFormat);
     settings.beginGroup(Group);
     return settings.contains(key);
@@ -50,6 +77,10 @@ bool SettingsStore::contains(QStringView key) const
 
 bool SettingsStore::save(QStringView key, const QString& value)
 {
+    if (m_batch) {
+        m_batch->setValue(key, value);
+        return m_batch->status() == QSettings::NoError;
+    }
     QSettings settings(m_filePath, QSettings::IniFormat);
     settings.beginGroup(Group);
     settings.setValue(key, value);

@@ -3,6 +3,10 @@
 #include <QString>
 #include <QStringList>
 
+#include <memory>
+
+class QSettings;
+
 // The per-user settings: one INI file, one group "Settings", every value a
 // string. The file is opened per call and nothing is cached, so a value
 // written by one window is what the next read anywhere sees, and two
@@ -13,6 +17,22 @@ public:
     static QString defaultFilePath();
 
     explicit SettingsStore(QString filePath = defaultFilePath());
+    ~SettingsStore();
+    Q_DISABLE_COPY(SettingsStore)
+    SettingsStore(SettingsStore&&) noexcept;
+
+    // Writes made while a batch lives reach the file in one update when it
+    // ends, instead of one rewrite of the file per key (closing the main
+    // window writes dozens of keys). Batches nest.
+    class Batch final {
+    public:
+        explicit Batch(SettingsStore& store);
+        ~Batch();
+        Q_DISABLE_COPY_MOVE(Batch)
+
+    private:
+        SettingsStore& m_store;
+    };
 
     const QString& filePath() const { return m_filePath; }
 
@@ -33,4 +53,6 @@ public:
 
 private:
     QString m_filePath;
+    std::unique_ptr<QSettings> m_batch;
+    int m_batchDepth = 0;
 };

@@ -1,6 +1,7 @@
 #include "frmmain.h"
 #include "historycombobox.h"
 #include "language.h"
+#include "reportview.h"
 #include "scripteddesktop.h"
 #include "settingsstore.h"
 
@@ -14,7 +15,6 @@
 #include <QTabBar>
 #include <QTemporaryDir>
 #include <QTest>
-#include <QTreeView>
 
 namespace {
 
@@ -36,7 +36,7 @@ struct Run {
             qFatal("no control named %s", name);
         return child;
     }
-    QTreeView* list(const char* name) const { return find<QTreeView>(name); }
+    ReportView* list(const char* name) const { return find<ReportView>(name); }
     QHeaderView* header(const char* name) const { return list(name)->header(); }
     QString text(const char* button) const { return find<QPushButton>(button)->text(); }
 

@@ -3,6 +3,7 @@
 #include "infoprotocol.h"
 #include "language.h"
 #include "playerlistmodel.h"
+#include "reportview.h"
 #include "scripteddesktop.h"
 #include "serverlistmodel.h"
 #include "settingsstore.h"
@@ -14,7 +15,6 @@
 #include <QPushButton>
 #include <QTemporaryDir>
 #include <QTest>
-#include <QTreeView>
 #include <QUdpSocket>
 
 namespace {
@@ -40,7 +40,7 @@ struct Window {
     QPushButton* button(const char* name) const { return find<QPushButton>(name); }
     QString status() const { return find<QLabel>("lblStatus")->text(); }
     QRgb statusColour() const { return find<QLabel>("lblStatus")->palette().color(QPalette::WindowText).rgb(); }
-    QAbstractItemModel* visible(const char* list) const { return find<QTreeView>(list)->model(); }
+    QAbstractItemModel* visible(const char* list) const { return find<ReportView>(list)->model(); }
     QString cell(const char* list, int row, int column) const
     {
         QAbstractItemModel* model = visible(list);
@@ -218,7 +218,7 @@ private slots:
                         {{0, 30, 25000, "^2New", ""}, {1, 40, 25000, "Other", "[C]"}});
         const int requests = fleet.servers().at(target).requests;
 
-        QTreeView* list = w.find<QTreeView>("lstServerList");
+        ReportView* list = w.find<ReportView>("lstServerList");
         const QRect cell = list->visualRect(list->model()->index(row, 0));
         QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, cell.center());
         QTRY_COMPARE(w.cell("lstServerList", row, ServerListModel::Name), QStringLiteral("Renamed"));

@@ -71,6 +71,27 @@ private slots:
         QCOMPARE(second.get(Keys::Proxy), QStringLiteral("1"));
     }
 
+    void batchWritesLandTogether()
+    {
+        SettingsStore store(path("batch.ini"));
+        const SettingsStore other(path("batch.ini"));
+        {
+            const SettingsStore::Batch batch(store);
+            store.saveNumber(Keys::Speed, 2);
+            {
+                const SettingsStore::Batch inner(store);
+                store.save(Keys::PlayerName, QStringLiteral("a\x01"
+                                                            "b"));
+            }
+            QCOMPARE(store.getNumber(Keys::Speed, 5), 2); // the batch reads its own writes
+            QFile file(store.filePath());
+            QVERIFY(!file.open(QIODevice::ReadOnly) || !file.readAll().contains("Speed")); // not on disk yet
+        }
+        QCOMPARE(other.getNumber(Keys::Speed, 5), 2);
+        QCOMPARE(other.get(Keys::PlayerName), QStringLiteral("a\x01"
+                                                             "b"));
+    }
+
     void valuesLiveInTheSettingsGroup()
     {
         SettingsStore store(path("group.ini"));

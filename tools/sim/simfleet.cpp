@@ -3,6 +3,7 @@
 #include "systemlimits.h"
 
 #include <QNetworkDatagram>
+#include <QNetworkProxy>
 #include <QRandomGenerator>
 #include <QTimer>
 #include <QUdpSocket>
@@ -115,6 +116,7 @@ std::optional<QString> SimFleet::start()
     stop();
     SystemLimits::raiseOpenFileLimit(m_options.servers + 256);
     m_master = new QUdpSocket(this);
+    m_master->setProxy(QNetworkProxy::NoProxy);
     if (!m_master->bind(m_options.address, m_options.masterPort)) {
         const QString error =
             QStringLiteral("master port %1: %2").arg(m_options.masterPort).arg(m_master->errorString());
@@ -125,6 +127,7 @@ std::optional<QString> SimFleet::start()
     m_sockets.reserve(m_servers.size());
     for (int i = 0; i < m_servers.size(); ++i) {
         auto* socket = new QUdpSocket(this);
+        socket->setProxy(QNetworkProxy::NoProxy);
         if (!socket->bind(m_options.address, m_servers.at(i).port)) {
             const QString error =
                 QStringLiteral("server port %1: %2").arg(m_servers.at(i).port).arg(socket->errorString());

@@ -1,0 +1,258 @@
+// Measures the query engine against a simulated fleet that runs on its own
+// thread, so the fleet's work does not count against the engine's.
+//
+//   q4vantage-bench pool      2,000 servers, 20% silent, 5 ms delay, Speed 5:
+//                             elapsed time against the pool bound
+//   q4vantage-bench cost      10,000 servers, no delay: engine CPU per answer
+//   q4vantage-bench window    5,000 servers into the main window: longest
+//                             event-loop stall while they arrive
+//   q4vantage-bench parse     infoResponse parsing throughput
+
+#include "frmmain.h"
+#include "infoprotocol.h"
+#include "language.h"
+#include "playerlistmodel.h"
+#include "querysession.h"
+#include "scripteddesktop.h"
+#include "serverlistmodel.h"
+#include "settingsstore.h"
+#include "simfleet.h"
+#include "systemlimits.h"
+
+#include <QApplication>
+#include <QElapsedTimer>
+#include <QLabel>
+#include <QProcess>
+#include <QPushButton>
+#include <QTemporaryDir>
+#include <QThread>
+#include <QTimer>
+
+#include <cstdio>
+
+namespace {
+
+constexpr quint16 StartPort = 47000;
+
+// A fleet living on a worker thread with its own event loop.
+class FleetThread {
+public:
+    explicit FleetThread(const FleetOptions& options)
+    {
+        m_thread.start();
+        m_fleet = new SimFleet(options);
+        m_fleet->moveToThread(&m_thread);
+        std::optional<QString> error;
+        QMetaObject::invokeMethod(
+            m_fleet, [this, &error] { error = m_fleet->start(); }, Qt::BlockingQueuedConnection);
+        if (error)
+            qFatal("fleet: %s", qPrintable(*error));
+    }
+    ~FleetThread()
+    {
+        QMetaObject::invokeMethod(
+            m_fleet, [this] { delete m_fleet; }, Qt::BlockingQueuedConnection);
+        m_thread.quit();
+        m_thread.wait();
+    }
+    const SimFleet& fleet() const { return *m_fleet; }
+
+private:
+    QThread m_thread;
+    SimFleet* m_fleet = nullptr;
+};
+
+FleetOptions fleetOptions(int servers, double silent, int delayMs)
+{
+    FleetOptions options;
+    options.servers = servers;
+    options.silentFraction = silent;
+    options.delayMs = delayMs;
+    options.masterPort = 19999;
+    options.firstServerPort = 20000;
+    options.seed = 42;
+    return options;
+}
+
+struct QueryResult {
+    qint64 elapsedMs = 0;
+    qint64 masterMs = 0;
+    long long cpuMicroseconds = 0;
+    int answered = 0;
+    int timedOut = 0;
+    int dropped = 0;
+};
+
+// Through the master, or (beyond the master list's 5461 records) straight
+// from an address table of the fleet.
+QueryResult runQuery(int speed, const SimFleet* direct = nullptr)
+{
+    QuerySession session;
+    session.setPool(QuerySpeed::lastSocketIndex(speed, 19), StartPort);
+    QueryResult result;
+    QElapsedTimer clock;
+    QObject::connect(&session, &QuerySession::phaseChanged, [&](QuerySession::Phase phase) {
+        if (phase == QuerySession::Phase::Querying)
+            result.masterMs = clock.elapsed();
+    });
+    QObject::connect(&session, &QuerySession::finished, qApp, &QCoreApplication::quit);
+    QObject::connect(&session, &QuerySession::masterTimedOut, [] { qFatal("master timed out"); });
+    QObject::connect(&session, &QuerySession::failed,
+                     [](const QueryError& error) { qFatal("%s", qPrintable(error.message())); });
+    AddressTable table;
+    if (direct) {
+        for (const auto& server : direct->servers())
+            table.add(QStringLiteral("127.0.0.1"), server.port);
+    }
+    const long long cpuBefore = SystemLimits::threadCpuMicroseconds();
+    clock.start();
+    const auto error =
+        direct ? session.startAddresses(table) : session.startMaster(MasterAddress{QStringLiteral("127.0.0.1"), 19999});
+    if (error)
+        qFatal("%s", qPrintable(error->message()));
+    QCoreApplication::exec();
+    result.elapsedMs = clock.elapsed();
+    result.cpuMicroseconds = SystemLimits::threadCpuMicroseconds() - cpuBefore;
+    result.answered = session.scheduler().answeredCount();
+    result.timedOut = session.scheduler().timedOutCount();
+    result.dropped = session.droppedDatagrams();
+    return result;
+}
+
+int pool()
+{
+    const FleetOptions options = fleetOptions(2000, 0.2, 5);
+    FleetThread fleet(options);
+    const QueryResult result = runQuery(5);
+    const int answering = fleet.fleet().answeringServers();
+    const int silent = options.servers - answering;
+    const double bound = answering * 5.0 / 20.0 + silent * 1500.0 / 20.0 + double(result.masterMs);
+    std::printf("pool: %d servers (%d silent), 5 ms delay, 20 sockets\n", options.servers, silent);
+    std::printf("  answered %d, timed out %d, dropped %d\n", result.answered, result.timedOut, result.dropped);
+    std::printf("  master phase %lld ms, whole query %lld ms, pool bound %.0f ms, over the bound %+.2f%%\n",
+                (long long)result.masterMs, (long long)result.elapsedMs, bound,
+                100.0 * (double(result.elapsedMs) - bound) / bound);
+    return result.answered == answering ? 0 : 1;
+}
+
+int cost()
+{
+    FleetThread fleet(fleetOptions(10000, 0.0, 0));
+    const QueryResult result = runQuery(5, &fleet.fleet());
+    std::printf("cost: 10000 servers, no delay, 20 sockets\n");
+    std::printf("  answered %d in %lld ms; engine CPU %.1f ms, %.1f us per answered server\n", result.answered,
+                (long long)result.elapsedMs, result.cpuMicroseconds / 1000.0,
+                double(result.cpuMicroseconds) / std::max(result.answered, 1));
+    return result.answered == 10000 ? 0 : 1;
+}
+
+int window()
+{
+    // The fleet runs as its own process here, as real servers do: an
+    // in-process fleet of 5,000 sockets would share this process's event
+    // machinery and make the measurement about itself.
+    QProcess simulator;
+    simulator.setProcessChannelMode(QProcess::ForwardedErrorChannel);
+    simulator.start(QStringLiteral(SIM_TOOL),
+                    {QStringLiteral("--servers"), QStringLiteral("5000"), QStringLiteral("--master-port"),
+                     QStringLiteral("19999"), QStringLiteral("--first-port"), QStringLiteral("20000"),
+                     QStringLiteral("--seed"), QStringLiteral("42"), QStringLiteral("--lifetime"),
+                     QStringLiteral("120")});
+    if (!simulator.waitForReadyRead(20000))
+        qFatal("q4vantage-sim did not start");
+    QTemporaryDir dir;
+    SettingsStore settings(dir.filePath(QStringLiteral("settings.ini")));
+    settings.save(u"MasterServer", QStringLiteral("127.0.0.1:19999"));
+    settings.save(u"StartPort", QString::number(StartPort));
+    ScriptedDesktop desktop;
+    Language language;
+    FrmMain main(settings, desktop, language, dir.path());
+    main.show();
+
+    // A 5 ms heartbeat: any gap much longer is time the window could not
+    // react to the user.
+    QElapsedTimer clock;
+    QElapsedTimer beat;
+    qint64 longest = 0;
+    qint64 longestAt = 0;
+    QTimer heartbeat;
+    heartbeat.setTimerType(Qt::PreciseTimer);
+    heartbeat.setInterval(5);
+    QObject::connect(&heartbeat, &QTimer::timeout, [&] {
+        const qint64 gap = beat.restart();
+        if (gap > longest) {
+            longest = gap;
+            longestAt = clock.elapsed();
+        }
+    });
+    auto* status = main.findChild<QLabel*>(QStringLiteral("lblStatus"));
+    qint64 queryMs = 0;
+    QTimer poll;
+    QObject::connect(&poll, &QTimer::timeout, [&] {
+        // Stop measuring before quitting: quitting closes the window, and
+        // writing its layout back is not part of the query.
+        if (status->text() == QLatin1String("Done")) {
+            heartbeat.stop();
+            queryMs = clock.elapsed();
+            QCoreApplication::quit();
+        }
+    });
+    poll.start(20);
+    // The first paint of a new window (fonts, style) is not part of the
+    // query: start measuring once it has settled.
+    QTimer::singleShot(500, [&] {
+        clock.start();
+        beat.start();
+        heartbeat.start();
+        main.findChild<QPushButton*>(QStringLiteral("cmdGet"))->click();
+    });
+    QCoreApplication::exec();
+    std::printf("window: 5000 servers, %d players listed in %lld ms; longest event-loop stall %lld ms "
+                "(ending %lld ms after the click)\n",
+                main.playerList().rowCount(), (long long)queryMs, (long long)longest, (long long)longestAt);
+    simulator.kill();
+    simulator.waitForFinished();
+    return main.serverList().rowCount() == 5000 ? 0 : 1;
+}
+
+int parse()
+{
+    const FleetOptions options = fleetOptions(1000, 0.0, 0);
+    SimFleet fleet(options); // not started: only its replies are used
+    qint64 bytes = 0;
+    for (const auto& server : fleet.servers())
+        bytes += server.reply.size();
+    QElapsedTimer clock;
+    clock.start();
+    int players = 0;
+    constexpr int rounds = 50;
+    for (int round = 0; round < rounds; ++round) {
+        for (const auto& server : fleet.servers())
+            players += InfoProtocol::parseReply(server.reply).playerCount;
+    }
+    const double seconds = clock.nsecsElapsed() / 1e9;
+    std::printf("parse: %d replies (%.1f MB) in %.3f s: %.0f replies/s, %.2f us per reply (%d players)\n",
+                rounds * 1000, rounds * bytes / 1e6, seconds, rounds * 1000 / seconds, seconds * 1e6 / (rounds * 1000),
+                players);
+    return 0;
+}
+
+} // namespace
+
+int main(int argc, char* argv[])
+{
+    qputenv("QT_QPA_PLATFORM", qgetenv("QT_QPA_PLATFORM").isEmpty() ? "offscreen" : qgetenv("QT_QPA_PLATFORM"));
+    QApplication app(argc, argv);
+    SystemLimits::raiseOpenFileLimit(16384);
+    const QString which = argc > 1 ? QString::fromLocal8Bit(argv[1]) : QString();
+    if (which == QLatin1String("pool"))
+        return pool();
+    if (which == QLatin1String("cost"))
+        return cost();
+    if (which == QLatin1String("window"))
+        return window();
+    if (which == QLatin1String("parse"))
+        return parse();
+    std::fprintf(stderr, "usage: q4vantage-bench pool|cost|window|parse\n");
+    return 2;
+}
