@@ -541,6 +541,19 @@ bool FrmMain::preparePool()
     return true;
 }
 
+bool FrmMain::beginQuery()
+{
+    if (!preparePool())
+        return false;
+    setQueryingButtons();
+    for (QLabel* label : {lblPName, lblSName, mclPName, mclSName, lblServers, lblPlayers})
+        label->clear();
+    emptyAllRecords();
+    prbProgress->setValue(0);
+    setStatus(QString(), Orange);
+    return true;
+}
+
 void FrmMain::startMasterQuery()
 {
     if (m_session.isRunning())
@@ -551,15 +564,9 @@ void FrmMain::startMasterQuery()
         queryFailed(QueryError{QueryError::Kind::BadMasterAddress, setting});
         return;
     }
-    if (!preparePool())
+    if (!beginQuery())
         return;
-    setQueryingButtons();
-    for (QLabel* label : {lblPName, lblSName, mclPName, mclSName, lblServers, lblPlayers})
-        label->clear();
-    emptyAllRecords();
-    prbProgress->setValue(0);
     m_masterHost = master->host;
-    setStatus(QString(), Orange);
     if (const auto error = m_session.startMaster(*master))
         queryFailed(*error);
 }
@@ -571,14 +578,8 @@ void FrmMain::startFavouritesQuery()
     const auto favourites = Favourites::readFile(QDir(m_dataFolder).filePath(Favourites::FileName));
     if (!favourites)
         return;
-    if (!preparePool())
+    if (!beginQuery())
         return;
-    setQueryingButtons();
-    for (QLabel* label : {lblPName, lblSName, mclPName, mclSName, lblServers, lblPlayers})
-        label->clear();
-    emptyAllRecords();
-    prbProgress->setValue(0);
-    setStatus(QString(), Orange);
     if (const auto error = m_session.startAddresses(Favourites::toAddressTable(*favourites)))
         queryFailed(*error);
 }

@@ -81,6 +81,8 @@ private:
 
     void emptyAllRecords();
     bool preparePool();
+    // Everything a new query does before it sends: pool, buttons, empty lists.
+    bool beginQuery();
     void setQueryingButtons();
     void setIdleButtons();
     void setStatus(const QString& text, QRgb colour);

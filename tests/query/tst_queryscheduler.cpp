@@ -30,6 +30,20 @@ AddressTable tableOf(const SimFleet& fleet)
     return table;
 }
 
+// An open pool with spies on what it reports.
+struct Pool {
+    QueryScheduler scheduler;
+    QSignalSpy answered{&scheduler, &QueryScheduler::serverAnswered};
+    QSignalSpy finished{&scheduler, &QueryScheduler::finished};
+
+    explicit Pool(int lastSocketIndex)
+    {
+        scheduler.setPool(lastSocketIndex, PoolPort);
+        if (const auto error = scheduler.openPool())
+            qFatal("pool: %s", qPrintable(error->message()));
+    }
+};
+
 QList<ServerRecord> answers(const QSignalSpy& spy)
 {
     QList<ServerRecord> records;
@@ -59,12 +73,11 @@ private slots:
     {
         SimFleet fleet(fleetOf(60, 42000));
         QVERIFY(!fleet.start());
-        QueryScheduler scheduler;
-        scheduler.setPool(5, PoolPort);
-        QVERIFY(!scheduler.openPool());
-        QSignalSpy answered(&scheduler, &QueryScheduler::serverAnswered);
+        Pool pool(5);
+        QueryScheduler& scheduler = pool.scheduler;
+        QSignalSpy& answered = pool.answered;
         QSignalSpy sent(&scheduler, &QueryScheduler::requestSent);
-        QSignalSpy finished(&scheduler, &QueryScheduler::finished);
+        QSignalSpy& finished = pool.finished;
         scheduler.run(tableOf(fleet));
         QTRY_COMPARE_WITH_TIMEOUT(finished.count(), 1, 5000);
         QCOMPARE(answered.count(), 60);
@@ -91,10 +104,9 @@ private slots:
     {
         SimFleet fleet(fleetOf(3, 42100, 300));
         QVERIFY(!fleet.start());
-        QueryScheduler scheduler;
-        scheduler.setPool(QuerySpeed::lastSocketIndex(0, 19), PoolPort);
-        QVERIFY(!scheduler.openPool());
-        QSignalSpy finished(&scheduler, &QueryScheduler::finished);
+        Pool pool(QuerySpeed::lastSocketIndex(0, 19));
+        QueryScheduler& scheduler = pool.scheduler;
+        QSignalSpy& finished = pool.finished;
         QElapsedTimer clock;
         clock.start();
         scheduler.run(tableOf(fleet));
@@ -113,11 +125,10 @@ private slots:
         options.silentFraction = 1.0;
         SimFleet fleet(options);
         QVERIFY(!fleet.start());
-        QueryScheduler scheduler;
-        scheduler.setPool(19, PoolPort);
-        QVERIFY(!scheduler.openPool());
-        QSignalSpy answered(&scheduler, &QueryScheduler::serverAnswered);
-        QSignalSpy finished(&scheduler, &QueryScheduler::finished);
+        Pool pool(19);
+        QueryScheduler& scheduler = pool.scheduler;
+        QSignalSpy& answered = pool.answered;
+        QSignalSpy& finished = pool.finished;
         QElapsedTimer clock;
         clock.start();
         scheduler.run(tableOf(fleet));
@@ -135,11 +146,10 @@ private slots:
         QVERIFY(!fleet.start());
         AddressTable table = tableOf(fleet);
         table.add(QStringLiteral("127.0.0.1"), 42300);
-        QueryScheduler scheduler;
-        scheduler.setPool(0, PoolPort);
-        QVERIFY(!scheduler.openPool());
-        QSignalSpy answered(&scheduler, &QueryScheduler::serverAnswered);
-        QSignalSpy finished(&scheduler, &QueryScheduler::finished);
+        Pool pool(0);
+        QueryScheduler& scheduler = pool.scheduler;
+        QSignalSpy& answered = pool.answered;
+        QSignalSpy& finished = pool.finished;
         scheduler.run(table);
         QTRY_COMPARE_WITH_TIMEOUT(finished.count(), 1, 3000);
         QCOMPARE(answered.count(), 3);
@@ -148,10 +158,9 @@ private slots:
 
     void emptyTableFinishesAtOnce()
     {
-        QueryScheduler scheduler;
-        scheduler.setPool(19, PoolPort);
-        QVERIFY(!scheduler.openPool());
-        QSignalSpy finished(&scheduler, &QueryScheduler::finished);
+        Pool pool(19);
+        QueryScheduler& scheduler = pool.scheduler;
+        QSignalSpy& finished = pool.finished;
         scheduler.run(AddressTable());
         QCOMPARE(finished.count(), 1);
         QCOMPARE(scheduler.sentCount(), 0);
@@ -161,11 +170,10 @@ private slots:
     {
         SimFleet fleet(fleetOf(40, 42400, 60));
         QVERIFY(!fleet.start());
-        QueryScheduler scheduler;
-        scheduler.setPool(1, PoolPort);
-        QVERIFY(!scheduler.openPool());
-        QSignalSpy answered(&scheduler, &QueryScheduler::serverAnswered);
-        QSignalSpy finished(&scheduler, &QueryScheduler::finished);
+        Pool pool(1);
+        QueryScheduler& scheduler = pool.scheduler;
+        QSignalSpy& answered = pool.answered;
+        QSignalSpy& finished = pool.finished;
         scheduler.run(tableOf(fleet));
         QTRY_VERIFY_WITH_TIMEOUT(answered.count() >= 4, 3000);
         scheduler.cancel();
@@ -186,10 +194,9 @@ private slots:
         options.silentFraction = 1.0;
         SimFleet fleet(options);
         QVERIFY(!fleet.start());
-        QueryScheduler scheduler;
-        scheduler.setPool(0, PoolPort);
-        QVERIFY(!scheduler.openPool());
-        QSignalSpy answered(&scheduler, &QueryScheduler::serverAnswered);
+        Pool pool(0);
+        QueryScheduler& scheduler = pool.scheduler;
+        QSignalSpy& answered = pool.answered;
         scheduler.run(tableOf(fleet));
         QTRY_COMPARE(fleet.infoRequests(), 1);
 
@@ -209,11 +216,10 @@ private slots:
         FleetOptions options = fleetOf(2, 42600, QueryScheduler::TimeoutMs + 300);
         SimFleet fleet(options);
         QVERIFY(!fleet.start());
-        QueryScheduler scheduler;
-        scheduler.setPool(0, PoolPort);
-        QVERIFY(!scheduler.openPool());
-        QSignalSpy answered(&scheduler, &QueryScheduler::serverAnswered);
-        QSignalSpy finished(&scheduler, &QueryScheduler::finished);
+        Pool pool(0);
+        QueryScheduler& scheduler = pool.scheduler;
+        QSignalSpy& answered = pool.answered;
+        QSignalSpy& finished = pool.finished;
         AddressTable table;
         table.add(QStringLiteral("127.0.0.1"), 42600);
         table.add(QStringLiteral("127.0.0.1"), 42699); // nobody there
@@ -227,7 +233,7 @@ private slots:
     {
         SimFleet fleet(fleetOf(3, 42700));
         QVERIFY(!fleet.start());
-        QueryScheduler scheduler;
+        QueryScheduler scheduler; // no open pool: a refresh binds what it needs
         scheduler.setPool(19, PoolPort);
         QSignalSpy answered(&scheduler, &QueryScheduler::serverAnswered);
         QVERIFY(!scheduler.refresh(QStringLiteral("127.0.0.1"), 42701));
@@ -257,10 +263,9 @@ private slots:
 
     void unusablePortsCountAsSilent()
     {
-        QueryScheduler scheduler;
-        scheduler.setPool(1, PoolPort);
-        QVERIFY(!scheduler.openPool());
-        QSignalSpy finished(&scheduler, &QueryScheduler::finished);
+        Pool pool(1);
+        QueryScheduler& scheduler = pool.scheduler;
+        QSignalSpy& finished = pool.finished;
         AddressTable table;
         table.add(QStringLiteral("127.0.0.1"), 0);
         table.add(QStringLiteral("127.0.0.1"), 70000);

@@ -6,18 +6,6 @@ class TestRecords final : public QObject {
     Q_OBJECT
 
 private slots:
-    void freshServerHasTheListingDefaults()
-    {
-        const ServerRecord server;
-        QCOMPARE(server.name, QStringLiteral("noname"));
-        QCOMPARE(server.map, QStringLiteral("nomap"));
-        QCOMPARE(server.gameType, QStringLiteral("DM"));
-        QCOMPARE(server.gameName, QStringLiteral("baseQUAKE4-1"));
-        QCOMPARE(server.passwordMark, QStringLiteral(" "));
-        QVERIFY(!server.isPassworded());
-        QCOMPARE(server.playersText(), QStringLiteral("0/0"));
-    }
-
     void cellTexts()
     {
         ServerRecord server;
