@@ -1,17 +1,21 @@
 #include "frmmain.h"
 
+#include "colourcodes.h"
 #include "columnlayout.h"
 #include "desktop.h"
 #include "favourites.h"
+#include "frmfilters.h"
 #include "historycombobox.h"
 #include "language.h"
 #include "masteraddress.h"
+#include "multicolorlabel.h"
 #include "playerlistmodel.h"
 #include "reportmodel.h"
 #include "reportview.h"
 #include "serverlistmodel.h"
 #include "settingskeys.h"
 #include "settingsstore.h"
+#include "visiblelists.h"
 
 #include <QAction>
 #include <QApplication>
@@ -24,7 +28,6 @@
 #include <QMenu>
 #include <QProgressBar>
 #include <QPushButton>
-#include <QSortFilterProxyModel>
 #include <QSplitter>
 #include <QTabBar>
 #include <QVBoxLayout>
@@ -114,11 +117,14 @@ void FrmMain::createControls()
     m_serverModel = new ServerListModel(this);
     m_playerModel = new PlayerListModel(*m_serverModel, this);
     // The visible lists: what passes the filters, in the order the user sorted.
-    m_visibleServers = new QSortFilterProxyModel(this);
-    m_visibleServers->setDynamicSortFilter(false);
+    m_frmFilters = new FrmFilters(m_settings, m_dataFolder, this);
+    m_frmFilters->setObjectName(QStringLiteral("frmFilters"));
+    m_visibility = std::make_unique<ServerVisibility>(m_serverModel->store());
+    m_visibility->setRules(m_frmFilters->filters(), m_frmFilters->builtIn());
+    m_visibleServers = new VisibleList([this](int row) { return m_visibility->isVisible(row); }, this);
     m_visibleServers->setSourceModel(m_serverModel);
-    m_visiblePlayers = new QSortFilterProxyModel(this);
-    m_visiblePlayers->setDynamicSortFilter(false);
+    m_visiblePlayers =
+        new VisibleList([this](int row) { return m_visibility->isVisible(m_playerModel->row(row).server); }, this);
     m_visiblePlayers->setSourceModel(m_playerModel);
     m_serverPlayersModel = new ReportModel(ListColumns::serverPlayers(), this);
     m_serverRulesModel = new ReportModel(ListColumns::serverRules(), this);
@@ -126,14 +132,14 @@ void FrmMain::createControls()
     rzrPSI = new QSplitter(Qt::Vertical, this);
     rzrPSI->setObjectName(QStringLiteral("rzrPSI"));
     rzrPSI->setChildrenCollapsible(false);
-    lstServerList = new ReportView(m_visibleServers, ListColumns::serverList(), rzrPSI);
+    lstServerList = new ReportView(m_visibleServers, ListColumns::designWidths(ListColumns::serverList()), rzrPSI);
     lstServerList->setObjectName(QStringLiteral("lstServerList"));
     rzrSPSI = new QSplitter(Qt::Horizontal, rzrPSI);
     rzrSPSI->setObjectName(QStringLiteral("rzrSPSI"));
     rzrSPSI->setChildrenCollapsible(false);
-    lvwPlayers = new ReportView(m_serverPlayersModel, ListColumns::serverPlayers(), rzrSPSI);
+    lvwPlayers = new ReportView(m_serverPlayersModel, ListColumns::designWidths(ListColumns::serverPlayers()), rzrSPSI);
     lvwPlayers->setObjectName(QStringLiteral("lvwPlayers"));
-    lvwServerInfo = new ReportView(m_serverRulesModel, ListColumns::serverRules(), rzrSPSI);
+    lvwServerInfo = new ReportView(m_serverRulesModel, ListColumns::designWidths(ListColumns::serverRules()), rzrSPSI);
     lvwServerInfo->setObjectName(QStringLiteral("lvwServerInfo"));
     rzrPSI->addWidget(lstServerList);
     rzrPSI->addWidget(rzrSPSI);
@@ -145,11 +151,12 @@ void FrmMain::createControls()
     rzrPSI->setStretchFactor(1, 1);
     rzrSPSI->setStretchFactor(0, 0);
     rzrSPSI->setStretchFactor(1, 1);
-    lstPlayerList = new ReportView(m_visiblePlayers, ListColumns::playerList(), this);
+    lstPlayerList = new ReportView(m_visiblePlayers, ListColumns::designWidths(ListColumns::playerList()), this);
     lstPlayerList->setObjectName(QStringLiteral("lstPlayerList"));
 
     lblSName = createLabel(this, "lblSName");
-    mclSName = createLabel(this, "mclSName");
+    mclSName = new MulticolorLabel(this);
+    mclSName->setObjectName(QStringLiteral("mclSName"));
 
     fraJoin = new QFrame(this);
     fraJoin->setObjectName(QStringLiteral("fraJoin"));
@@ -163,7 +170,8 @@ void FrmMain::createControls()
     cmbPassword->setObjectName(QStringLiteral("cmbPassword"));
     lblPassword->setBuddy(cmbPassword);
     lblPName = createLabel(fraJoin, "lblPName");
-    mclPName = createLabel(fraJoin, "mclPName");
+    mclPName = new MulticolorLabel(fraJoin);
+    mclPName->setObjectName(QStringLiteral("mclPName"));
     cmdJoin = createButton(fraJoin, "cmdJoin");
     cmdJoinIP = createButton(fraJoin, "cmdJoinIP");
 
@@ -206,6 +214,16 @@ void FrmMain::createControls()
     connect(cmdFav, &QPushButton::clicked, this, &FrmMain::startFavouritesQuery);
     connect(cmdCancel, &QPushButton::clicked, this, &FrmMain::cancelQuery);
     connect(lstServerList, &QAbstractItemView::clicked, this, &FrmMain::serverClicked);
+    connect(lstPlayerList, &QAbstractItemView::clicked, this, &FrmMain::playerClicked);
+    connect(cmdFilters, &QPushButton::clicked, this, [this] {
+        m_frmFilters->show();
+        m_frmFilters->raise();
+        m_frmFilters->activateWindow();
+    });
+    connect(m_frmFilters, &FrmFilters::filtersChanged, this, [this] {
+        UpdateServerList();
+        UpdatePlayerList();
+    });
 
     m_flushTimer.setSingleShot(true);
     m_flushTimer.setInterval(40);
@@ -546,8 +564,9 @@ bool FrmMain::beginQuery()
     if (!preparePool())
         return false;
     setQueryingButtons();
-    for (QLabel* label : {lblPName, lblSName, mclPName, mclSName, lblServers, lblPlayers})
-        label->clear();
+    clearNameLabels();
+    lblServers->clear();
+    lblPlayers->clear();
     emptyAllRecords();
     prbProgress->setValue(0);
     setStatus(QString(), Orange);
@@ -642,6 +661,9 @@ void FrmMain::applyRefresh(const ServerRecord& server)
         return;
     m_serverModel->replace(index, server);
     m_playerModel->replaceServer(index);
+    m_visibility->forget(index);
+    m_visibleServers->refilter();
+    m_visiblePlayers->refilter();
     updateCounters();
 }
 
@@ -681,11 +703,56 @@ void FrmMain::queryFailed(const QueryError& error)
     setStatus(error.message(), Red);
 }
 
+void FrmMain::UpdateServerList()
+{
+    m_visibility->setRules(m_frmFilters->filters(), m_frmFilters->builtIn());
+    m_visibleServers->refilter();
+    updateCounters();
+}
+
+void FrmMain::UpdatePlayerList()
+{
+    m_visiblePlayers->refilter();
+    updateCounters();
+}
+
+void FrmMain::ShowServerName(const QString& name)
+{
+    mclSName->setColouredText(ColourCodes::ShowServerName(name));
+    lblSName->setText(mclSName->caption().isEmpty() ? QString() : tr("Server Name:"));
+}
+
+void FrmMain::ShowPlayerName(const QString& name)
+{
+    mclPName->setColouredText(ColourCodes::ShowPlayerName(name));
+    lblPName->setText(mclPName->caption().isEmpty() ? QString() : tr("Player Name:"));
+}
+
+void FrmMain::clearNameLabels()
+{
+    ShowServerName(QString());
+    ShowPlayerName(QString());
+}
+
+void FrmMain::playerClicked(const QModelIndex& index)
+{
+    if (!index.isValid())
+        return;
+    const auto& row = m_playerModel->row(m_visiblePlayers->mapToSource(index).row());
+    const ServerRecord& server = m_serverModel->record(row.server);
+    ShowPlayerName(server.players.at(row.player).name);
+    ShowServerName(server.name);
+}
+
 void FrmMain::serverClicked(const QModelIndex& index)
 {
-    if (!index.isValid() || m_session.isRunning() || !m_settings.getFlag(Keys::RefreshServers, true))
+    if (!index.isValid())
         return;
     const ServerRecord& server = m_serverModel->record(m_visibleServers->mapToSource(index).row());
+    ShowServerName(server.name);
+    ShowPlayerName(QString());
+    if (m_session.isRunning() || !m_settings.getFlag(Keys::RefreshServers, true))
+        return;
     if (!preparePool())
         return;
     if (const auto error = m_session.refresh(server.address, server.port))

@@ -7,6 +7,8 @@
 #include <QTimer>
 #include <QWidget>
 
+#include <memory>
+
 class Desktop;
 class HistoryComboBox;
 class Language;
@@ -19,7 +21,10 @@ class QPushButton;
 class QSplitter;
 class QTabBar;
 class PlayerListModel;
-class QSortFilterProxyModel;
+class FrmFilters;
+class MulticolorLabel;
+class ServerVisibility;
+class VisibleList;
 class ReportModel;
 class ReportView;
 class ServerListModel;
@@ -57,6 +62,15 @@ public:
     const ServerListModel& serverList() const { return *m_serverModel; }
     const PlayerListModel& playerList() const { return *m_playerModel; }
     const QuerySession& session() const { return m_session; }
+
+    // Rebuild the visible lists from the hidden full lists under the
+    // filters (after every change in the filters editor).
+    void UpdateServerList();
+    void UpdatePlayerList();
+    // Draw a name with its colour codes in the selected-server and
+    // selected-player labels.
+    void ShowServerName(const QString& name);
+    void ShowPlayerName(const QString& name);
 
 protected:
     void resizeEvent(QResizeEvent* event) override;
@@ -99,6 +113,8 @@ private:
     void masterTimedOut();
     void queryFailed(const QueryError& error);
     void serverClicked(const QModelIndex& index);
+    void playerClicked(const QModelIndex& index);
+    void clearNameLabels();
 
     SettingsStore& m_settings;
     Desktop& m_desktop;
@@ -127,13 +143,15 @@ private:
     ReportView* lvwServerInfo = nullptr;
     ServerListModel* m_serverModel = nullptr;
     PlayerListModel* m_playerModel = nullptr;
-    QSortFilterProxyModel* m_visibleServers = nullptr;
-    QSortFilterProxyModel* m_visiblePlayers = nullptr;
+    std::unique_ptr<ServerVisibility> m_visibility;
+    VisibleList* m_visibleServers = nullptr;
+    VisibleList* m_visiblePlayers = nullptr;
+    FrmFilters* m_frmFilters = nullptr;
     ReportModel* m_serverPlayersModel = nullptr;
     ReportModel* m_serverRulesModel = nullptr;
 
     QLabel* lblSName = nullptr;
-    QLabel* mclSName = nullptr;
+    MulticolorLabel* mclSName = nullptr;
 
     QFrame* fraJoin = nullptr;
     QLabel* lblPlayerName = nullptr;
@@ -141,7 +159,7 @@ private:
     QLabel* lblPassword = nullptr;
     HistoryComboBox* cmbPassword = nullptr;
     QLabel* lblPName = nullptr;
-    QLabel* mclPName = nullptr;
+    MulticolorLabel* mclPName = nullptr;
     QPushButton* cmdJoin = nullptr;
     QPushButton* cmdJoinIP = nullptr;
 

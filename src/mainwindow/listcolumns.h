@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QList>
 #include <QString>
 
 #include <span>
@@ -19,5 +20,6 @@ std::span<const ListColumn> serverPlayers();
 std::span<const ListColumn> serverRules();
 
 QString caption(const ListColumn& column);
+QList<int> designWidths(std::span<const ListColumn> columns);
 
 } // namespace ListColumns

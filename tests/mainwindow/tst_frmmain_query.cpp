@@ -1,7 +1,9 @@
 #include "colourcodes.h"
+#include "frmfilters.h"
 #include "frmmain.h"
 #include "infoprotocol.h"
 #include "language.h"
+#include "multicolorlabel.h"
 #include "playerlistmodel.h"
 #include "reportview.h"
 #include "scripteddesktop.h"
@@ -9,8 +11,10 @@
 #include "settingsstore.h"
 #include "simfleet.h"
 
+#include <QCheckBox>
 #include <QFile>
 #include <QLabel>
+#include <QLineEdit>
 #include <QProgressBar>
 #include <QPushButton>
 #include <QTemporaryDir>
@@ -235,6 +239,82 @@ private slots:
         QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, cell.center());
         QTest::qWait(200);
         QCOMPARE(fleet.servers().at(target).requests, requests + 1);
+    }
+    void filtersRebuildTheVisibleLists()
+    {
+        SimFleet fleet(fleetOf(40, 24700));
+        QVERIFY(!fleet.start());
+        Window w(24700);
+        QTest::mouseClick(w.button("cmdGet"), Qt::LeftButton);
+        QTRY_COMPARE_WITH_TIMEOUT(w.status(), QStringLiteral("Done"), 4000);
+        QCOMPARE(w.visible("lstServerList")->rowCount(), 40);
+
+        const QByteArray map = fleet.servers().at(0).rules.at(1).second;
+        int servers = 0;
+        int players = 0;
+        for (const auto& server : fleet.servers()) {
+            if (server.rules.at(1).second == map) {
+                ++servers;
+                players += int(server.players.size());
+            }
+        }
+        QTest::mouseClick(w.button("cmdFilters"), Qt::LeftButton);
+        auto* filters = w.window->findChild<FrmFilters*>(QStringLiteral("frmFilters"));
+        QVERIFY(filters->isVisible());
+        QTest::mouseClick(filters->findChild<QPushButton*>(QStringLiteral("cmdNew")), Qt::LeftButton);
+        auto* box = filters->findChild<QLineEdit*>(QStringLiteral("txtEdit"));
+        filters->editCell(0, 0);
+        box->setText(QStringLiteral("MAP"));
+        QTest::keyClick(box, Qt::Key_Return);
+        filters->editCell(0, 1);
+        box->setText(QString::fromLatin1(map).toUpper());
+        QTest::keyClick(box, Qt::Key_Return);
+
+        QCOMPARE(w.visible("lstServerList")->rowCount(), servers);
+        QCOMPARE(w.visible("lstPlayerList")->rowCount(), players);
+        QCOMPARE(w.find<QLabel>("lblServers")->text(), QStringLiteral("%1 servers found").arg(servers));
+        for (int row = 0; row < servers; ++row)
+            QCOMPARE(w.cell("lstServerList", row, ServerListModel::Map), QString::fromLatin1(map));
+        QFile saved(w.dir.filePath(QStringLiteral("filters.dat")));
+        QVERIFY(saved.open(QIODevice::ReadOnly));
+        QCOMPARE(saved.readAll(), QByteArray("si_map\x01") + map.toUpper() + "\r\n");
+
+        // Hiding empty servers: no players, or only zero-ping ones.
+        filters->findChild<QCheckBox*>(QStringLiteral("chkIncludeEmpty"))->click();
+        int busy = 0;
+        for (const auto& server : fleet.servers()) {
+            const auto zero = std::count_if(server.players.begin(), server.players.end(),
+                                            [](const SimReplies::Player& p) { return p.ping == 0; });
+            busy += server.rules.at(1).second == map && server.players.size() - zero > 0;
+        }
+        QCOMPARE(w.visible("lstServerList")->rowCount(), busy);
+
+        // New answers pass through the same test as they arrive.
+        QTest::mouseClick(w.button("cmdGet"), Qt::LeftButton);
+        QTRY_COMPARE_WITH_TIMEOUT(w.status(), QStringLiteral("Done"), 4000);
+        QCOMPARE(w.visible("lstServerList")->rowCount(), busy);
+        QCOMPARE(w.window->serverList().rowCount(), 40);
+    }
+
+    void clickedNamesAreDrawnInColour()
+    {
+        SimFleet fleet(fleetOf(3, 24800));
+        QVERIFY(!fleet.start());
+        Window w(24800);
+        w.settings.save(u"RefreshServers", QStringLiteral("0"));
+        QTest::mouseClick(w.button("cmdGet"), Qt::LeftButton);
+        QTRY_COMPARE_WITH_TIMEOUT(w.status(), QStringLiteral("Done"), 4000);
+        auto* list = w.find<ReportView>("lstServerList");
+        QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, list->visualRect(list->model()->index(0, 0)).center());
+        const ServerRecord& server = w.window->serverList().record(w.window->serverList().store().indexOf(
+            QStringLiteral("127.0.0.1"),
+            w.cell("lstServerList", 0, ServerListModel::Address).section(QLatin1Char(':'), 1).toInt()));
+        auto* serverName = w.find<MulticolorLabel>("mclSName");
+        QCOMPARE(serverName->caption(), ColourCodes::ShowServerName(server.name).text);
+        QCOMPARE(serverName->color(1).rgb(), ColourCodes::ShowServerName(server.name).colours.first());
+        QCOMPARE(w.find<QLabel>("lblSName")->text(), QStringLiteral("Server Name:"));
+        QCOMPARE(w.find<MulticolorLabel>("mclPName")->caption(), QString());
+        QCOMPARE(w.find<QLabel>("lblPName")->text(), QString());
     }
 };
 

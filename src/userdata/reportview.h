@@ -1,7 +1,6 @@
 #pragma once
 
-#include "listcolumns.h"
-
+#include <QList>
 #include <QTableView>
 
 // A report-style list: rows of cells under movable column headers, whole
@@ -12,7 +11,8 @@ class ReportView final : public QTableView {
     Q_DISABLE_COPY_MOVE(ReportView)
 
 public:
-    ReportView(QAbstractItemModel* model, std::span<const ListColumn> columns, QWidget* parent = nullptr);
+    // The columns start with the given widths (a first start's layout).
+    ReportView(QAbstractItemModel* model, const QList<int>& designWidths, QWidget* parent = nullptr);
 
     QHeaderView* header() const { return horizontalHeader(); }
 };

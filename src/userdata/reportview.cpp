@@ -2,7 +2,7 @@
 
 #include <QHeaderView>
 
-ReportView::ReportView(QAbstractItemModel* model, std::span<const ListColumn> columns, QWidget* parent)
+ReportView::ReportView(QAbstractItemModel* model, const QList<int>& designWidths, QWidget* parent)
     : QTableView(parent)
 {
     setModel(model);
@@ -27,6 +27,6 @@ ReportView::ReportView(QAbstractItemModel* model, std::span<const ListColumn> co
     columnsHeader->setStretchLastSection(false);
     columnsHeader->setSectionsClickable(true);
     columnsHeader->setSectionsMovable(true);
-    for (int column = 0; column < int(columns.size()); ++column)
-        columnsHeader->resizeSection(column, columns[column].designWidth);
+    for (int column = 0; column < designWidths.size(); ++column)
+        columnsHeader->resizeSection(column, designWidths.at(column));
 }
