@@ -39,7 +39,7 @@ public:
 
     explicit VisibleList(Accept accept, QObject* parent = nullptr);
     // Tests every row again (after the filters changed).
-    void refilter() { invalidateFilter(); }
+    void refilter() { invalidate(); }
 
 protected:
     bool filterAcceptsRow(int sourceRow, const QModelIndex& sourceParent) const override;
