@@ -13,6 +13,7 @@
 #include "reportmodel.h"
 #include "reportview.h"
 #include "serverlistmodel.h"
+#include "settingscodec.h"
 #include "settingskeys.h"
 #include "settingsstore.h"
 #include "visiblelists.h"
@@ -121,10 +122,12 @@ void FrmMain::createControls()
     m_frmFilters->setObjectName(QStringLiteral("frmFilters"));
     m_visibility = std::make_unique<ServerVisibility>(m_serverModel->store());
     m_visibility->setRules(m_frmFilters->filters(), m_frmFilters->builtIn());
-    m_visibleServers = new VisibleList([this](int row) { return m_visibility->isVisible(row); }, this);
+    m_visibleServers = new VisibleList([this](int row) { return m_visibility->isVisible(row); },
+                                       [this](int column) { return m_serverModel->sortKeys(column); }, this);
     m_visibleServers->setSourceModel(m_serverModel);
     m_visiblePlayers =
-        new VisibleList([this](int row) { return m_visibility->isVisible(m_playerModel->row(row).server); }, this);
+        new VisibleList([this](int row) { return m_visibility->isVisible(m_playerModel->row(row).server); },
+                        [this](int column) { return m_playerModel->sortKeys(column); }, this);
     m_visiblePlayers->setSourceModel(m_playerModel);
     m_serverPlayersModel = new ReportModel(ListColumns::serverPlayers(), this);
     m_serverRulesModel = new ReportModel(ListColumns::serverRules(), this);
@@ -215,6 +218,12 @@ void FrmMain::createControls()
     connect(cmdCancel, &QPushButton::clicked, this, &FrmMain::cancelQuery);
     connect(lstServerList, &QAbstractItemView::clicked, this, &FrmMain::serverClicked);
     connect(lstPlayerList, &QAbstractItemView::clicked, this, &FrmMain::playerClicked);
+    connect(lstServerList->header(), &QHeaderView::sectionClicked, this, [this](int column) {
+        sortClicked(*m_visibleServers, *lstServerList, m_serverSort, Keys::ServerList.sort, column);
+    });
+    connect(lstPlayerList->header(), &QHeaderView::sectionClicked, this, [this](int column) {
+        sortClicked(*m_visiblePlayers, *lstPlayerList, m_playerSort, Keys::PlayerList.sort, column);
+    });
     connect(cmdFilters, &QPushButton::clicked, this, [this] {
         m_frmFilters->show();
         m_frmFilters->raise();
@@ -411,6 +420,9 @@ void FrmMain::loadState()
     // Design time: first column, descending, so a first click sorts ascending.
     m_serverSort = ColumnLayout::readSort(m_settings, Keys::ServerList.sort, ColumnLayout::SortState{});
     m_playerSort = ColumnLayout::readSort(m_settings, Keys::PlayerList.sort, ColumnLayout::SortState{});
+    // A sort stored by an earlier run counts as the last column click.
+    m_serverSorted = m_settings.contains(SettingsCodec::sortKeyKey(Keys::ServerList.sort));
+    m_playerSorted = m_settings.contains(SettingsCodec::sortKeyKey(Keys::PlayerList.sort));
 
     cmbFind->setEntries(m_settings.getEntries(Keys::FindBox));
     cmbPlayerName->setEntries(m_settings.getEntries(Keys::PlayerNameBox));
@@ -671,6 +683,10 @@ void FrmMain::cancelQuery()
 {
     m_session.cancel();
     flushAnswers();
+    // The lists are rebuilt and sorted by the last column click once a
+    // query ends; during it rows were appended as they came.
+    UpdateServerList();
+    UpdatePlayerList();
     setIdleButtons();
     setStatus(tr("Cancelled"), Red);
     prbProgress->setValue(0);
@@ -707,13 +723,41 @@ void FrmMain::UpdateServerList()
 {
     m_visibility->setRules(m_frmFilters->filters(), m_frmFilters->builtIn());
     m_visibleServers->refilter();
+    if (m_serverSorted)
+        applySort(*m_visibleServers, *lstServerList, m_serverSort);
     updateCounters();
 }
 
 void FrmMain::UpdatePlayerList()
 {
     m_visiblePlayers->refilter();
+    if (m_playerSorted)
+        applySort(*m_visiblePlayers, *lstPlayerList, m_playerSort);
     updateCounters();
+}
+
+void FrmMain::applySort(VisibleList& list, ReportView& view, ColumnLayout::SortState sort)
+{
+    const Qt::SortOrder order = sort.order == 0 ? Qt::AscendingOrder : Qt::DescendingOrder;
+    list.sortBy(sort.key, order);
+    view.header()->setSortIndicatorShown(true);
+    view.header()->setSortIndicator(sort.key, order);
+}
+
+void FrmMain::sortClicked(VisibleList& list, ReportView& view, ColumnLayout::SortState& sort, QStringView prefix,
+                          int column)
+{
+    // An empty list ignores the click: no flip, nothing saved.
+    if (list.rowCount() == 0)
+        return;
+    // Every click flips the direction, also on another column.
+    sort = ColumnLayout::SortState{column, (sort.order + 1) % 2};
+    if (&list == m_visibleServers)
+        m_serverSorted = true;
+    else
+        m_playerSorted = true;
+    applySort(list, view, sort);
+    ColumnLayout::saveSort(m_settings, prefix, sort);
 }
 
 void FrmMain::ShowServerName(const QString& name)

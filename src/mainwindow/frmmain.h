@@ -114,6 +114,9 @@ private:
     void queryFailed(const QueryError& error);
     void serverClicked(const QModelIndex& index);
     void playerClicked(const QModelIndex& index);
+    void applySort(VisibleList& list, ReportView& view, ColumnLayout::SortState sort);
+    void sortClicked(VisibleList& list, ReportView& view, ColumnLayout::SortState& sort, QStringView prefix,
+                     int column);
     void clearNameLabels();
 
     SettingsStore& m_settings;
@@ -130,6 +133,8 @@ private:
 
     ColumnLayout::SortState m_serverSort;
     ColumnLayout::SortState m_playerSort;
+    bool m_serverSorted = false;
+    bool m_playerSorted = false;
     bool m_initialSizeApplied = false;
     bool m_resizeInProgress = false;
 

@@ -105,3 +105,35 @@ void PlayerListModel::replaceServer(int server)
     m_rows += rows;
     endInsertRows();
 }
+
+SortKeys PlayerListModel::sortKeys(int column) const
+{
+    SortKeys keys;
+    keys.numeric = column == Ping || column == Rate || column == Players || column == ServerPing;
+    if (keys.numeric) {
+        keys.numbers.reserve(size_t(m_rows.size()));
+        for (const Row& row : m_rows) {
+            const ServerRecord& server = m_servers.record(row.server);
+            const PlayerRecord& player = server.players.at(row.player);
+            switch (column) {
+            case Ping:
+                keys.numbers.push_back(player.ping);
+                break;
+            case Rate:
+                keys.numbers.push_back(player.rate);
+                break;
+            case Players:
+                keys.numbers.push_back(server.playerCount * 65536LL + server.maxPlayers);
+                break;
+            default:
+                keys.numbers.push_back(server.ping);
+                break;
+            }
+        }
+        return keys;
+    }
+    keys.texts.reserve(m_rows.size());
+    for (int row = 0; row < m_rows.size(); ++row)
+        keys.texts.append(data(index(row, column)).toString().toCaseFolded());
+    return keys;
+}

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "reportmodel.h"
+#include "visiblelists.h"
 
 class ServerListModel;
 
@@ -33,6 +34,7 @@ public:
     void replaceServer(int server);
 
     const Row& row(int row) const { return m_rows.at(row); }
+    SortKeys sortKeys(int column) const;
 
 private:
     QList<Row> rowsOf(int server) const;

@@ -73,3 +73,21 @@ void ServerListModel::replace(int storeIndex, const ServerRecord& server)
     m_store.replace(storeIndex, server);
     emit dataChanged(index(storeIndex, 0), index(storeIndex, ColumnCount - 1));
 }
+
+SortKeys ServerListModel::sortKeys(int column) const
+{
+    SortKeys keys;
+    keys.numeric = column == Players || column == Ping;
+    if (keys.numeric) {
+        keys.numbers.reserve(size_t(m_store.count()));
+        for (int row = 0; row < m_store.count(); ++row) {
+            const ServerRecord& server = m_store.at(row);
+            keys.numbers.push_back(column == Ping ? server.ping : server.playerCount * 65536LL + server.maxPlayers);
+        }
+        return keys;
+    }
+    keys.texts.reserve(m_store.count());
+    for (int row = 0; row < m_store.count(); ++row)
+        keys.texts.append(cellText(m_store.at(row), m_plainNames.at(row), column).toCaseFolded());
+    return keys;
+}

@@ -2,6 +2,7 @@
 
 #include "records.h"
 #include "reportmodel.h"
+#include "visiblelists.h"
 
 // Every server that answered, in answer order: the hidden full server
 // list. The visible list is a proxy over it. Each row refers to its record
@@ -30,6 +31,7 @@ public:
     const QString& plainName(int row) const { return m_plainNames.at(row); }
 
     static QString cellText(const ServerRecord& server, const QString& plainName, int column);
+    SortKeys sortKeys(int column) const;
 
 private:
     ServerStore m_store;

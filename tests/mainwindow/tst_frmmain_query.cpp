@@ -13,6 +13,7 @@
 
 #include <QCheckBox>
 #include <QFile>
+#include <QHeaderView>
 #include <QLabel>
 #include <QLineEdit>
 #include <QProgressBar>
@@ -294,6 +295,48 @@ private slots:
         QTRY_COMPARE_WITH_TIMEOUT(w.status(), QStringLiteral("Done"), 4000);
         QCOMPARE(w.visible("lstServerList")->rowCount(), busy);
         QCOMPARE(w.window->serverList().rowCount(), 40);
+    }
+
+    void columnClicksFlipSortAndPersist()
+    {
+        SimFleet fleet(fleetOf(30, 24900));
+        QVERIFY(!fleet.start());
+        Window w(24900);
+        QHeaderView* header = w.find<ReportView>("lstServerList")->header();
+        emit header->sectionClicked(ServerListModel::Ping);
+        QVERIFY2(!w.settings.contains(u"SSortOrder"), "an empty list ignores the click");
+        QCOMPARE(w.window->serverSort(), (ColumnLayout::SortState{0, 1}));
+
+        QTest::mouseClick(w.button("cmdGet"), Qt::LeftButton);
+        QTRY_COMPARE_WITH_TIMEOUT(w.status(), QStringLiteral("Done"), 4000);
+        const auto numbers = [&w](int column) {
+            QList<int> values;
+            for (int row = 0; row < w.visible("lstServerList")->rowCount(); ++row)
+                values.append(w.cell("lstServerList", row, column).section(QLatin1Char('/'), 0, 0).toInt());
+            return values;
+        };
+        emit header->sectionClicked(ServerListModel::Players);
+        QList<int> players = numbers(ServerListModel::Players);
+        QVERIFY(std::is_sorted(players.begin(), players.end()));
+        QCOMPARE(w.settings.get(u"SSortOrder"), QStringLiteral("0"));
+        QCOMPARE(w.settings.get(u"SSortKey"), QStringLiteral("2"));
+        // Another column: the direction still flips, so it sorts descending.
+        emit header->sectionClicked(ServerListModel::Map);
+        QStringList maps;
+        for (int row = 0; row < 30; ++row)
+            maps.append(w.cell("lstServerList", row, ServerListModel::Map));
+        QVERIFY(std::is_sorted(maps.rbegin(), maps.rend()));
+        QCOMPARE(w.settings.get(u"SSortOrder"), QStringLiteral("1"));
+        emit header->sectionClicked(ServerListModel::Players);
+        players = numbers(ServerListModel::Players);
+        QVERIFY(std::is_sorted(players.begin(), players.end()));
+
+        // The next query's rows come unsorted and are sorted when it ends.
+        QTest::mouseClick(w.button("cmdGet"), Qt::LeftButton);
+        QTRY_COMPARE_WITH_TIMEOUT(w.status(), QStringLiteral("Done"), 4000);
+        players = numbers(ServerListModel::Players);
+        QVERIFY(std::is_sorted(players.begin(), players.end()));
+        QCOMPARE(players.size(), 30);
     }
 
     void clickedNamesAreDrawnInColour()

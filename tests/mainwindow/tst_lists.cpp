@@ -1,0 +1,129 @@
+#include "playerlistmodel.h"
+#include "serverlistmodel.h"
+#include "visiblelists.h"
+
+#include <QAbstractItemModelTester>
+#include <QTest>
+
+namespace {
+
+ServerRecord server(const char* name, int ping, int players, int maxPlayers, QList<int> playerPings = {})
+{
+    ServerRecord record;
+    record.name = QString::fromLatin1(name);
+    record.address = QStringLiteral("10.0.0.1");
+    record.port = 27000 + ping;
+    record.ping = ping;
+    record.playerCount = qint16(players);
+    record.maxPlayers = qint16(maxPlayers);
+    record.tokens = {QStringLiteral("si_name"), record.name};
+    for (int p : playerPings)
+        record.players.append(PlayerRecord{QString(), QStringLiteral("^1p") + QString::number(p), 0, 25000, p});
+    return record;
+}
+
+// The hidden lists with their visible proxies, all under the model tester.
+struct Lists {
+    ServerListModel servers;
+    PlayerListModel players{servers};
+    ServerVisibility visibility{servers.store()};
+    VisibleList visibleServers{[this](int row) { return visibility.isVisible(row); },
+                               [this](int column) { return servers.sortKeys(column); }};
+    VisibleList visiblePlayers{[this](int row) { return visibility.isVisible(players.row(row).server); },
+                               [this](int column) { return players.sortKeys(column); }};
+    QAbstractItemModelTester testers[4]{
+        QAbstractItemModelTester(&servers, QAbstractItemModelTester::FailureReportingMode::QtTest),
+        QAbstractItemModelTester(&players, QAbstractItemModelTester::FailureReportingMode::QtTest),
+        QAbstractItemModelTester(&visibleServers, QAbstractItemModelTester::FailureReportingMode::QtTest),
+        QAbstractItemModelTester(&visiblePlayers, QAbstractItemModelTester::FailureReportingMode::QtTest)};
+
+    Lists()
+    {
+        visibleServers.setSourceModel(&servers);
+        visiblePlayers.setSourceModel(&players);
+    }
+    void add(const QList<ServerRecord>& records) { players.appendServersFrom(servers.append(records)); }
+    QStringList column(const QAbstractItemModel& model, int column) const
+    {
+        QStringList cells;
+        for (int row = 0; row < model.rowCount(); ++row)
+            cells.append(model.index(row, column).data().toString());
+        return cells;
+    }
+};
+
+} // namespace
+
+class TestLists final : public QObject {
+    Q_OBJECT
+
+private slots:
+    void numericColumnsSortAsNumbers()
+    {
+        Lists lists;
+        lists.add({server("a", 45, 10, 16), server("b", 5, 2, 8), server("c", 120, 2, 16)});
+        lists.visibleServers.sortBy(ServerListModel::Ping, Qt::AscendingOrder);
+        QCOMPARE(lists.column(lists.visibleServers, ServerListModel::Ping), (QStringList{"5", "45", "120"}));
+        lists.visibleServers.sortBy(ServerListModel::Players, Qt::AscendingOrder);
+        QCOMPARE(lists.column(lists.visibleServers, ServerListModel::Players), (QStringList{"2/8", "2/16", "10/16"}));
+        lists.visibleServers.sortBy(ServerListModel::Players, Qt::DescendingOrder);
+        QCOMPARE(lists.column(lists.visibleServers, ServerListModel::Players), (QStringList{"10/16", "2/16", "2/8"}));
+    }
+
+    void playerColumnsSortAsNumbersAndTextIgnoresCase()
+    {
+        Lists lists;
+        lists.add({server("^1Zed", 10, 1, 8, {100}), server("alpha", 9, 2, 8, {7, 30})});
+        lists.visiblePlayers.sortBy(PlayerListModel::ServerPing, Qt::AscendingOrder);
+        QCOMPARE(lists.column(lists.visiblePlayers, PlayerListModel::ServerPing), (QStringList{"9", "9", "10"}));
+        lists.visiblePlayers.sortBy(PlayerListModel::Ping, Qt::DescendingOrder);
+        QCOMPARE(lists.column(lists.visiblePlayers, PlayerListModel::Ping), (QStringList{"100", "30", "7"}));
+        lists.visiblePlayers.sortBy(PlayerListModel::ServerName, Qt::AscendingOrder);
+        QCOMPARE(lists.column(lists.visiblePlayers, PlayerListModel::ServerName),
+                 (QStringList{"alpha", "alpha", "Zed"}));
+    }
+
+    void equalRowsKeepAnswerOrderBothWays()
+    {
+        Lists lists;
+        lists.add({server("x", 50, 1, 8), server("y", 50, 1, 8), server("z", 50, 1, 8)});
+        for (Qt::SortOrder order : {Qt::AscendingOrder, Qt::DescendingOrder}) {
+            lists.visibleServers.sortBy(ServerListModel::Ping, order);
+            QCOMPARE(lists.column(lists.visibleServers, ServerListModel::Name), (QStringList{"x", "y", "z"}));
+        }
+    }
+
+    void rowsAddedAfterASortAreAppended()
+    {
+        Lists lists;
+        lists.add({server("b", 20, 1, 8), server("a", 10, 1, 8)});
+        lists.visibleServers.sortBy(ServerListModel::Ping, Qt::AscendingOrder);
+        lists.add({server("c", 5, 1, 8)});
+        QCOMPARE(lists.column(lists.visibleServers, ServerListModel::Name), (QStringList{"a", "b", "c"}));
+    }
+
+    void playersFollowTheirServersVisibility()
+    {
+        Lists lists;
+        lists.add({server("keep", 10, 2, 8, {10, 20}), server("drop", 20, 1, 8, {30})});
+        lists.visibility.setRules({{QStringLiteral("si_name"), QStringLiteral("k*")}}, {});
+        lists.visibleServers.refilter();
+        lists.visiblePlayers.refilter();
+        QCOMPARE(lists.column(lists.visibleServers, ServerListModel::Name), QStringList{"keep"});
+        QCOMPARE(lists.column(lists.visiblePlayers, PlayerListModel::Ping), (QStringList{"10", "20"}));
+
+        // A refreshed server is tested again.
+        ServerRecord renamed = server("kept", 20, 1, 8, {40});
+        renamed.port = 27020;
+        lists.servers.replace(1, renamed);
+        lists.players.replaceServer(1);
+        lists.visibility.forget(1);
+        lists.visibleServers.refilter();
+        lists.visiblePlayers.refilter();
+        QCOMPARE(lists.column(lists.visibleServers, ServerListModel::Name), (QStringList{"keep", "kept"}));
+        QCOMPARE(lists.column(lists.visiblePlayers, PlayerListModel::Ping), (QStringList{"10", "20", "40"}));
+    }
+};
+
+QTEST_MAIN(TestLists)
+#include "tst_lists.moc"
