@@ -4,6 +4,7 @@
 #include "columnlayout.h"
 #include "desktop.h"
 #include "favourites.h"
+#include "find.h"
 #include "frmfilters.h"
 #include "historycombobox.h"
 #include "language.h"
@@ -13,6 +14,7 @@
 #include "reportmodel.h"
 #include "reportview.h"
 #include "serverlistmodel.h"
+#include "serverpanes.h"
 #include "settingscodec.h"
 #include "settingskeys.h"
 #include "settingsstore.h"
@@ -20,13 +22,16 @@
 
 #include <QAction>
 #include <QApplication>
+#include <QClipboard>
 #include <QCloseEvent>
 #include <QDir>
 #include <QFrame>
 #include <QHBoxLayout>
 #include <QHeaderView>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QMenu>
+#include <QMouseEvent>
 #include <QProgressBar>
 #include <QPushButton>
 #include <QSplitter>
@@ -129,8 +134,8 @@ void FrmMain::createControls()
         new VisibleList([this](int row) { return m_visibility->isVisible(m_playerModel->row(row).server); },
                         [this](int column) { return m_playerModel->sortKeys(column); }, this);
     m_visiblePlayers->setSourceModel(m_playerModel);
-    m_serverPlayersModel = new ReportModel(ListColumns::serverPlayers(), this);
-    m_serverRulesModel = new ReportModel(ListColumns::serverRules(), this);
+    m_serverPlayersModel = new ServerPlayersModel(this);
+    m_serverRulesModel = new ServerRulesModel(this);
 
     rzrPSI = new QSplitter(Qt::Vertical, this);
     rzrPSI->setObjectName(QStringLiteral("rzrPSI"));
@@ -218,6 +223,22 @@ void FrmMain::createControls()
     connect(cmdCancel, &QPushButton::clicked, this, &FrmMain::cancelQuery);
     connect(lstServerList, &QAbstractItemView::clicked, this, &FrmMain::serverClicked);
     connect(lstPlayerList, &QAbstractItemView::clicked, this, &FrmMain::playerClicked);
+    for (ReportView* list : {lstServerList, lstPlayerList, lvwPlayers, lvwServerInfo})
+        list->viewport()->installEventFilter(this);
+    lstPlayerList->installEventFilter(this);
+    // Keyboard moves show the row like a click, without menu or refresh.
+    connect(lstServerList->selectionModel(), &QItemSelectionModel::currentRowChanged, this,
+            [this](const QModelIndex& current) { showServer(current); });
+    connect(lstPlayerList->selectionModel(), &QItemSelectionModel::currentRowChanged, this,
+            [this](const QModelIndex& current) { showPlayer(current); });
+    connect(lvwPlayers->header(), &QHeaderView::sectionClicked, this,
+            [this](int column) { sortPane(*lvwPlayers, m_serverPlayersSort, Keys::ServerPlayers.sort, column); });
+    connect(lvwServerInfo->header(), &QHeaderView::sectionClicked, this,
+            [this](int column) { sortPane(*lvwServerInfo, m_serverRulesSort, Keys::ServerRules.sort, column); });
+    connect(mPopSelServer, &QAction::triggered, this, &FrmMain::selectServerOfPlayer);
+    m_findPalette = cmbFind->palette();
+    connect(cmbFind, &QComboBox::editTextChanged, this, &FrmMain::runFind);
+    connect(cmbFind, &QComboBox::activated, this, &FrmMain::runFind);
     connect(lstServerList->header(), &QHeaderView::sectionClicked, this, [this](int column) {
         sortClicked(*m_visibleServers, *lstServerList, m_serverSort, Keys::ServerList.sort, column);
     });
@@ -255,7 +276,11 @@ void FrmMain::createControls()
     connect(cmbPassword, &HistoryComboBox::enterPressed, this,
             [this] { cmbPassword->remember(cmbPassword->currentText()); });
     connect(cmbFind, &HistoryComboBox::enterPressed, cmdFind, &QPushButton::click);
-    connect(cmdFind, &QPushButton::clicked, this, [this] { cmbFind->remember(cmbFind->currentText()); });
+    connect(cmdFind, &QPushButton::clicked, this, [this] {
+        m_findMarker = QStringLiteral("1");
+        cmbFind->remember(cmbFind->currentText());
+        runFind();
+    });
 }
 
 void FrmMain::createMenus()
@@ -499,6 +524,37 @@ bool FrmMain::eventFilter(QObject* watched, QEvent* event)
         showAbout();
         return true;
     }
+    if (watched == lstPlayerList && event->type() == QEvent::KeyPress) {
+        const auto* key = static_cast<QKeyEvent*>(event);
+        if (key->key() == Qt::Key_C && (key->modifiers() & Qt::ControlModifier)) {
+            copyPlayersServerAddress();
+            return true;
+        }
+        return QWidget::eventFilter(watched, event);
+    }
+    for (ReportView* list : {lstServerList, lstPlayerList, lvwPlayers, lvwServerInfo}) {
+        if (watched != list->viewport())
+            continue;
+        if (event->type() == QEvent::MouseButtonPress) {
+            const auto* mouse = static_cast<QMouseEvent*>(event);
+            m_lastButton[list] = mouse->button() == Qt::RightButton ? 2 : mouse->button() == Qt::LeftButton ? 1 : 0;
+            saveColumnOrders();
+            m_menuColumn = list->header()->logicalIndexAt(mouse->position().toPoint().x());
+        } else if (event->type() == QEvent::MouseButtonRelease) {
+            const auto* mouse = static_cast<QMouseEvent*>(event);
+            const QModelIndex index = list->indexAt(mouse->position().toPoint());
+            if (mouse->button() != Qt::RightButton || m_lastButton.value(list) != 2 || !index.isValid())
+                break;
+            list->setCurrentIndex(index);
+            if (list == lstServerList)
+                serverRowClicked(index, 2);
+            else if (list == lstPlayerList)
+                playerRowClicked(index, 2);
+            else
+                (list == lvwPlayers ? mPopupAltPlayers : mPopupAltServerInfo)->popup(QCursor::pos());
+        }
+        break;
+    }
     return QWidget::eventFilter(watched, event);
 }
 
@@ -511,6 +567,8 @@ void FrmMain::showAbout()
 
 void FrmMain::emptyAllRecords()
 {
+    m_selectedServer = -1;
+    fillPanes();
     m_flushTimer.stop();
     m_pendingAnswers.clear();
     m_playerModel->clear();
@@ -674,6 +732,10 @@ void FrmMain::applyRefresh(const ServerRecord& server)
     m_serverModel->replace(index, server);
     m_playerModel->replaceServer(index);
     m_visibility->forget(index);
+    if (index == m_selectedServer) {
+        ShowServerName(server.name);
+        fillPanes();
+    }
     m_visibleServers->refilter();
     m_visiblePlayers->refilter();
     updateCounters();
@@ -778,7 +840,7 @@ void FrmMain::clearNameLabels()
     ShowPlayerName(QString());
 }
 
-void FrmMain::playerClicked(const QModelIndex& index)
+void FrmMain::showPlayer(const QModelIndex& index)
 {
     if (!index.isValid())
         return;
@@ -788,19 +850,149 @@ void FrmMain::playerClicked(const QModelIndex& index)
     ShowServerName(server.name);
 }
 
-void FrmMain::serverClicked(const QModelIndex& index)
+void FrmMain::showServer(const QModelIndex& index)
 {
     if (!index.isValid())
         return;
-    const ServerRecord& server = m_serverModel->record(m_visibleServers->mapToSource(index).row());
-    ShowServerName(server.name);
+    m_selectedServer = m_visibleServers->mapToSource(index).row();
+    ShowServerName(m_serverModel->record(m_selectedServer).name);
     ShowPlayerName(QString());
+    fillPanes();
+}
+
+void FrmMain::fillPanes()
+{
+    if (m_selectedServer < 0 || m_selectedServer >= m_serverModel->store().count()) {
+        m_serverPlayersModel->setPlayers({});
+        m_serverRulesModel->setTokens({});
+        return;
+    }
+    const ServerRecord& server = m_serverModel->record(m_selectedServer);
+    m_serverPlayersModel->setPlayers(server.players);
+    m_serverRulesModel->setTokens(server.tokens);
+}
+
+void FrmMain::sortPane(ReportView& view, ColumnLayout::SortState& sort, QStringView prefix, int column)
+{
+    if (view.model()->rowCount() == 0)
+        return;
+    sort = ColumnLayout::SortState{column, (sort.order + 1) % 2};
+    const Qt::SortOrder order = sort.order == 0 ? Qt::AscendingOrder : Qt::DescendingOrder;
+    view.model()->sort(column, order);
+    view.header()->setSortIndicatorShown(true);
+    view.header()->setSortIndicator(column, order);
+    ColumnLayout::saveSort(m_settings, prefix, sort);
+}
+
+void FrmMain::playerClicked(const QModelIndex& index)
+{
+    playerRowClicked(index, m_lastButton.value(lstPlayerList, 1));
+}
+
+void FrmMain::serverClicked(const QModelIndex& index)
+{
+    serverRowClicked(index, m_lastButton.value(lstServerList, 1));
+}
+
+void FrmMain::playerRowClicked(const QModelIndex& index, int button)
+{
+    showPlayer(index);
+    if (button == 2 && m_visiblePlayers->rowCount() > 0)
+        mPopupAlt->popup(QCursor::pos());
+}
+
+void FrmMain::serverRowClicked(const QModelIndex& index, int button)
+{
+    if (!index.isValid())
+        return;
+    showServer(index);
+    if (button == 2 && m_visibleServers->rowCount() > 0) {
+        mPopupAlt->popup(QCursor::pos());
+        return;
+    }
     if (m_session.isRunning() || !m_settings.getFlag(Keys::RefreshServers, true))
         return;
+    const ServerRecord& server = m_serverModel->record(m_selectedServer);
     if (!preparePool())
         return;
     if (const auto error = m_session.refresh(server.address, server.port))
         setStatus(error->message(), Red);
+}
+
+void FrmMain::selectServerOfPlayer()
+{
+    const QModelIndex current = lstPlayerList->currentIndex();
+    if (!current.isValid())
+        return;
+    const auto& player = m_playerModel->row(m_visiblePlayers->mapToSource(current).row());
+    const QString address = m_serverModel->record(player.server).endpointText();
+    for (int row = 0; row < m_visibleServers->rowCount(); ++row) {
+        const QModelIndex index = m_visibleServers->index(row, ServerListModel::Address);
+        if (index.data().toString() != address)
+            continue;
+        tabSelect->setCurrentIndex(ServersTab);
+        const QModelIndex first = m_visibleServers->index(row, 0);
+        lstServerList->setCurrentIndex(first);
+        lstServerList->scrollTo(first);
+        serverRowClicked(first, 1);
+        return;
+    }
+}
+
+ReportView* FrmMain::findTarget() const
+{
+    return tabSelect->currentIndex() == PlayersTab ? lstPlayerList : lstServerList;
+}
+
+void FrmMain::runFind()
+{
+    ReportView* list = findTarget();
+    const QString text = cmbFind->currentText();
+    if (text.isEmpty()) {
+        list->clearSelection();
+        clearNameLabels();
+        cmbFind->setPalette(m_findPalette);
+        lblStatus->clear();
+        return;
+    }
+    QAbstractItemModel* model = list->model();
+    const int rows = model->rowCount();
+    const int start =
+        Find::startRow(m_findMarker, list->currentIndex().isValid() ? list->currentIndex().row() : -1, rows);
+    // The text of a row is its first column: the player's or the server's name.
+    const auto textAt = [model](int row) { return model->index(row, 0).data().toString(); };
+    const int found = Find::findRow(rows, textAt, text, start);
+    m_findMarker = QStringLiteral("0");
+    if (found < 0) {
+        list->clearSelection();
+        list->setCurrentIndex({});
+        clearNameLabels();
+        QPalette notFound = m_findPalette;
+        notFound.setColor(QPalette::Base, QColor(255, 102, 102));
+        cmbFind->setPalette(notFound);
+        setStatus(tr("Text Not Found"), Red);
+        return;
+    }
+    const QModelIndex index = model->index(found, 0);
+    list->setCurrentIndex(index);
+    list->scrollTo(index);
+    cmbFind->setPalette(m_findPalette);
+    // Also when the row was current already and no change signal came.
+    if (list == lstPlayerList)
+        showPlayer(index);
+    else
+        showServer(index);
+}
+
+void FrmMain::copyPlayersServerAddress()
+{
+    const QModelIndex current = lstPlayerList->currentIndex();
+    if (!current.isValid())
+        return;
+    const auto& player = m_playerModel->row(m_visiblePlayers->mapToSource(current).row());
+    QClipboard* clipboard = QGuiApplication::clipboard();
+    clipboard->clear();
+    clipboard->setText(m_serverModel->record(player.server).endpointText());
 }
 
 void FrmMain::saveColumnOrders()

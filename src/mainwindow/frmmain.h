@@ -4,6 +4,8 @@
 #include "querysession.h"
 #include "records.h"
 
+#include <QHash>
+#include <QPalette>
 #include <QTimer>
 #include <QWidget>
 
@@ -26,6 +28,8 @@ class MulticolorLabel;
 class ServerVisibility;
 class VisibleList;
 class ReportModel;
+class ServerPlayersModel;
+class ServerRulesModel;
 class ReportView;
 class ServerListModel;
 class SettingsStore;
@@ -112,8 +116,21 @@ private:
     void finishQuery();
     void masterTimedOut();
     void queryFailed(const QueryError& error);
+    // A row of a list was clicked with the last pressed button (1 left,
+    // 2 right): the display part, then the menu or the refresh.
     void serverClicked(const QModelIndex& index);
     void playerClicked(const QModelIndex& index);
+    void serverRowClicked(const QModelIndex& index, int button);
+    void playerRowClicked(const QModelIndex& index, int button);
+    // The display part of a selection: names in colour and the panes.
+    void showServer(const QModelIndex& index);
+    void showPlayer(const QModelIndex& index);
+    void fillPanes();
+    void sortPane(ReportView& view, ColumnLayout::SortState& sort, QStringView prefix, int column);
+    void selectServerOfPlayer();
+    void runFind();
+    void copyPlayersServerAddress();
+    ReportView* findTarget() const;
     void applySort(VisibleList& list, ReportView& view, ColumnLayout::SortState sort);
     void sortClicked(VisibleList& list, ReportView& view, ColumnLayout::SortState& sort, QStringView prefix,
                      int column);
@@ -134,6 +151,16 @@ private:
     ColumnLayout::SortState m_serverSort;
     ColumnLayout::SortState m_playerSort;
     bool m_serverSorted = false;
+    ColumnLayout::SortState m_serverPlayersSort;
+    ColumnLayout::SortState m_serverRulesSort;
+    int m_selectedServer = -1;
+    // The mouse button last pressed in each list (1 left, 2 right).
+    QHash<const QWidget*, int> m_lastButton;
+    // The column under the pointer when a list's menu was opened.
+    int m_menuColumn = 0;
+    // "1": the next find continues after the selected row.
+    QString m_findMarker = QStringLiteral("0");
+    QPalette m_findPalette;
     bool m_playerSorted = false;
     bool m_initialSizeApplied = false;
     bool m_resizeInProgress = false;
@@ -152,8 +179,8 @@ private:
     VisibleList* m_visibleServers = nullptr;
     VisibleList* m_visiblePlayers = nullptr;
     FrmFilters* m_frmFilters = nullptr;
-    ReportModel* m_serverPlayersModel = nullptr;
-    ReportModel* m_serverRulesModel = nullptr;
+    ServerPlayersModel* m_serverPlayersModel = nullptr;
+    ServerRulesModel* m_serverRulesModel = nullptr;
 
     QLabel* lblSName = nullptr;
     MulticolorLabel* mclSName = nullptr;

@@ -6,22 +6,9 @@ ReportModel::ReportModel(std::span<const ListColumn> columns, QObject* parent)
 {
 }
 
-int ReportModel::rowCount(const QModelIndex& parent) const
-{
-    Q_UNUSED(parent);
-    return 0;
-}
-
 int ReportModel::columnCount(const QModelIndex& parent) const
 {
     return parent.isValid() ? 0 : int(m_columns.size());
-}
-
-QVariant ReportModel::data(const QModelIndex& index, int role) const
-{
-    Q_UNUSED(index);
-    Q_UNUSED(role);
-    return {};
 }
 
 QVariant ReportModel::headerData(int section, Qt::Orientation orientation, int role) const

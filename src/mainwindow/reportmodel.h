@@ -12,9 +12,7 @@ class ReportModel : public QAbstractTableModel {
 public:
     explicit ReportModel(std::span<const ListColumn> columns, QObject* parent = nullptr);
 
-    int rowCount(const QModelIndex& parent = {}) const override;
     int columnCount(const QModelIndex& parent = {}) const override;
-    QVariant data(const QModelIndex& index, int role = Qt::DisplayRole) const override;
     QVariant headerData(int section, Qt::Orientation orientation, int role = Qt::DisplayRole) const override;
 
     std::span<const ListColumn> columns() const { return m_columns; }

@@ -1,0 +1,116 @@
+#include "serverpanes.h"
+
+#include "colourcodes.h"
+
+#include <algorithm>
+
+ServerPlayersModel::ServerPlayersModel(QObject* parent)
+    : ReportModel(ListColumns::serverPlayers(), parent)
+{
+}
+
+int ServerPlayersModel::rowCount(const QModelIndex& parent) const
+{
+    return parent.isValid() ? 0 : int(m_rows.size());
+}
+
+QVariant ServerPlayersModel::data(const QModelIndex& index, int role) const
+{
+    if (!index.isValid() || index.row() >= m_rows.size() || role != Qt::DisplayRole)
+        return {};
+    const Row& row = m_rows.at(index.row());
+    switch (index.column()) {
+    case Number:
+        return QString::number(row.player.clientNumber);
+    case Name:
+        return row.plainName;
+    case Clan:
+        return row.plainClan;
+    case Ping:
+        return QString::number(row.player.ping);
+    case Rate:
+        return QString::number(row.player.rate);
+    default:
+        return {};
+    }
+}
+
+void ServerPlayersModel::setPlayers(const QList<PlayerRecord>& players)
+{
+    beginResetModel();
+    m_rows.clear();
+    for (const PlayerRecord& player : players)
+        m_rows.append(
+            Row{player, ColourCodes::StripColourCodes(player.name), ColourCodes::StripColourCodes(player.clan)});
+    endResetModel();
+}
+
+void ServerPlayersModel::sort(int column, Qt::SortOrder order)
+{
+    const auto number = [column](const Row& row) -> qint64 {
+        return column == Number ? row.player.clientNumber : column == Ping ? row.player.ping : row.player.rate;
+    };
+    const bool numeric = column == Number || column == Ping || column == Rate;
+    emit layoutAboutToBeChanged();
+    std::stable_sort(m_rows.begin(), m_rows.end(), [&](const Row& a, const Row& b) {
+        if (numeric)
+            return order == Qt::AscendingOrder ? number(a) < number(b) : number(a) > number(b);
+        const QString& left = column == Name ? a.plainName : a.plainClan;
+        const QString& right = column == Name ? b.plainName : b.plainClan;
+        const int compared = left.compare(right, Qt::CaseInsensitive);
+        return order == Qt::AscendingOrder ? compared < 0 : compared > 0;
+    });
+    emit layoutChanged();
+}
+
+ServerRulesModel::ServerRulesModel(QObject* parent)
+    : ReportModel(ListColumns::serverRules(), parent)
+{
+}
+
+int ServerRulesModel::rowCount(const QModelIndex& parent) const
+{
+    return parent.isValid() ? 0 : int(m_rules.size());
+}
+
+QPair<QString, QString> ServerRulesModel::displayed(const QString& key, const QString& value)
+{
+    const QString plainKey = ColourCodes::StripColourCodes(key);
+    if (value == QLatin1String("1"))
+        return {plainKey, tr("True")};
+    if (value == QLatin1String("0"))
+        return {plainKey, tr("False")};
+    return {plainKey, plainKey == QLatin1String("si_name") ? ColourCodes::StripColourCodesCounted(value)
+                                                           : ColourCodes::StripColourCodes(value)};
+}
+
+QVariant ServerRulesModel::data(const QModelIndex& index, int role) const
+{
+    if (!index.isValid() || index.row() >= m_rules.size() || role != Qt::DisplayRole)
+        return {};
+    const auto& [key, value] = m_rules.at(index.row());
+    const auto shown = displayed(key, value);
+    return index.column() == 0 ? shown.first : shown.second;
+}
+
+void ServerRulesModel::setTokens(const QStringList& tokens)
+{
+    beginResetModel();
+    m_rules.clear();
+    for (qsizetype i = 0; i < tokens.size(); i += 2)
+        m_rules.append({tokens.at(i), i + 1 < tokens.size() ? tokens.at(i + 1) : QString()});
+    endResetModel();
+}
+
+void ServerRulesModel::sort(int column, Qt::SortOrder order)
+{
+    emit layoutAboutToBeChanged();
+    std::stable_sort(m_rules.begin(), m_rules.end(), [&](const auto& a, const auto& b) {
+        const auto left = displayed(a.first, a.second);
+        const auto right = displayed(b.first, b.second);
+        const int compared = (column == 0 ? left.first.compare(right.first, Qt::CaseInsensitive)
+                                          : left.second.compare(right.second, Qt::CaseInsensitive));
+        return order == Qt::AscendingOrder ? compared < 0 : compared > 0;
+    });
+    emit layoutChanged();
+}

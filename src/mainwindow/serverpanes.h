@@ -1,0 +1,53 @@
+#pragma once
+
+#include "records.h"
+#include "reportmodel.h"
+
+// The selected server's players: "Num", "Player", "Clan", "Ping", "Rate".
+class ServerPlayersModel final : public ReportModel {
+    Q_OBJECT
+    Q_DISABLE_COPY_MOVE(ServerPlayersModel)
+
+public:
+    enum Column { Number, Name, Clan, Ping, Rate };
+
+    explicit ServerPlayersModel(QObject* parent = nullptr);
+
+    int rowCount(const QModelIndex& parent = {}) const override;
+    QVariant data(const QModelIndex& index, int role = Qt::DisplayRole) const override;
+    // Numbers by number, names by case-folded text; equal rows keep order.
+    void sort(int column, Qt::SortOrder order = Qt::AscendingOrder) override;
+
+    void setPlayers(const QList<PlayerRecord>& players);
+
+private:
+    struct Row {
+        PlayerRecord player;
+        QString plainName;
+        QString plainClan;
+    };
+    QList<Row> m_rows;
+};
+
+// The selected server's rules, two tokens per row: "Variable", "Value".
+class ServerRulesModel final : public ReportModel {
+    Q_OBJECT
+    Q_DISABLE_COPY_MOVE(ServerRulesModel)
+
+public:
+    explicit ServerRulesModel(QObject* parent = nullptr);
+
+    int rowCount(const QModelIndex& parent = {}) const override;
+    QVariant data(const QModelIndex& index, int role = Qt::DisplayRole) const override;
+    void sort(int column, Qt::SortOrder order = Qt::AscendingOrder) override;
+
+    void setTokens(const QStringList& tokens);
+    // The texts of one rule as the pane shows them: the server's name by
+    // the server-name rule, everything else by the player-name rule, and
+    // exactly "1" and "0" as the language's true and false.
+    static QPair<QString, QString> displayed(const QString& key, const QString& value);
+
+private:
+    // The raw tokens stay, so the true/false words follow the language.
+    QList<QPair<QString, QString>> m_rules;
+};
