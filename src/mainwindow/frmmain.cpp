@@ -235,7 +235,6 @@ void FrmMain::createControls()
             [this](int column) { sortPane(*lvwPlayers, m_serverPlayersSort, Keys::ServerPlayers.sort, column); });
     connect(lvwServerInfo->header(), &QHeaderView::sectionClicked, this,
             [this](int column) { sortPane(*lvwServerInfo, m_serverRulesSort, Keys::ServerRules.sort, column); });
-    connect(mPopSelServer, &QAction::triggered, this, &FrmMain::selectServerOfPlayer);
     m_findPalette = cmbFind->palette();
     connect(cmbFind, &QComboBox::editTextChanged, this, &FrmMain::runFind);
     connect(cmbFind, &QComboBox::activated, this, &FrmMain::runFind);
@@ -293,6 +292,7 @@ void FrmMain::createMenus()
     mPopCopyRow = createAction(mPopupAlt, "mPopCopyRow");
     mPopCopyAll = createAction(mPopupAlt, "mPopCopyAll");
     mPopSelServer = createAction(mPopupAlt, "mPopSelServer");
+    connect(mPopSelServer, &QAction::triggered, this, &FrmMain::selectServerOfPlayer);
 
     mPopupAltPlayers = new QMenu(this);
     mPopupAltPlayers->setObjectName(QStringLiteral("mPopupAltPlayers"));

@@ -12,12 +12,17 @@
 #include "simfleet.h"
 
 #include <QCheckBox>
+#include <QClipboard>
+#include <QComboBox>
 #include <QFile>
+#include <QGuiApplication>
 #include <QHeaderView>
 #include <QLabel>
 #include <QLineEdit>
+#include <QMenu>
 #include <QProgressBar>
 #include <QPushButton>
+#include <QTabBar>
 #include <QTemporaryDir>
 #include <QTest>
 #include <QUdpSocket>
@@ -337,6 +342,119 @@ private slots:
         players = numbers(ServerListModel::Players);
         QVERIFY(std::is_sorted(players.begin(), players.end()));
         QCOMPARE(players.size(), 30);
+    }
+
+    void findSelectsAndMarksMisses()
+    {
+        SimFleet fleet(fleetOf(20, 25100));
+        QVERIFY(!fleet.start());
+        Window w(25100);
+        w.settings.save(u"RefreshServers", QStringLiteral("0"));
+        QTest::mouseClick(w.button("cmdGet"), Qt::LeftButton);
+        QTRY_COMPARE_WITH_TIMEOUT(w.status(), QStringLiteral("Done"), 4000);
+        auto* find = w.find<QComboBox>("cmbFind");
+        auto* list = w.find<ReportView>("lstServerList");
+        const QColor normal = find->palette().color(QPalette::Base);
+
+        QTest::keyClicks(find->lineEdit(), QStringLiteral("#1"));
+        // Typing searches from the top: "#1" is in "... #1", "... #10" and up.
+        QVERIFY(list->currentIndex().isValid());
+        QVERIFY(list->currentIndex().data().toString().contains(QStringLiteral("#1")));
+        const int first = list->currentIndex().row();
+        QVERIFY(w.find<MulticolorLabel>("mclSName")->caption().contains(QStringLiteral("#1")));
+        // Find next moves on, and wraps round to the first again.
+        QSet<int> seen{first};
+        for (int i = 0; i < 12; ++i) {
+            QTest::mouseClick(w.button("cmdFind"), Qt::LeftButton);
+            seen.insert(list->currentIndex().row());
+        }
+        QCOMPARE(seen.size(), 11); // #1 and #10 to #19
+        QCOMPARE(find->count(), 1);
+
+        find->lineEdit()->clear();
+        QTest::keyClicks(find->lineEdit(), QStringLiteral("no such server"));
+        QCOMPARE(find->palette().color(QPalette::Base), QColor(255, 102, 102));
+        QCOMPARE(w.status(), QStringLiteral("Text Not Found"));
+        QCOMPARE(w.statusColour(), FrmMain::Red);
+        QVERIFY(!list->currentIndex().isValid());
+        QCOMPARE(w.find<MulticolorLabel>("mclSName")->caption(), QString());
+
+        find->lineEdit()->setText(QStringLiteral("#5"));
+        QCOMPARE(find->palette().color(QPalette::Base), normal);
+        QCOMPARE(w.status(), QStringLiteral("Text Not Found")); // only an empty search clears it
+        find->lineEdit()->clear();
+        QCOMPARE(w.status(), QString());
+        QVERIFY(list->selectionModel()->selectedRows().isEmpty());
+
+        // An empty box: cmdFind remembers the empty text once.
+        QTest::mouseClick(w.button("cmdFind"), Qt::LeftButton);
+        QTest::mouseClick(w.button("cmdFind"), Qt::LeftButton);
+        QCOMPARE(find->count(), 2);
+        QCOMPARE(find->itemText(1), QString());
+    }
+
+    void playerViewCopiesAndSelectsTheServer()
+    {
+        SimFleet fleet(fleetOf(12, 25200));
+        QVERIFY(!fleet.start());
+        Window w(25200);
+        w.settings.save(u"RefreshServers", QStringLiteral("0"));
+        QTest::mouseClick(w.button("cmdGet"), Qt::LeftButton);
+        QTRY_COMPARE_WITH_TIMEOUT(w.status(), QStringLiteral("Done"), 4000);
+        w.find<QTabBar>("tabSelect")->setCurrentIndex(FrmMain::PlayersTab);
+        auto* players = w.find<ReportView>("lstPlayerList");
+        QVERIFY(players->isVisible());
+        players->setCurrentIndex(players->model()->index(3, 0));
+        const auto& row = w.window->playerList().row(3);
+        const ServerRecord& server = w.window->serverList().record(row.server);
+        QCOMPARE(w.find<MulticolorLabel>("mclPName")->caption(),
+                 ColourCodes::ShowPlayerName(server.players.at(row.player).name).text);
+        QTest::keyClick(players, Qt::Key_C, Qt::ControlModifier);
+        QCOMPARE(QGuiApplication::clipboard()->text(), server.endpointText());
+
+        w.find<QAction>("mPopSelServer")->trigger();
+        QCOMPARE(w.find<QTabBar>("tabSelect")->currentIndex(), int(FrmMain::ServersTab));
+        auto* servers = w.find<ReportView>("lstServerList");
+        QCOMPARE(servers->model()->index(servers->currentIndex().row(), ServerListModel::Address).data().toString(),
+                 server.endpointText());
+        QCOMPARE(w.find<ReportView>("lvwPlayers")->model()->rowCount(), server.players.size());
+        QCOMPARE(w.find<ReportView>("lvwServerInfo")->model()->rowCount(), server.tokens.size() / 2);
+
+        // A server hidden by the filters cannot be selected: nothing moves.
+        auto* filters = w.window->findChild<FrmFilters*>(QStringLiteral("frmFilters"));
+        filters->findChild<QPushButton*>(QStringLiteral("cmdNew"))->click();
+        filters->editCell(0, 0);
+        auto* box = filters->findChild<QLineEdit*>(QStringLiteral("txtEdit"));
+        box->setText(QStringLiteral("si_name"));
+        QTest::keyClick(box, Qt::Key_Return);
+        filters->editCell(0, 1);
+        box->setText(ColourCodes::StripColourCodes(server.name).left(3) + QStringLiteral("-nothing"));
+        QTest::keyClick(box, Qt::Key_Return);
+        QCOMPARE(servers->model()->rowCount(), 0);
+        QCOMPARE(players->model()->rowCount(), 0);
+    }
+
+    void rightClickOpensTheMenuWithoutRefreshing()
+    {
+        SimFleet fleet(fleetOf(3, 25300));
+        QVERIFY(!fleet.start());
+        Window w(25300);
+        QTest::mouseClick(w.button("cmdGet"), Qt::LeftButton);
+        QTRY_COMPARE_WITH_TIMEOUT(w.status(), QStringLiteral("Done"), 4000);
+        const int requests = fleet.infoRequests();
+        auto* list = w.find<ReportView>("lstServerList");
+        const QPoint cell = list->visualRect(list->model()->index(1, 0)).center();
+        QTest::mousePress(list->viewport(), Qt::RightButton, {}, cell);
+        QTest::mouseRelease(list->viewport(), Qt::RightButton, {}, cell);
+        auto* menu = w.find<QMenu>("mPopupAlt");
+        QVERIFY(menu->isVisible());
+        menu->hide();
+        QCOMPARE(list->currentIndex().row(), 1);
+        QVERIFY(!w.find<MulticolorLabel>("mclSName")->caption().isEmpty());
+        QTest::qWait(100);
+        QCOMPARE(fleet.infoRequests(), requests);
+        // The press saved the column orders.
+        QVERIFY(w.settings.contains(u"SColumnOrder0"));
     }
 
     void clickedNamesAreDrawnInColour()

@@ -1,5 +1,6 @@
 #include "playerlistmodel.h"
 #include "serverlistmodel.h"
+#include "serverpanes.h"
 #include "visiblelists.h"
 
 #include <QAbstractItemModelTester>
@@ -122,6 +123,37 @@ private slots:
         lists.visiblePlayers.refilter();
         QCOMPARE(lists.column(lists.visibleServers, ServerListModel::Name), (QStringList{"keep", "kept"}));
         QCOMPARE(lists.column(lists.visiblePlayers, PlayerListModel::Ping), (QStringList{"10", "20", "40"}));
+    }
+    void panesShowTheSelectedServer()
+    {
+        ServerPlayersModel players;
+        QAbstractItemModelTester tester(&players, QAbstractItemModelTester::FailureReportingMode::QtTest);
+        players.setPlayers({PlayerRecord{QStringLiteral("^1[C]"), QStringLiteral("^2Bob"), 100, 9000, 45},
+                            PlayerRecord{QString(), QStringLiteral("amy"), 3, 25000, 45},
+                            PlayerRecord{QString(), QStringLiteral("Cid"), 12, 100, 5}});
+        QCOMPARE(players.index(0, ServerPlayersModel::Name).data().toString(), QStringLiteral("Bob"));
+        QCOMPARE(players.index(0, ServerPlayersModel::Clan).data().toString(), QStringLiteral("[C]"));
+        players.sort(ServerPlayersModel::Number, Qt::AscendingOrder);
+        QStringList numbers;
+        for (int row = 0; row < 3; ++row)
+            numbers.append(players.index(row, ServerPlayersModel::Number).data().toString());
+        QCOMPARE(numbers, (QStringList{"3", "12", "100"}));
+        players.sort(ServerPlayersModel::Ping, Qt::DescendingOrder);
+        QCOMPARE(players.index(0, ServerPlayersModel::Name).data().toString(),
+                 QStringLiteral("amy")); // tie: kept order
+        players.sort(ServerPlayersModel::Name, Qt::AscendingOrder);
+        QCOMPARE(players.index(0, ServerPlayersModel::Name).data().toString(), QStringLiteral("amy"));
+
+        ServerRulesModel rules;
+        QAbstractItemModelTester rulesTester(&rules, QAbstractItemModelTester::FailureReportingMode::QtTest);
+        rules.setTokens({"si_name", "^^12ab", "^1si_pure", "1", "g_gametype", "^^12ab", "si_usepass", "0", "odd"});
+        QCOMPARE(rules.rowCount(), 5);
+        QCOMPARE(rules.index(0, 1).data().toString(), QStringLiteral("ab"));   // the server-name rule
+        QCOMPARE(rules.index(2, 1).data().toString(), QStringLiteral("^2ab")); // the player-name rule
+        QCOMPARE(rules.index(1, 0).data().toString(), QStringLiteral("si_pure"));
+        QCOMPARE(rules.index(1, 1).data().toString(), QStringLiteral("True"));
+        QCOMPARE(rules.index(3, 1).data().toString(), QStringLiteral("False"));
+        QCOMPARE(rules.index(4, 1).data().toString(), QString());
     }
 };
 
