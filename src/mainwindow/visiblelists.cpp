@@ -46,6 +46,14 @@ void VisibleList::sortBy(int column, Qt::SortOrder order)
     m_keys = SortKeys();
 }
 
+std::vector<int> VisibleList::sourceRows() const
+{
+    std::vector<int> rows(static_cast<size_t>(rowCount()));
+    for (int row = 0; row < int(rows.size()); ++row)
+        rows[size_t(row)] = mapToSource(index(row, 0)).row();
+    return rows;
+}
+
 bool VisibleList::lessThan(const QModelIndex& left, const QModelIndex& right) const
 {
     const int a = left.row();

@@ -54,6 +54,8 @@ public:
     // Sorts once by the column; rows with equal keys keep their answer
     // order in both directions.
     void sortBy(int column, Qt::SortOrder order);
+    // The hidden list's row behind every visible row, in visible order.
+    std::vector<int> sourceRows() const;
 
 protected:
     bool filterAcceptsRow(int sourceRow, const QModelIndex& sourceParent) const override;
