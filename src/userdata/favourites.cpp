@@ -1,6 +1,7 @@
 #include "favourites.h"
 
 #include <QFile>
+#include <QSaveFile>
 
 #include <cmath>
 
@@ -115,6 +116,69 @@ AddressTable toAddressTable(const QList<Favourite>& favourites)
     for (const Favourite& favourite : favourites)
         table.add(favourite.address, favourite.port, favourite.name, favourite.password);
     return table;
+}
+
+QString addressText(const Favourite& favourite)
+{
+    if (favourite.port == 0)
+        return favourite.address;
+    return favourite.address + QLatin1Char(':') + QString::number(favourite.port);
+}
+
+QByteArray line(const QString& address, const QString& password, const QString& name)
+{
+    QByteArray bytes = address.toLatin1();
+    bytes += char(Separator.unicode());
+    bytes += password.toLatin1();
+    bytes += char(Separator.unicode());
+    bytes += name.toLatin1();
+    bytes += "\r\n";
+    return bytes;
+}
+
+QByteArray toFileBytes(const QList<Favourite>& favourites)
+{
+    QByteArray bytes;
+    for (const Favourite& favourite : favourites)
+        bytes += line(addressText(favourite), favourite.password, favourite.name);
+    return bytes;
+}
+
+QByteArray appendBytes(const QByteArray& existing, const QByteArray& newLine)
+{
+    if (!existing.isEmpty() && !existing.endsWith("\r\n"))
+        return "\r\n" + newLine;
+    return newLine;
+}
+
+namespace {
+bool replaceFile(const QString& path, const QByteArray& bytes)
+{
+    QSaveFile file(path);
+    if (!file.open(QIODevice::WriteOnly))
+        return false;
+    file.write(bytes);
+    return file.commit();
+}
+} // namespace
+
+bool writeFile(const QString& path, const QList<Favourite>& favourites)
+{
+    return replaceFile(path, toFileBytes(favourites));
+}
+
+bool appendToFile(const QString& path, const QString& address, const QString& password, const QString& name)
+{
+    QByteArray existing;
+    QFile current(path);
+    if (current.exists()) {
+        // Never replace a file we could not read: the user's favourites would be lost.
+        if (!current.open(QIODevice::ReadOnly))
+            return false;
+        existing = current.readAll();
+        current.close();
+    }
+    return replaceFile(path, existing + appendBytes(existing, line(address, password, name)));
 }
 
 } // namespace Favourites

@@ -38,4 +38,22 @@ std::optional<QList<Favourite>> readFile(const QString& path);
 // included.
 AddressTable toAddressTable(const QList<Favourite>& favourites);
 
+// The address as the editor shows and writes it: "address:port", or the
+// address alone when the port is 0.
+QString addressText(const Favourite& favourite);
+
+// One line of the file: address SOH password SOH name CR LF.
+QByteArray line(const QString& address, const QString& password, const QString& name);
+// The whole file for these rows (address cell, password, name), as the
+// editor's Apply writes it.
+QByteArray toFileBytes(const QList<Favourite>& favourites);
+// The bytes that go after `existing` to add a line: a file whose last line
+// lacks its line end gets one first.
+QByteArray appendBytes(const QByteArray& existing, const QByteArray& line);
+
+// Both write the whole file through QSaveFile, so a crash or a full disk
+// never leaves half a file and an append never loses what was there.
+bool writeFile(const QString& path, const QList<Favourite>& favourites);
+bool appendToFile(const QString& path, const QString& address, const QString& password, const QString& name);
+
 } // namespace Favourites

@@ -95,6 +95,52 @@ private slots:
         QCOMPARE(read->at(0).password, QStringLiteral("\u00e9"));
     }
 
+    void writersKeepTheFormat()
+    {
+        const QList<Favourite> rows{{"1.2.3.4", 28004, "A", "pw"}, {"host", 0, "No port", ""}};
+        QCOMPARE(Favourites::toFileBytes(rows), QByteArray("1.2.3.4:28004\x01pw\x01"
+                                                           "A\r\nhost\x01\x01No port\r\n"));
+        QCOMPARE(Favourites::toFileBytes({}), QByteArray());
+        // Written without a port, read back with the default one.
+        QCOMPARE(Favourites::parse(Favourites::toFileBytes(rows))->at(1).port, Favourites::DefaultPort);
+        QCOMPARE(Favourites::addressText(rows.at(1)), QStringLiteral("host"));
+    }
+
+    void appendingEndsAnOpenLastLineFirst()
+    {
+        const QByteArray line = Favourites::line(QStringLiteral("1.1.1.1:1"), QString(), QStringLiteral("S"));
+        QCOMPARE(line, QByteArray("1.1.1.1:1\x01\x01S\r\n"));
+        QCOMPARE(Favourites::appendBytes(QByteArray(), line), line);
+        QCOMPARE(Favourites::appendBytes("a\x01\x01"
+                                         "b\r\n",
+                                         line),
+                 line);
+        QCOMPARE(Favourites::appendBytes("a\x01\x01"
+                                         "b",
+                                         line),
+                 "\r\n" + line);
+        QCOMPARE(Favourites::appendBytes("a\x01\x01"
+                                         "b\n",
+                                         line),
+                 "\r\n" + line);
+
+        QTemporaryDir dir;
+        const QString path = dir.filePath(Favourites::FileName);
+        QFile file(path);
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        file.write("9.9.9.9:9\x01\x01Old");
+        file.close();
+        QVERIFY(Favourites::appendToFile(path, QStringLiteral("1.1.1.1:1"), QString(), QStringLiteral("New")));
+        QVERIFY(Favourites::appendToFile(path, QStringLiteral("1.1.1.1:1"), QString(), QStringLiteral("New")));
+        const auto read = Favourites::readFile(path);
+        QCOMPARE(read->size(), 3);
+        QCOMPARE(read->at(0).name, QStringLiteral("Old"));
+        QCOMPARE(read->at(1), read->at(2)); // duplicates are allowed
+        QVERIFY(Favourites::writeFile(path, {}));
+        QVERIFY2(!Favourites::readFile(path), "an editor list without rows leaves an empty file");
+        QVERIFY(!Favourites::appendToFile(dir.filePath(QStringLiteral("no/such/dir/favourites.dat")), {}, {}, {}));
+    }
+
     void asAddressTable()
     {
         QTemporaryDir dir;
