@@ -2,11 +2,13 @@
 
 #include "colourcodes.h"
 #include "columnlayout.h"
+#include "copytext.h"
 #include "desktop.h"
 #include "favourites.h"
 #include "find.h"
 #include "frmfilters.h"
 #include "historycombobox.h"
+#include "joincommand.h"
 #include "language.h"
 #include "masteraddress.h"
 #include "multicolorlabel.h"
@@ -223,6 +225,24 @@ void FrmMain::createControls()
     connect(cmdCancel, &QPushButton::clicked, this, &FrmMain::cancelQuery);
     connect(lstServerList, &QAbstractItemView::clicked, this, &FrmMain::serverClicked);
     connect(lstPlayerList, &QAbstractItemView::clicked, this, &FrmMain::playerClicked);
+    // A double click joins only after a left press: one after a right
+    // press (its menu) is ignored.
+    connect(lstServerList, &QAbstractItemView::doubleClicked, this, [this] {
+        if (m_lastButton.value(lstServerList) == 1)
+            joinFromList(*lstServerList);
+    });
+    connect(lstPlayerList, &QAbstractItemView::doubleClicked, this, [this] {
+        if (m_lastButton.value(lstPlayerList) == 1)
+            joinFromList(*lstPlayerList);
+    });
+    connect(cmdJoin, &QPushButton::clicked, this, [this] {
+        cmbPlayerName->remember(cmbPlayerName->currentText());
+        cmbPassword->remember(cmbPassword->currentText());
+        ReportView* list = findTarget();
+        m_lastButton[list] = 1;
+        joinFromList(*list);
+    });
+    connect(cmdJoinIP, &QPushButton::clicked, this, &FrmMain::joinByAddress);
     for (ReportView* list : {lstServerList, lstPlayerList, lvwPlayers, lvwServerInfo})
         list->viewport()->installEventFilter(this);
     lstPlayerList->installEventFilter(this);
@@ -307,6 +327,27 @@ void FrmMain::createMenus()
     mPopCopyColumnSI = createAction(mPopupAltServerInfo, "mPopCopyColumnSI");
     mPopCopyRowSI = createAction(mPopupAltServerInfo, "mPopCopyRowSI");
     mPopCopyAllSI = createAction(mPopupAltServerInfo, "mPopCopyAllSI");
+
+    connect(mPopAdd, &QAction::triggered, this, &FrmMain::addToFavourites);
+    const auto copyCommands = [this](std::initializer_list<QAction*> actions, auto list, auto prefix) {
+        int what = 0;
+        for (QAction* action : actions) {
+            connect(action, &QAction::triggered, this, [this, list, prefix, what] {
+                auto [view, order] = std::pair{list(), prefix()};
+                copyFromList(*view, order, what);
+            });
+            ++what;
+        }
+    };
+    copyCommands(
+        {mPopCopyCell, mPopCopyColumn, mPopCopyRow, mPopCopyAll}, [this] { return findTarget(); },
+        [this] { return findTarget() == lstPlayerList ? Keys::PlayerList.columns : Keys::ServerList.columns; });
+    copyCommands(
+        {mPopCopyCellP, mPopCopyColumnP, mPopCopyRowP, mPopCopyAllP}, [this] { return lvwPlayers; },
+        [] { return Keys::ServerPlayers.columns; });
+    copyCommands(
+        {mPopCopyCellSI, mPopCopyColumnSI, mPopCopyRowSI, mPopCopyAllSI}, [this] { return lvwServerInfo; },
+        [] { return Keys::ServerRules.columns; });
 }
 
 void FrmMain::layOutControls()
@@ -988,6 +1029,112 @@ void FrmMain::runFind()
         showPlayer(index);
     else
         showServer(index);
+}
+
+std::optional<FrmMain::JoinTarget> FrmMain::selectedTarget(const ReportView& list) const
+{
+    const QModelIndex current = list.currentIndex();
+    if (!current.isValid() || !list.selectionModel()->isRowSelected(current.row(), {}))
+        return std::nullopt;
+    int server = 0;
+    if (&list == lstPlayerList)
+        server = m_playerModel->row(m_visiblePlayers->mapToSource(current).row()).server;
+    else if (&list == lstServerList)
+        server = m_visibleServers->mapToSource(current).row();
+    else
+        return std::nullopt;
+    const ServerRecord& record = m_serverModel->record(server);
+    return JoinTarget{record.endpointText(), record.isPassworded(), m_serverModel->plainName(server)};
+}
+
+void FrmMain::joinFromList(ReportView& list)
+{
+    if (list.model()->rowCount() == 0)
+        return;
+    if (const auto target = selectedTarget(list))
+        join(*target);
+}
+
+void FrmMain::joinByAddress()
+{
+    const auto typed =
+        m_desktop.inputText(this, tr("Join server by IP Address"),
+                            tr("Please enter the IP address/hostname and port of the server you wish to join"));
+    if (!typed || typed->trimmed().isEmpty())
+        return;
+    join(JoinTarget{typed->trimmed(), false, typed->trimmed()});
+}
+
+void FrmMain::join(const JoinTarget& target)
+{
+    QString password = cmbPassword->currentText();
+    // The join reads the favourites into a table of its own; a running
+    // query's addresses stay as they are.
+    if (password.isEmpty()) {
+        if (const auto favourites = Favourites::readFile(QDir(m_dataFolder).filePath(Favourites::FileName))) {
+            if (const auto favourite = Favourites::toAddressTable(*favourites).lastMatching(target.address))
+                password = favourite->password;
+        }
+    }
+    if (target.passworded && password.isEmpty()) {
+        password = m_desktop.inputText(this, target.serverName, tr("Please enter the password for this server"))
+                       .value_or(QString());
+        if (password.isEmpty() &&
+            m_desktop.message(this, Desktop::Icon::Question, tr("No Password Provided"), tr("Join Server Anyway?"),
+                              QMessageBox::Yes | QMessageBox::No) != QMessageBox::Yes)
+            return;
+    }
+    QString executable = m_settings.get(Keys::Path);
+    if (executable.isEmpty()) {
+#ifdef Q_OS_WIN
+        const QString pattern = QStringLiteral(" (*.exe)");
+#else
+        // Game binaries on Linux have no extension.
+        const QString pattern = QStringLiteral(" (*)");
+#endif
+        executable = m_desktop.openFileName(this, tr("Select your Quake 4 Executable"), QString(),
+                                            tr("Quake 4 Executable") + pattern);
+        if (executable.isEmpty())
+            return;
+        m_settings.save(Keys::Path, executable);
+    }
+    const JoinCommand command = JoinCommand::make(executable, cmbPlayerName->currentText(), target.address, password);
+    // The address only: the status line never shows the password.
+    setStatus(tr("Connecting to") + QLatin1Char(' ') + target.address, Green);
+    m_desktop.startDetached(command.program, command.arguments, command.workingFolder);
+    if (m_settings.getFlag(Keys::CloseAfterJoin, Keys::Defaults::CloseAfterJoin))
+        close();
+}
+
+void FrmMain::copyFromList(ReportView& list, QStringView orderPrefix, int what)
+{
+    QAbstractItemModel* model = list.model();
+    CopyText::List source;
+    source.rowCount = model->rowCount();
+    source.cell = [model](int row, int column) { return model->index(row, column).data().toString(); };
+    const QModelIndex current = list.currentIndex();
+    source.selectedRow =
+        current.isValid() && list.selectionModel()->isRowSelected(current.row(), {}) ? current.row() : -1;
+    source.clickedColumn = std::clamp(m_menuColumn, 0, model->columnCount() - 1);
+    source.displayOrder = ColumnLayout::readOrder(m_settings, orderPrefix, model->columnCount());
+    const auto text = CopyText::build(static_cast<CopyText::What>(what), source);
+    if (!text)
+        return;
+    QClipboard* clipboard = QGuiApplication::clipboard();
+    clipboard->clear();
+    clipboard->setText(*text);
+}
+
+void FrmMain::addToFavourites()
+{
+    ReportView* list = findTarget();
+    const auto target = selectedTarget(*list);
+    if (!target)
+        return;
+    // From the player list the name is the player's server, as its row shows it.
+    if (!Favourites::appendToFile(QDir(m_dataFolder).filePath(Favourites::FileName), target->address, QString(),
+                                  target->serverName))
+        setStatus(tr("The favourites file could not be written."), Red);
 }
 
 void FrmMain::copyPlayersServerAddress()

@@ -10,6 +10,7 @@
 #include <QWidget>
 
 #include <memory>
+#include <optional>
 
 class Desktop;
 class HistoryComboBox;
@@ -130,6 +131,19 @@ private:
     void selectServerOfPlayer();
     void runFind();
     void copyPlayersServerAddress();
+
+    // What a join needs from the selected row of a list.
+    struct JoinTarget {
+        QString address;
+        bool passworded = false;
+        QString serverName;
+    };
+    std::optional<JoinTarget> selectedTarget(const ReportView& list) const;
+    void joinFromList(ReportView& list);
+    void join(const JoinTarget& target);
+    void joinByAddress();
+    void copyFromList(ReportView& list, QStringView orderPrefix, int what);
+    void addToFavourites();
     ReportView* findTarget() const;
     void applySort(VisibleList& list, ReportView& view, ColumnLayout::SortState sort);
     void sortClicked(VisibleList& list, ReportView& view, ColumnLayout::SortState& sort, QStringView prefix,

@@ -1,5 +1,6 @@
 #include "frmfilters.h"
 
+#include "copytext.h"
 #include "filtersmodel.h"
 #include "reportview.h"
 #include "settingskeys.h"
@@ -7,10 +8,12 @@
 
 #include <QAction>
 #include <QCheckBox>
+#include <QClipboard>
 #include <QDialogButtonBox>
 #include <QDir>
 #include <QEvent>
 #include <QGridLayout>
+#include <QGuiApplication>
 #include <QHeaderView>
 #include <QLabel>
 #include <QLineEdit>
@@ -94,6 +97,11 @@ FrmFilters::FrmFilters(SettingsStore& settings, QString dataFolder, QWidget* par
     connect(cmdRemove, &QPushButton::clicked, this, &FrmFilters::removeFilter);
     connect(mPopNew, &QAction::triggered, this, &FrmFilters::newFilter);
     connect(mPopRemove, &QAction::triggered, this, &FrmFilters::removeFilter);
+    int what = 0;
+    for (QAction* copy : {mPopCopyCell, mPopCopyColumn, mPopCopyRow, mPopCopyAll}) {
+        connect(copy, &QAction::triggered, this, [this, what] { copyCells(what); });
+        ++what;
+    }
     connect(mPopEditCell, &QAction::triggered, this,
             [this] { editCell(lstFilters->currentIndex().row(), m_menuColumn); });
     const auto builtInFlag = [this](QCheckBox* box, QStringView key) {
@@ -262,6 +270,24 @@ void FrmFilters::sortClicked(int column)
     m_sort = ColumnLayout::SortState{column, (m_sort.order + 1) % 2};
     m_model->sortByColumn(column, m_sort.order == 0 ? Qt::AscendingOrder : Qt::DescendingOrder);
     ColumnLayout::saveSort(m_settings, Keys::Filters.sort, m_sort);
+}
+
+void FrmFilters::copyCells(int what)
+{
+    CopyText::List source;
+    source.rowCount = m_model->rowCount();
+    source.cell = [this](int row, int column) { return m_model->index(row, column).data().toString(); };
+    const QModelIndex current = lstFilters->currentIndex();
+    source.selectedRow =
+        current.isValid() && lstFilters->selectionModel()->isRowSelected(current.row(), {}) ? current.row() : -1;
+    source.clickedColumn = std::clamp(m_menuColumn, 0, 1);
+    source.displayOrder = ColumnLayout::readOrder(m_settings, Keys::Filters.columns, 2);
+    // In the editors a copied column comes out on one line.
+    source.columnJoin = CopyText::CellSeparator;
+    if (const auto text = CopyText::build(static_cast<CopyText::What>(what), source)) {
+        QGuiApplication::clipboard()->clear();
+        QGuiApplication::clipboard()->setText(*text);
+    }
 }
 
 void FrmFilters::columnMoved()

@@ -50,6 +50,7 @@ private:
     void removeFilter();
     void sortClicked(int column);
     void columnMoved();
+    void copyCells(int what);
 
     SettingsStore& m_settings;
     QString m_path;

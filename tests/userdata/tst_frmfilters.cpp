@@ -3,10 +3,14 @@
 #include "reportview.h"
 #include "settingsstore.h"
 
+#include <QAction>
 #include <QCheckBox>
+#include <QClipboard>
 #include <QFile>
+#include <QGuiApplication>
 #include <QHeaderView>
 #include <QLineEdit>
+#include <QMenu>
 #include <QPushButton>
 #include <QSignalSpy>
 #include <QTemporaryDir>
@@ -111,6 +115,25 @@ private slots:
         QCOMPARE(form.filters().first().variable, QStringLiteral("b"));
         QCOMPARE(m_settings->get(u"FiSortOrder"), QStringLiteral("1"));
         QCOMPARE(m_settings->get(u"FiSortKey"), QStringLiteral("0"));
+    }
+
+    void copyColumnComesOutOnOneLine()
+    {
+        QVERIFY(Filters::writeFile(filtersPath(), {{"si_map", "q4dm*"}}));
+        FrmFilters form(*m_settings, m_dir->path());
+        form.show();
+        QTest::mouseClick(form.findChild<QPushButton*>(QStringLiteral("cmdNew")), Qt::LeftButton);
+        ReportView* list = form.findChild<ReportView*>(QStringLiteral("lstFilters"));
+        const QPoint value = list->visualRect(list->model()->index(0, 1)).center();
+        QTest::mousePress(list->viewport(), Qt::RightButton, {}, value);
+        QTest::mouseRelease(list->viewport(), Qt::RightButton, {}, value);
+        auto* menu = form.findChild<QMenu*>();
+        QVERIFY(menu->isVisible());
+        menu->hide();
+        menu->findChild<QAction*>(QStringLiteral("mPopCopyColumn"))->trigger();
+        QCOMPARE(QGuiApplication::clipboard()->text(), QStringLiteral("q4dm*     "));
+        menu->findChild<QAction*>(QStringLiteral("mPopCopyRow"))->trigger();
+        QCOMPARE(QGuiApplication::clipboard()->text(), QStringLiteral("si_map     q4dm*"));
     }
 
     void draggedColumnsAreSavedThenPlacedByTheFavouritesKeys()

@@ -1,0 +1,214 @@
+#include "frmmain.h"
+#include "language.h"
+#include "reportview.h"
+#include "scripteddesktop.h"
+#include "serverlistmodel.h"
+#include "settingsstore.h"
+#include "simfleet.h"
+
+#include <QAction>
+#include <QClipboard>
+#include <QComboBox>
+#include <QFile>
+#include <QGuiApplication>
+#include <QHeaderView>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMenu>
+#include <QPushButton>
+#include <QTemporaryDir>
+#include <QTest>
+
+namespace {
+
+constexpr quint16 StartPort = 41700;
+constexpr quint16 MasterPort = 25400;
+
+// A window that has queried a small fleet; server 0 needs a password.
+struct Joined {
+    SimFleet fleet{[] {
+        FleetOptions options;
+        options.servers = 6;
+        options.masterPort = MasterPort;
+        options.firstServerPort = MasterPort + 1;
+        options.seed = 7;
+        return options;
+    }()};
+    QTemporaryDir dir;
+    SettingsStore settings{dir.filePath(QStringLiteral("settings.ini"))};
+    ScriptedDesktop desktop;
+    Language language;
+    std::unique_ptr<FrmMain> window;
+
+    Joined()
+    {
+        fleet.setServer(0, {{"si_name", "^1Locked"}, {"si_usepass", "1"}, {"si_maxplayers", "8"}}, {});
+        fleet.setServer(1, {{"si_name", "^2Open"}, {"si_usepass", "0"}, {"si_maxplayers", "8"}}, {});
+        if (fleet.start())
+            qFatal("fleet did not start");
+        settings.save(u"MasterServer", QStringLiteral("127.0.0.1:%1").arg(MasterPort));
+        settings.save(u"StartPort", QString::number(StartPort));
+        settings.save(u"RefreshServers", QStringLiteral("0"));
+        settings.save(u"CloseAfterJoin", QStringLiteral("0"));
+        settings.save(u"Path", QStringLiteral("/opt/quake4/quake4.x86"));
+        window = std::make_unique<FrmMain>(settings, desktop, language, dir.path());
+        window->show();
+        find<QPushButton>("cmdGet")->click();
+        QTRY_COMPARE_WITH_TIMEOUT(find<QLabel>("lblStatus")->text(), QStringLiteral("Done"), 4000);
+    }
+    template <typename T> T* find(const char* name) const { return window->findChild<T*>(QLatin1String(name)); }
+    // The editors have entries of the same names: take the list menu's own.
+    QAction* listAction(const char* name) const
+    {
+        return find<QMenu>("mPopupAlt")->findChild<QAction*>(QLatin1String(name));
+    }
+    ReportView* servers() const { return find<ReportView>("lstServerList"); }
+    QString address(quint16 serverIndex) const
+    {
+        return QStringLiteral("127.0.0.1:%1").arg(MasterPort + 1 + serverIndex);
+    }
+    QPoint rowOf(quint16 serverIndex) const
+    {
+        for (int row = 0; row < servers()->model()->rowCount(); ++row) {
+            if (servers()->model()->index(row, ServerListModel::Address).data().toString() == address(serverIndex))
+                return servers()->visualRect(servers()->model()->index(row, 0)).center();
+        }
+        qFatal("row not listed");
+    }
+    void click(Qt::MouseButton button, QPoint at) const
+    {
+        QTest::mousePress(servers()->viewport(), button, {}, at);
+        QTest::mouseRelease(servers()->viewport(), button, {}, at);
+        if (auto* menu = find<QMenu>("mPopupAlt"))
+            menu->hide();
+    }
+    void doubleClick(quint16 serverIndex) const
+    {
+        click(Qt::LeftButton, rowOf(serverIndex));
+        QTest::mouseDClick(servers()->viewport(), Qt::LeftButton, {}, rowOf(serverIndex));
+    }
+};
+
+} // namespace
+
+class TestFrmMainJoin final : public QObject {
+    Q_OBJECT
+
+private slots:
+    void doubleClickStartsTheGame()
+    {
+        Joined j;
+        j.find<QComboBox>("cmbPlayerName")->setEditText(QStringLiteral("^1Me \"quoted\""));
+        j.doubleClick(1);
+        QCOMPARE(j.desktop.starts.size(), 1);
+        const auto& start = j.desktop.starts.first();
+        QCOMPARE(start.program, QStringLiteral("/opt/quake4/quake4.x86"));
+        QCOMPARE(start.workingFolder, QStringLiteral("/opt/quake4"));
+        QCOMPARE(start.arguments, (QStringList{"+set", "ui_name", "^1Me \"quoted\"", "+connect", j.address(1)}));
+        QCOMPARE(j.find<QLabel>("lblStatus")->text(), QStringLiteral("Connecting to ") + j.address(1));
+        QVERIFY2(j.window->isVisible(), "CloseAfterJoin 0 keeps the program open");
+
+        j.settings.save(u"CloseAfterJoin", QStringLiteral("1"));
+        j.doubleClick(1);
+        QCOMPARE(j.desktop.starts.size(), 2);
+        QVERIFY(!j.window->isVisible());
+    }
+
+    void aDoubleClickAfterARightPressDoesNotJoin()
+    {
+        Joined j;
+        j.click(Qt::RightButton, j.rowOf(1));
+        QTest::mouseDClick(j.servers()->viewport(), Qt::LeftButton, {}, j.rowOf(1));
+        QVERIFY(j.desktop.starts.isEmpty());
+        // The Join button works after a right click all the same.
+        j.find<QPushButton>("cmdJoin")->click();
+        QCOMPARE(j.desktop.starts.size(), 1);
+    }
+
+    void passwordFromTheFavouritesOrTheUser()
+    {
+        Joined j;
+        QFile favourites(j.dir.filePath(QStringLiteral("favourites.dat")));
+        QVERIFY(favourites.open(QIODevice::WriteOnly));
+        favourites.write(QStringLiteral("%1\x01old\x01Locked\r\n%1\x01"
+                                        "fav\x01Locked\r\n")
+                             .arg(j.address(0))
+                             .toLatin1());
+        favourites.close();
+        j.doubleClick(0);
+        QVERIFY2(j.desktop.inputs.isEmpty(), "a stored password needs no prompt");
+        QCOMPARE(j.desktop.starts.last().arguments.mid(2), (QStringList{"+set", "password", "fav"}));
+
+        QVERIFY(favourites.remove());
+        j.desktop.inputAnswers.enqueue(std::nullopt); // cancelled: an empty answer
+        j.desktop.messageAnswers.enqueue(QMessageBox::No);
+        j.doubleClick(0);
+        QCOMPARE(j.desktop.inputs.last().title, QStringLiteral("Locked"));
+        QCOMPARE(j.desktop.inputs.last().prompt, QStringLiteral("Please enter the password for this server"));
+        QCOMPARE(j.desktop.messages.last().text, QStringLiteral("Join Server Anyway?"));
+        QCOMPARE(j.desktop.messages.last().title, QStringLiteral("No Password Provided"));
+        QCOMPARE(j.desktop.starts.size(), 1);
+
+        j.desktop.inputAnswers.enqueue(QStringLiteral("typed"));
+        j.doubleClick(0);
+        QCOMPARE(j.desktop.starts.last().arguments.last(), QStringLiteral("typed"));
+        QVERIFY(!j.find<QLabel>("lblStatus")->text().contains(QStringLiteral("typed")));
+        QCOMPARE(j.desktop.unexpectedCalls, 0);
+    }
+
+    void theExecutableIsAskedForOnce()
+    {
+        Joined j;
+        j.settings.save(u"Path", QString());
+        j.desktop.fileAnswers.enqueue(QString()); // cancelled
+        j.doubleClick(1);
+        QVERIFY(j.desktop.starts.isEmpty());
+        QCOMPARE(j.desktop.fileRequests.last().title, QStringLiteral("Select your Quake 4 Executable"));
+        QCOMPARE(j.desktop.fileRequests.last().filter, QStringLiteral("Quake 4 Executable (*)"));
+        j.desktop.fileAnswers.enqueue(QStringLiteral("/games/q4/quake4"));
+        j.doubleClick(1);
+        QCOMPARE(j.settings.get(u"Path"), QStringLiteral("/games/q4/quake4"));
+        QCOMPARE(j.desktop.starts.last().workingFolder, QStringLiteral("/games/q4"));
+        j.doubleClick(1);
+        QCOMPARE(j.desktop.fileRequests.size(), 2);
+    }
+
+    void joinByTypedAddress()
+    {
+        Joined j;
+        j.desktop.inputAnswers.enqueue(QString());
+        j.find<QPushButton>("cmdJoinIP")->click();
+        QVERIFY(j.desktop.starts.isEmpty());
+        QCOMPARE(j.desktop.inputs.last().title, QStringLiteral("Join server by IP Address"));
+        j.desktop.inputAnswers.enqueue(QStringLiteral("q4.example.org:28004"));
+        j.find<QPushButton>("cmdJoinIP")->click();
+        QCOMPARE(j.desktop.starts.last().arguments, (QStringList{"+connect", "q4.example.org:28004"}));
+    }
+
+    void copyCommandsAndAddToFavourites()
+    {
+        Joined j;
+        QHeaderView* header = j.servers()->header();
+        header->moveSection(header->visualIndex(ServerListModel::Address), 0);
+        const QPoint at = j.rowOf(1);
+        j.click(Qt::RightButton, at); // saves the column order, notes the column
+        j.listAction("mPopCopyRow")->trigger();
+        const QStringList cells = QGuiApplication::clipboard()->text().split(QStringLiteral("     "));
+        QCOMPARE(cells.first(), j.address(1));
+        QCOMPARE(cells.at(1), QStringLiteral("Open"));
+        j.listAction("mPopCopyCell")->trigger();
+        QCOMPARE(QGuiApplication::clipboard()->text(), QStringLiteral("Open"));
+        j.listAction("mPopCopyColumn")->trigger();
+        QCOMPARE(QGuiApplication::clipboard()->text().split(QStringLiteral("\r\n")).size(), 6);
+
+        j.listAction("mPopAdd")->trigger();
+        j.listAction("mPopAdd")->trigger();
+        QFile favourites(j.dir.filePath(QStringLiteral("favourites.dat")));
+        QVERIFY(favourites.open(QIODevice::ReadOnly));
+        const QByteArray line = j.address(1).toLatin1() + "\x01\x01Open\r\n";
+        QCOMPARE(favourites.readAll(), line + line);
+    }
+};
+
+QTEST_MAIN(TestFrmMainJoin)
+#include "tst_frmmain_join.moc"
