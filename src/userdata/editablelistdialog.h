@@ -1,0 +1,63 @@
+#pragma once
+
+#include <QDialog>
+
+class QAbstractItemModel;
+class QAction;
+class QLineEdit;
+class QMenu;
+class ReportView;
+class SettingsStore;
+
+// What the favourites and filters editors share: a list whose cells are
+// edited in place (double click, or "Edit Cell" in the right-click menu),
+// and the menu's copy, new and remove commands.
+class EditableListDialog : public QDialog {
+    Q_OBJECT
+    Q_DISABLE_COPY_MOVE(EditableListDialog)
+
+public:
+    // Puts the edit box over a cell; what is typed is committed on Enter or
+    // when the box loses the focus.
+    void editCell(int row, int column);
+
+protected:
+    // Takes the model over as its child.
+    EditableListDialog(SettingsStore& settings, QAbstractItemModel* model, const QList<int>& designWidths,
+                       QStringView columnsPrefix, QWidget* parent);
+
+    virtual void commitCell(int row, int column, const QString& text) = 0;
+    virtual void newRow() = 0;
+    virtual void removeRow(int row) = 0;
+
+    ReportView* list() const { return m_list; }
+    QAbstractItemModel* listModel() const { return m_model; }
+    SettingsStore& settings() const { return m_settings; }
+    int selectedRow() const;
+    void retranslateMenu();
+    void commitEdit();
+
+    bool eventFilter(QObject* watched, QEvent* event) override;
+    void hideEvent(QHideEvent* event) override;
+
+private:
+    void copyCells(int what);
+
+    SettingsStore& m_settings;
+    QAbstractItemModel* m_model;
+    QString m_columnsPrefix;
+    ReportView* m_list = nullptr;
+    QLineEdit* txtEdit = nullptr;
+    QMenu* m_menu = nullptr;
+    QAction* mPopCopyCell = nullptr;
+    QAction* mPopCopyColumn = nullptr;
+    QAction* mPopCopyRow = nullptr;
+    QAction* mPopCopyAll = nullptr;
+    QAction* mPopEditCell = nullptr;
+    QAction* mPopNew = nullptr;
+    QAction* mPopRemove = nullptr;
+    int m_lastButton = 0;
+    int m_menuColumn = 0;
+    int m_editRow = -1;
+    int m_editColumn = -1;
+};
