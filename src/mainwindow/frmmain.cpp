@@ -6,6 +6,7 @@
 #include "desktop.h"
 #include "favourites.h"
 #include "find.h"
+#include "frmfavourites.h"
 #include "frmfilters.h"
 #include "historycombobox.h"
 #include "joincommand.h"
@@ -243,6 +244,12 @@ void FrmMain::createControls()
         joinFromList(*list);
     });
     connect(cmdJoinIP, &QPushButton::clicked, this, &FrmMain::joinByAddress);
+    connect(cmdOrganise, &QPushButton::clicked, this, [this] {
+        // A new editor each time: it reads the file as it is now.
+        auto* editor = new FrmFavourites(m_settings, m_dataFolder, this);
+        editor->setAttribute(Qt::WA_DeleteOnClose);
+        editor->show();
+    });
     for (ReportView* list : {lstServerList, lstPlayerList, lvwPlayers, lvwServerInfo})
         list->viewport()->installEventFilter(this);
     lstPlayerList->installEventFilter(this);

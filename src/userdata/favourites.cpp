@@ -151,8 +151,7 @@ QByteArray appendBytes(const QByteArray& existing, const QByteArray& newLine)
     return newLine;
 }
 
-namespace {
-bool replaceFile(const QString& path, const QByteArray& bytes)
+bool writeBytes(const QString& path, const QByteArray& bytes)
 {
     QSaveFile file(path);
     if (!file.open(QIODevice::WriteOnly))
@@ -160,11 +159,10 @@ bool replaceFile(const QString& path, const QByteArray& bytes)
     file.write(bytes);
     return file.commit();
 }
-} // namespace
 
 bool writeFile(const QString& path, const QList<Favourite>& favourites)
 {
-    return replaceFile(path, toFileBytes(favourites));
+    return writeBytes(path, toFileBytes(favourites));
 }
 
 bool appendToFile(const QString& path, const QString& address, const QString& password, const QString& name)
@@ -178,7 +176,7 @@ bool appendToFile(const QString& path, const QString& address, const QString& pa
         existing = current.readAll();
         current.close();
     }
-    return replaceFile(path, existing + appendBytes(existing, line(address, password, name)));
+    return writeBytes(path, existing + appendBytes(existing, line(address, password, name)));
 }
 
 } // namespace Favourites

@@ -54,6 +54,7 @@ QByteArray appendBytes(const QByteArray& existing, const QByteArray& line);
 // Both write the whole file through QSaveFile, so a crash or a full disk
 // never leaves half a file and an append never loses what was there.
 bool writeFile(const QString& path, const QList<Favourite>& favourites);
+bool writeBytes(const QString& path, const QByteArray& bytes);
 bool appendToFile(const QString& path, const QString& address, const QString& password, const QString& name);
 
 } // namespace Favourites

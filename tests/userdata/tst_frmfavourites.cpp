@@ -1,0 +1,129 @@
+#include "favourites.h"
+#include "frmfavourites.h"
+#include "reportview.h"
+#include "settingsstore.h"
+
+#include <QAction>
+#include <QClipboard>
+#include <QFile>
+#include <QGuiApplication>
+#include <QHeaderView>
+#include <QLineEdit>
+#include <QMenu>
+#include <QPushButton>
+#include <QTemporaryDir>
+#include <QTest>
+
+class TestFrmFavourites final : public QObject {
+    Q_OBJECT
+
+    std::unique_ptr<QTemporaryDir> m_dir;
+    std::unique_ptr<SettingsStore> m_settings;
+    QString path() const { return m_dir->filePath(Favourites::FileName); }
+    QByteArray file() const
+    {
+        QFile f(path());
+        return f.open(QIODevice::ReadOnly) ? f.readAll() : QByteArray();
+    }
+    void write(const QByteArray& bytes) const
+    {
+        QFile f(path());
+        QVERIFY(f.open(QIODevice::WriteOnly));
+        f.write(bytes);
+    }
+    static QPushButton* button(const FrmFavourites& form, const char* name)
+    {
+        return form.findChild<QPushButton*>(QLatin1String(name));
+    }
+
+private slots:
+    void init()
+    {
+        m_dir = std::make_unique<QTemporaryDir>();
+        m_settings = std::make_unique<SettingsStore>(m_dir->filePath(QStringLiteral("settings.ini")));
+    }
+
+    void showsTheFileAsRead()
+    {
+        write("\x01\x01"
+              "First\r\nhost\x01pw\x01Second\r\n1.2.3.4:28004\x01\x01Third\r\n");
+        FrmFavourites form(*m_settings, m_dir->path());
+        const QList<FavouritesModel::Row> expected{
+            {"First", "", ""}, {"Second", "host:27960", "pw"}, {"Third", "1.2.3.4:28004", ""}};
+        QCOMPARE(form.rows(), expected);
+    }
+
+    void editsReachTheFileOnlyOnApplyOrOk()
+    {
+        write("1.2.3.4:1\x01\x01Old\r\n");
+        FrmFavourites form(*m_settings, m_dir->path());
+        form.show();
+        button(form, "cmdNew")->click();
+        QCOMPARE(form.rows().last(), (FavouritesModel::Row{"New Server", "", ""}));
+        form.editCell(1, FavouritesModel::Address);
+        auto* box = form.findChild<QLineEdit*>(QStringLiteral("txtEdit"));
+        box->setText(QStringLiteral("5.6.7.8"));
+        QTest::keyClick(box, Qt::Key_Return);
+        QCOMPARE(file(), QByteArray("1.2.3.4:1\x01\x01Old\r\n"));
+        button(form, "cmdApply")->click();
+        // Written as it stands: an address without port stays without one.
+        QCOMPARE(file(), QByteArray("1.2.3.4:1\x01\x01Old\r\n5.6.7.8\x01\x01New Server\r\n"));
+
+        ReportView* list = form.findChild<ReportView*>(QStringLiteral("lvwFavourites"));
+        list->setCurrentIndex(list->model()->index(0, 0));
+        button(form, "cmdRemove")->click();
+        button(form, "cmdCancel")->click();
+        QVERIFY(!form.isVisible());
+        QCOMPARE(Favourites::readFile(path())->size(), 2);
+    }
+
+    void okWithNoRowsLeavesAnEmptyFile()
+    {
+        write("1.2.3.4:1\x01\x01Only\r\n");
+        FrmFavourites form(*m_settings, m_dir->path());
+        form.show();
+        ReportView* list = form.findChild<ReportView*>(QStringLiteral("lvwFavourites"));
+        list->setCurrentIndex(list->model()->index(0, 0));
+        button(form, "cmdRemove")->click();
+        button(form, "cmdOK")->click();
+        QVERIFY(!form.isVisible());
+        QCOMPARE(file(), QByteArray());
+        QVERIFY(!Favourites::readFile(path()));
+    }
+
+    void copyColumnComesOutOnOneLine()
+    {
+        write("a:1\x01\x01One\r\nb:2\x01\x01Two\r\n");
+        FrmFavourites form(*m_settings, m_dir->path());
+        form.show();
+        ReportView* list = form.findChild<ReportView*>(QStringLiteral("lvwFavourites"));
+        const QPoint at = list->visualRect(list->model()->index(1, FavouritesModel::Address)).center();
+        QTest::mousePress(list->viewport(), Qt::RightButton, {}, at);
+        QTest::mouseRelease(list->viewport(), Qt::RightButton, {}, at);
+        auto* menu = form.findChild<QMenu*>();
+        menu->hide();
+        menu->findChild<QAction*>(QStringLiteral("mPopCopyColumn"))->trigger();
+        QCOMPARE(QGuiApplication::clipboard()->text(), QStringLiteral("a:1     b:2"));
+        menu->findChild<QAction*>(QStringLiteral("mPopCopyCell"))->trigger();
+        QCOMPARE(QGuiApplication::clipboard()->text(), QStringLiteral("b:2"));
+    }
+
+    void sortIsSavedAndRestored()
+    {
+        write("b:1\x01\x01"
+              "Beta\r\na:2\x01\x01"
+              "alpha\r\n");
+        {
+            FrmFavourites form(*m_settings, m_dir->path());
+            emit form.findChild<ReportView*>(QStringLiteral("lvwFavourites"))->header()->sectionClicked(0);
+            QCOMPARE(form.rows().first().at(0), QStringLiteral("alpha"));
+            QCOMPARE(m_settings->get(u"FSortOrder"), QStringLiteral("0"));
+            QCOMPARE(m_settings->get(u"FSortKey"), QStringLiteral("0"));
+        }
+        FrmFavourites again(*m_settings, m_dir->path());
+        QCOMPARE(again.rows().first().at(0), QStringLiteral("alpha"));
+    }
+};
+
+QTEST_MAIN(TestFrmFavourites)
+#include "tst_frmfavourites.moc"
