@@ -49,6 +49,12 @@ struct Window {
     template <typename T> T* find(const char* name) const { return window->findChild<T*>(QLatin1String(name)); }
     QPushButton* button(const char* name) const { return find<QPushButton>(name); }
     QString status() const { return find<QLabel>("lblStatus")->text(); }
+    // Clicks "Query Masters" and waits for "Done".
+    void queryMasters() const
+    {
+        QTest::mouseClick(button("cmdGet"), Qt::LeftButton);
+        QTRY_COMPARE_WITH_TIMEOUT(status(), QStringLiteral("Done"), 4000);
+    }
     QRgb statusColour() const { return find<QLabel>("lblStatus")->palette().color(QPalette::WindowText).rgb(); }
     QAbstractItemModel* visible(const char* list) const { return find<ReportView>(list)->model(); }
     QString cell(const char* list, int row, int column) const
@@ -215,8 +221,7 @@ private slots:
         SimFleet fleet(fleetOf(5, 24600));
         QVERIFY(!fleet.start());
         Window w(24600);
-        QTest::mouseClick(w.button("cmdGet"), Qt::LeftButton);
-        QTRY_COMPARE_WITH_TIMEOUT(w.status(), QStringLiteral("Done"), 4000);
+        w.queryMasters();
         const int playersBefore = w.visible("lstPlayerList")->rowCount();
 
         int row = 0;
@@ -251,8 +256,7 @@ private slots:
         SimFleet fleet(fleetOf(40, 24700));
         QVERIFY(!fleet.start());
         Window w(24700);
-        QTest::mouseClick(w.button("cmdGet"), Qt::LeftButton);
-        QTRY_COMPARE_WITH_TIMEOUT(w.status(), QStringLiteral("Done"), 4000);
+        w.queryMasters();
         QCOMPARE(w.visible("lstServerList")->rowCount(), 40);
 
         const QByteArray map = fleet.servers().at(0).rules.at(1).second;
@@ -296,8 +300,7 @@ private slots:
         QCOMPARE(w.visible("lstServerList")->rowCount(), busy);
 
         // New answers pass through the same test as they arrive.
-        QTest::mouseClick(w.button("cmdGet"), Qt::LeftButton);
-        QTRY_COMPARE_WITH_TIMEOUT(w.status(), QStringLiteral("Done"), 4000);
+        w.queryMasters();
         QCOMPARE(w.visible("lstServerList")->rowCount(), busy);
         QCOMPARE(w.window->serverList().rowCount(), 40);
     }
@@ -312,8 +315,7 @@ private slots:
         QVERIFY2(!w.settings.contains(u"SSortOrder"), "an empty list ignores the click");
         QCOMPARE(w.window->serverSort(), (ColumnLayout::SortState{0, 1}));
 
-        QTest::mouseClick(w.button("cmdGet"), Qt::LeftButton);
-        QTRY_COMPARE_WITH_TIMEOUT(w.status(), QStringLiteral("Done"), 4000);
+        w.queryMasters();
         const auto numbers = [&w](int column) {
             QList<int> values;
             for (int row = 0; row < w.visible("lstServerList")->rowCount(); ++row)
@@ -337,8 +339,7 @@ private slots:
         QVERIFY(std::is_sorted(players.begin(), players.end()));
 
         // The next query's rows come unsorted and are sorted when it ends.
-        QTest::mouseClick(w.button("cmdGet"), Qt::LeftButton);
-        QTRY_COMPARE_WITH_TIMEOUT(w.status(), QStringLiteral("Done"), 4000);
+        w.queryMasters();
         players = numbers(ServerListModel::Players);
         QVERIFY(std::is_sorted(players.begin(), players.end()));
         QCOMPARE(players.size(), 30);
@@ -350,8 +351,7 @@ private slots:
         QVERIFY(!fleet.start());
         Window w(25100);
         w.settings.save(u"RefreshServers", QStringLiteral("0"));
-        QTest::mouseClick(w.button("cmdGet"), Qt::LeftButton);
-        QTRY_COMPARE_WITH_TIMEOUT(w.status(), QStringLiteral("Done"), 4000);
+        w.queryMasters();
         auto* find = w.find<QComboBox>("cmbFind");
         auto* list = w.find<ReportView>("lstServerList");
         const QColor normal = find->palette().color(QPalette::Base);
@@ -399,8 +399,7 @@ private slots:
         QVERIFY(!fleet.start());
         Window w(25200);
         w.settings.save(u"RefreshServers", QStringLiteral("0"));
-        QTest::mouseClick(w.button("cmdGet"), Qt::LeftButton);
-        QTRY_COMPARE_WITH_TIMEOUT(w.status(), QStringLiteral("Done"), 4000);
+        w.queryMasters();
         w.find<QTabBar>("tabSelect")->setCurrentIndex(FrmMain::PlayersTab);
         auto* players = w.find<ReportView>("lstPlayerList");
         QVERIFY(players->isVisible());
@@ -439,8 +438,7 @@ private slots:
         SimFleet fleet(fleetOf(3, 25300));
         QVERIFY(!fleet.start());
         Window w(25300);
-        QTest::mouseClick(w.button("cmdGet"), Qt::LeftButton);
-        QTRY_COMPARE_WITH_TIMEOUT(w.status(), QStringLiteral("Done"), 4000);
+        w.queryMasters();
         const int requests = fleet.infoRequests();
         auto* list = w.find<ReportView>("lstServerList");
         const QPoint cell = list->visualRect(list->model()->index(1, 0)).center();
@@ -463,8 +461,7 @@ private slots:
         QVERIFY(!fleet.start());
         Window w(24800);
         w.settings.save(u"RefreshServers", QStringLiteral("0"));
-        QTest::mouseClick(w.button("cmdGet"), Qt::LeftButton);
-        QTRY_COMPARE_WITH_TIMEOUT(w.status(), QStringLiteral("Done"), 4000);
+        w.queryMasters();
         auto* list = w.find<ReportView>("lstServerList");
         QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, list->visualRect(list->model()->index(0, 0)).center());
         const ServerRecord& server = w.window->serverList().record(w.window->serverList().store().indexOf(
