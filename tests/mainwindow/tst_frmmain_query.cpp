@@ -64,6 +64,21 @@ struct Window {
     }
 };
 
+// Types a new variable filter into the filters editor, as a user would.
+void addFilter(const Window& w, const QString& variable, const QString& value)
+{
+    auto* filters = w.window->findChild<FrmFilters*>(QStringLiteral("frmFilters"));
+    filters->findChild<QPushButton*>(QStringLiteral("cmdNew"))->click();
+    const int row = filters->filters().size() - 1;
+    auto* box = filters->findChild<QLineEdit*>(QStringLiteral("txtEdit"));
+    filters->editCell(row, 0);
+    box->setText(variable);
+    QTest::keyClick(box, Qt::Key_Return);
+    filters->editCell(row, 1);
+    box->setText(value);
+    QTest::keyClick(box, Qt::Key_Return);
+}
+
 FleetOptions fleetOf(int servers, quint16 masterPort)
 {
     FleetOptions options;
@@ -271,14 +286,7 @@ private slots:
         QTest::mouseClick(w.button("cmdFilters"), Qt::LeftButton);
         auto* filters = w.window->findChild<FrmFilters*>(QStringLiteral("frmFilters"));
         QVERIFY(filters->isVisible());
-        QTest::mouseClick(filters->findChild<QPushButton*>(QStringLiteral("cmdNew")), Qt::LeftButton);
-        auto* box = filters->findChild<QLineEdit*>(QStringLiteral("txtEdit"));
-        filters->editCell(0, 0);
-        box->setText(QStringLiteral("MAP"));
-        QTest::keyClick(box, Qt::Key_Return);
-        filters->editCell(0, 1);
-        box->setText(QString::fromLatin1(map).toUpper());
-        QTest::keyClick(box, Qt::Key_Return);
+        addFilter(w, QStringLiteral("MAP"), QString::fromLatin1(map).toUpper());
 
         QCOMPARE(w.visible("lstServerList")->rowCount(), servers);
         QCOMPARE(w.visible("lstPlayerList")->rowCount(), players);
@@ -419,16 +427,9 @@ private slots:
         QCOMPARE(w.find<ReportView>("lvwPlayers")->model()->rowCount(), server.players.size());
         QCOMPARE(w.find<ReportView>("lvwServerInfo")->model()->rowCount(), server.tokens.size() / 2);
 
-        // A server hidden by the filters cannot be selected: nothing moves.
-        auto* filters = w.window->findChild<FrmFilters*>(QStringLiteral("frmFilters"));
-        filters->findChild<QPushButton*>(QStringLiteral("cmdNew"))->click();
-        filters->editCell(0, 0);
-        auto* box = filters->findChild<QLineEdit*>(QStringLiteral("txtEdit"));
-        box->setText(QStringLiteral("si_name"));
-        QTest::keyClick(box, Qt::Key_Return);
-        filters->editCell(0, 1);
-        box->setText(ColourCodes::StripColourCodes(server.name).left(3) + QStringLiteral("-nothing"));
-        QTest::keyClick(box, Qt::Key_Return);
+        // A server hidden by the filters takes its players with it, so no
+        // player is left to select a filtered-out server from.
+        addFilter(w, QStringLiteral("si_name"), QStringLiteral("-nothing"));
         QCOMPARE(servers->model()->rowCount(), 0);
         QCOMPARE(players->model()->rowCount(), 0);
     }

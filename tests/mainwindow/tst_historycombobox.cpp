@@ -40,15 +40,6 @@ private slots:
         QCOMPARE(box.entries(), (QStringList{"Abc", "abc", ""}));
     }
 
-    void rememberingKeepsTheTextBeingEdited()
-    {
-        HistoryComboBox box;
-        box.setEditText(QStringLiteral("typed"));
-        QVERIFY(box.remember(QStringLiteral("first")));
-        QVERIFY(!box.remember(QStringLiteral("first")));
-        QCOMPARE(box.currentText(), QStringLiteral("typed"));
-    }
-
     void setEntriesKeepsTheText()
     {
         HistoryComboBox box;

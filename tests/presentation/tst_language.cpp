@@ -38,16 +38,6 @@ private slots:
         QCOMPARE(language.current(), 1);
         QCOMPARE(translated("Favourites"), QStringLiteral("Favorites"));
     }
-
-    void namesAsListed()
-    {
-        const QStringList names = Language::names();
-        QCOMPARE(names.size(), Language::Count);
-        QCOMPARE(names.at(2), QStringLiteral("Deustch"));
-        QCOMPARE(names.at(6), QStringLiteral("Portugu\u00eas"));
-        QCOMPARE(Language::localeName(1), QStringLiteral("en_US"));
-        QCOMPARE(Language::localeName(7), QString());
-    }
 };
 
 QTEST_GUILESS_MAIN(TestLanguage)

@@ -61,15 +61,6 @@ private slots:
         QCOMPARE(session.droppedDatagrams(), 0);
     }
 
-    void masterPortLiesThreeAboveThePool()
-    {
-        QuerySession session;
-        session.setPool(QuerySpeed::lastSocketIndex(0, 19), 9000);
-        QCOMPARE(session.masterLocalPort(), 9004);
-        session.setPool(QuerySpeed::lastSocketIndex(5, 19), 9000);
-        QCOMPARE(session.masterLocalPort(), 9022);
-    }
-
     void silentMasterTimesOutAndARetryWorks()
     {
         SimFleet fleet(fleetOf(5, 23400));

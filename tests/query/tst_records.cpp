@@ -6,19 +6,6 @@ class TestRecords final : public QObject {
     Q_OBJECT
 
 private slots:
-    void cellTexts()
-    {
-        ServerRecord server;
-        server.address = QStringLiteral("10.0.0.1");
-        server.port = 28004;
-        server.playerCount = 7;
-        server.maxPlayers = 16;
-        server.passwordMark = QStringLiteral("*");
-        QCOMPARE(server.endpointText(), QStringLiteral("10.0.0.1:28004"));
-        QCOMPARE(server.playersText(), QStringLiteral("7/16"));
-        QVERIFY(server.isPassworded());
-    }
-
     void addressTableKeepsOrderAndDuplicates()
     {
         AddressTable table;
