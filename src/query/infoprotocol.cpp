@@ -1,5 +1,6 @@
 #include "infoprotocol.h"
 
+#include "lenientnumber.h"
 #include "masterprotocol.h"
 
 #include <limits>
@@ -7,25 +8,6 @@
 namespace InfoProtocol {
 
 namespace {
-
-// Leading blanks, a sign and the leading digits, as the settings read
-// numbers; nothing when no digit leads.
-std::optional<qint64> leadingNumber(const QByteArray& text)
-{
-    qsizetype i = 0;
-    while (i < text.size() && (text[i] == ' ' || text[i] == '\t'))
-        ++i;
-    bool negative = false;
-    if (i < text.size() && (text[i] == '-' || text[i] == '+'))
-        negative = text[i++] == '-';
-    qint64 value = 0;
-    const qsizetype firstDigit = i;
-    for (; i < text.size() && text[i] >= '0' && text[i] <= '9'; ++i)
-        value = std::min<qint64>(value * 10 + (text[i] - '0'), std::numeric_limits<qint32>::max() + qint64(1));
-    if (i == firstDigit)
-        return std::nullopt;
-    return negative ? -value : value;
-}
 
 // True when the whole text is a number (blanks around it allowed) of at
 // most 7: such a player section is a count, not player data.
@@ -128,8 +110,7 @@ ServerRecord parseReply(const QByteArray& datagram)
             const QByteArray key = tokens.at(i).toLower();
             const QByteArray& value = tokens.at(i + 1);
             if (key == "si_maxplayers") {
-                const auto number = leadingNumber(value);
-                const qint64 players = number.value_or(0);
+                const int players = LenientNumber::toInt(QString::fromLatin1(value));
                 if (players >= std::numeric_limits<qint16>::min() && players <= std::numeric_limits<qint16>::max())
                     server.maxPlayers = qint16(players);
             } else if (key == "si_name") {
@@ -141,7 +122,8 @@ ServerRecord parseReply(const QByteArray& datagram)
             } else if (key == "gamename") {
                 server.gameName = latin1(value);
             } else if (key == "si_usepass") {
-                server.passwordMark = leadingNumber(value).value_or(0) == 1 ? QStringLiteral("*") : QString();
+                server.passwordMark =
+                    LenientNumber::toInt(QString::fromLatin1(value)) == 1 ? QStringLiteral("*") : QString();
             }
         }
     }
