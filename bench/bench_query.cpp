@@ -18,6 +18,7 @@
 #include "reportview.h"
 #include "scripteddesktop.h"
 #include "serverlistmodel.h"
+#include "serverlists.h"
 #include "settingsstore.h"
 #include "simfleet.h"
 #include "systemlimits.h"
@@ -93,7 +94,7 @@ struct QueryResult {
 QueryResult runQuery(int speed, const SimFleet* direct = nullptr)
 {
     QuerySession session;
-    session.setPool(QuerySpeed::lastSocketIndex(speed, 19), StartPort);
+    session.setPool({QuerySpeed::lastSocketIndex(speed, 19), StartPort});
     QueryResult result;
     QElapsedTimer clock;
     QObject::connect(&session, &QuerySession::phaseChanged, [&](QuerySession::Phase phase) {
@@ -231,10 +232,10 @@ int window()
     QCoreApplication::exec();
     std::printf("window: 5000 servers, %d players listed in %lld ms; longest event-loop stall %lld ms "
                 "(ending %lld ms after the click)\n",
-                main.playerList().rowCount(), (long long)queryMs, (long long)longest, (long long)longestAt);
+                main.lists().players().rowCount(), (long long)queryMs, (long long)longest, (long long)longestAt);
     simulator.kill();
     simulator.waitForFinished();
-    return main.serverList().rowCount() == 5000 ? 0 : 1;
+    return main.lists().servers().rowCount() == 5000 ? 0 : 1;
 }
 
 // Re-filtering after a filter change: 10,000 servers with 15 players each.

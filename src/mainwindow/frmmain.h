@@ -1,43 +1,40 @@
 #pragma once
 
 #include "columnlayout.h"
-#include "querysession.h"
-#include "records.h"
+#include "statustone.h"
 
-#include <QHash>
-#include <QPalette>
-#include <QTimer>
 #include <QWidget>
 
-#include <memory>
-#include <optional>
-
 class Desktop;
+class FindBar;
+class FrmFilters;
 class HistoryComboBox;
+class JoinFlow;
 class Language;
+class ListPane;
+class MulticolorLabel;
+class QAction;
 class QFrame;
 class QLabel;
 class QMenu;
-class QAction;
 class QProgressBar;
 class QPushButton;
 class QSplitter;
 class QTabBar;
-class PlayerListModel;
-class FrmFilters;
-class MulticolorLabel;
-class ServerVisibility;
-class VisibleList;
-class ReportModel;
-class ServerPlayersModel;
-class ServerRulesModel;
+class CopyCommands;
+class QueryController;
 class ReportView;
-class ServerListModel;
+class ServerDetails;
+class ServerLists;
 class SettingsStore;
+class StatusLine;
+class WindowState;
+struct ServerRecord;
 
 // The main window: the lists, the panes of the selected server, the query
-// and join controls. It restores the user's layout when it starts and
-// writes it back when it closes.
+// and join controls. It builds the controls and wires the classes that do
+// the work: the query controller, the list panes, find, joining and the
+// window state.
 class FrmMain final : public QWidget {
     Q_OBJECT
     Q_DISABLE_COPY_MOVE(FrmMain)
@@ -48,12 +45,6 @@ public:
     static constexpr QSize MinimumSize{500, 545};
     static constexpr QSize DesignSize{760, 570};
 
-    // Text colours of the status line.
-    static constexpr QRgb Orange = qRgb(255, 128, 0);
-    static constexpr QRgb Yellow = qRgb(255, 255, 0);
-    static constexpr QRgb Green = qRgb(0, 128, 8);
-    static constexpr QRgb Red = qRgb(255, 0, 0);
-
     // dataFolder holds favourites.dat and the other data files.
     FrmMain(SettingsStore& settings, Desktop& desktop, Language& language, QString dataFolder,
             QWidget* parent = nullptr);
@@ -61,12 +52,11 @@ public:
 
     // The sort the two big lists will use; restored at start, changed by a
     // column click.
-    ColumnLayout::SortState serverSort() const { return m_serverSort; }
-    ColumnLayout::SortState playerSort() const { return m_playerSort; }
+    ColumnLayout::SortState serverSort() const;
+    ColumnLayout::SortState playerSort() const;
 
-    const ServerListModel& serverList() const { return *m_serverModel; }
-    const PlayerListModel& playerList() const { return *m_playerModel; }
-    const QuerySession& session() const { return m_session; }
+    const ServerLists& lists() const { return *m_lists; }
+    const QueryController& queries() const { return *m_queries; }
 
     // Rebuild the visible lists from the hidden full lists under the
     // filters (after every change in the filters editor).
@@ -85,117 +75,50 @@ protected:
 
 private:
     void createControls();
-    void createMenus();
+    void createMenu();
+    void connectQueries();
+    void connectLists();
     void layOutControls();
     void retranslateUi();
-    void loadState();
-    void applyInitialGeometry();
     void showView(int tab);
-    void restoreSplitters();
-    void saveSplitters();
-    void saveColumnOrders();
-    void saveColumnWidths();
-    void writeStateOnClose();
-    void showAbout();
-
-    void emptyAllRecords();
-    bool preparePool();
-    // Everything a new query does before it sends: pool, buttons, empty lists.
-    bool beginQuery();
-    void setQueryingButtons();
-    void setIdleButtons();
-    void setStatus(const QString& text, QRgb colour);
-    void setCounters(int servers, int players);
+    void setBusy(bool busy);
+    void setStatus(const QString& text, StatusTone tone);
     void updateCounters();
-    void startMasterQuery();
-    void startFavouritesQuery();
-    void cancelQuery();
-    void showPhase(QuerySession::Phase phase);
-    void queueAnswer(const ServerRecord& server, bool refresh);
-    void flushAnswers();
+    void emptyLists();
+    void addAnswers(const QList<ServerRecord>& batch);
     void applyRefresh(const ServerRecord& server);
-    void finishQuery();
-    void masterTimedOut();
-    void queryFailed(const QueryError& error);
-    // A row of a list was clicked with the last pressed button (1 left,
-    // 2 right): the display part, then the menu or the refresh.
-    void serverClicked(const QModelIndex& index);
-    void playerClicked(const QModelIndex& index);
-    void serverRowClicked(const QModelIndex& index, int button);
-    void playerRowClicked(const QModelIndex& index, int button);
-    // The display part of a selection: names in colour and the panes.
     void showServer(const QModelIndex& index);
     void showPlayer(const QModelIndex& index);
-    void fillPanes();
-    void sortPane(ReportView& view, ColumnLayout::SortState& sort, QStringView prefix, int column);
-    void selectServerOfPlayer();
-    void runFind();
-    void copyPlayersServerAddress();
-
-    // What a join needs from the selected row of a list.
-    struct JoinTarget {
-        QString address;
-        bool passworded = false;
-        QString serverName;
-    };
-    std::optional<JoinTarget> selectedTarget(const ReportView& list) const;
-    void joinFromList(ReportView& list);
-    void join(const JoinTarget& target);
-    void joinByAddress();
-    void copyFromList(ReportView& list, QStringView orderPrefix, int what);
-    void addToFavourites();
-    ReportView* findTarget() const;
-    void applySort(VisibleList& list, ReportView& view, ColumnLayout::SortState sort);
-    void sortClicked(VisibleList& list, ReportView& view, ColumnLayout::SortState& sort, QStringView prefix,
-                     int column);
     void clearNameLabels();
+    void showMenu(ListPane& pane, const QModelIndex& index);
+    void selectServerOfPlayer();
+    void copyPlayersServerAddress();
+    ListPane& shownList() const;
+    // The server behind the selected row of a big list, or -1.
+    int selectedServer(const ListPane& pane) const;
+    void joinFrom(const ListPane& pane);
+    void addToFavourites();
 
     SettingsStore& m_settings;
     Desktop& m_desktop;
     Language& m_language;
-
     QString m_dataFolder;
-    QuerySession m_session;
-    QString m_masterHost;
-    int m_lastSocketIndex = QuerySpeed::DefaultLastSocketIndex;
-    // Answers are added to the lists in batches, not one row per datagram.
-    QList<ServerRecord> m_pendingAnswers;
-    QTimer m_flushTimer;
 
-    ColumnLayout::SortState m_serverSort;
-    ColumnLayout::SortState m_playerSort;
-    bool m_serverSorted = false;
-    ColumnLayout::SortState m_serverPlayersSort;
-    ColumnLayout::SortState m_serverRulesSort;
+    ServerLists* m_lists = nullptr;
+    QueryController* m_queries = nullptr;
+    ListPane* m_serverPane = nullptr;
+    ListPane* m_playerPane = nullptr;
+    ServerDetails* m_details = nullptr;
+    FindBar* m_find = nullptr;
+    JoinFlow* m_join = nullptr;
+    WindowState* m_state = nullptr;
+    CopyCommands* m_copy = nullptr;
+    FrmFilters* m_frmFilters = nullptr;
     int m_selectedServer = -1;
-    // The mouse button last pressed in each list (1 left, 2 right).
-    QHash<const QWidget*, int> m_lastButton;
-    // The column under the pointer when a list's menu was opened.
-    int m_menuColumn = 0;
-    // "1": the next find continues after the selected row.
-    QString m_findMarker = QStringLiteral("0");
-    QPalette m_findPalette;
-    bool m_playerSorted = false;
-    bool m_initialSizeApplied = false;
-    bool m_resizeInProgress = false;
 
     QLabel* lblAbout = nullptr;
     QTabBar* tabSelect = nullptr;
     QSplitter* rzrPSI = nullptr;
-    QSplitter* rzrSPSI = nullptr;
-    ReportView* lstServerList = nullptr;
-    ReportView* lstPlayerList = nullptr;
-    ReportView* lvwPlayers = nullptr;
-    ReportView* lvwServerInfo = nullptr;
-    ServerListModel* m_serverModel = nullptr;
-    PlayerListModel* m_playerModel = nullptr;
-    std::unique_ptr<ServerVisibility> m_visibility;
-    VisibleList* m_visibleServers = nullptr;
-    VisibleList* m_visiblePlayers = nullptr;
-    FrmFilters* m_frmFilters = nullptr;
-    ServerPlayersModel* m_serverPlayersModel = nullptr;
-    ServerRulesModel* m_serverRulesModel = nullptr;
-
     QLabel* lblSName = nullptr;
     MulticolorLabel* mclSName = nullptr;
 
@@ -209,11 +132,9 @@ private:
     QPushButton* cmdJoin = nullptr;
     QPushButton* cmdJoinIP = nullptr;
 
-    HistoryComboBox* cmbFind = nullptr;
-    QPushButton* cmdFind = nullptr;
     QLabel* lblPlayers = nullptr;
     QLabel* lblServers = nullptr;
-    QLabel* lblStatus = nullptr;
+    StatusLine* lblStatus = nullptr;
     QProgressBar* prbProgress = nullptr;
 
     QFrame* fraQuery = nullptr;
@@ -227,19 +148,5 @@ private:
 
     QMenu* mPopupAlt = nullptr;
     QAction* mPopAdd = nullptr;
-    QAction* mPopCopyCell = nullptr;
-    QAction* mPopCopyColumn = nullptr;
-    QAction* mPopCopyRow = nullptr;
-    QAction* mPopCopyAll = nullptr;
     QAction* mPopSelServer = nullptr;
-    QMenu* mPopupAltPlayers = nullptr;
-    QAction* mPopCopyCellP = nullptr;
-    QAction* mPopCopyColumnP = nullptr;
-    QAction* mPopCopyRowP = nullptr;
-    QAction* mPopCopyAllP = nullptr;
-    QMenu* mPopupAltServerInfo = nullptr;
-    QAction* mPopCopyCellSI = nullptr;
-    QAction* mPopCopyColumnSI = nullptr;
-    QAction* mPopCopyRowSI = nullptr;
-    QAction* mPopCopyAllSI = nullptr;
 };

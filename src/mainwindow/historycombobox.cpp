@@ -2,6 +2,7 @@
 
 #include <QKeyEvent>
 #include <QLineEdit>
+#include <QSignalBlocker>
 
 HistoryComboBox::HistoryComboBox(QWidget* parent)
     : QComboBox(parent)
@@ -11,7 +12,6 @@ HistoryComboBox::HistoryComboBox(QWidget* parent)
     // completion would add duplicates and change the text under the user.
     setInsertPolicy(QComboBox::NoInsert);
     setCompleter(nullptr);
-    lineEdit()->installEventFilter(this);
     connect(this, &QComboBox::activated, this, [this](int index) { m_picked = index; });
     connect(lineEdit(), &QLineEdit::textEdited, this, [this] { m_picked = -1; });
 }
@@ -25,14 +25,20 @@ QStringList HistoryComboBox::entries() const
     return list;
 }
 
+void HistoryComboBox::restoreText(int index, const QString& text)
+{
+    setCurrentIndex(index);
+    setEditText(text);
+}
+
 void HistoryComboBox::setEntries(const QStringList& entries)
 {
     // Adding the first item would make it current and overwrite the text.
     const QString text = currentText();
+    const QSignalBlocker quiet(this);
     clear();
     addItems(entries);
-    setCurrentIndex(-1);
-    setEditText(text);
+    restoreText(-1, text);
     m_picked = -1;
 }
 
@@ -44,40 +50,40 @@ bool HistoryComboBox::remember(const QString& text)
     }
     const QString current = currentText();
     const int index = currentIndex();
+    const QSignalBlocker quiet(this);
     addItem(text);
-    setCurrentIndex(index);
-    setEditText(current);
+    restoreText(index, current);
     return true;
 }
 
 void HistoryComboBox::forgetPicked()
 {
     const QString text = currentText();
+    const QSignalBlocker quiet(this);
     removeItem(m_picked);
-    setCurrentIndex(-1);
-    setEditText(text);
+    restoreText(-1, text);
     m_picked = -1;
 }
 
-bool HistoryComboBox::eventFilter(QObject* watched, QEvent* event)
+void HistoryComboBox::keyPressEvent(QKeyEvent* event)
 {
-    if (watched == lineEdit() && event->type() == QEvent::KeyPress) {
-        const auto* key = static_cast<QKeyEvent*>(event);
-        switch (key->key()) {
-        case Qt::Key_Return:
-        case Qt::Key_Enter:
-            emit enterPressed();
-            return true;
-        case Qt::Key_Delete:
-        case Qt::Key_Backspace:
-            if (m_picked >= 0 && m_picked < count())
-                forgetPicked();
-            break;
-        default:
-            if (key->text() == QString(QChar(127)) && m_picked >= 0 && m_picked < count())
-                forgetPicked();
-            break;
-        }
+    switch (event->key()) {
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+        // Not Qt's own Enter handling: it would pick a matching entry and
+        // report it as chosen from the list.
+        event->accept();
+        emit enterPressed();
+        return;
+    case Qt::Key_Delete:
+    case Qt::Key_Backspace:
+        if (m_picked >= 0 && m_picked < count())
+            forgetPicked();
+        break;
+    default:
+        if (event->text() == QString(QChar(127)) && m_picked >= 0 && m_picked < count())
+            forgetPicked();
+        break;
     }
-    return QComboBox::eventFilter(watched, event);
+    QComboBox::keyPressEvent(event);
 }

@@ -27,10 +27,15 @@ signals:
     void enterPressed();
 
 protected:
-    bool eventFilter(QObject* watched, QEvent* event) override;
+    // The box has the focus, not its line edit (the line edit's focus proxy
+    // is the box), so the keys arrive here.
+    void keyPressEvent(QKeyEvent* event) override;
 
 private:
     void forgetPicked();
+    // Puts back the text after the items changed, without telling anyone:
+    // to the user the text never changed.
+    void restoreText(int index, const QString& text);
 
     int m_picked = -1;
 };

@@ -4,7 +4,7 @@
 #include "serverlistmodel.h"
 
 PlayerListModel::PlayerListModel(const ServerListModel& servers, QObject* parent)
-    : ReportModel(ListColumns::playerList(), parent)
+    : ReportModel(Columns, parent)
     , m_servers(servers)
 {
 }
@@ -123,7 +123,7 @@ SortKeys PlayerListModel::sortKeys(int column) const
                 keys.numbers.push_back(player.rate);
                 break;
             case Players:
-                keys.numbers.push_back(server.playerCount * 65536LL + server.maxPlayers);
+                keys.numbers.push_back(server.playersSortKey());
                 break;
             default:
                 keys.numbers.push_back(server.ping);

@@ -14,6 +14,19 @@ class PlayerListModel final : public ReportModel {
 
 public:
     enum Column { Name, Clan, Ping, Rate, ServerName, Map, Players, ServerPing, Password, Mod, GameType, ColumnCount };
+    static constexpr std::array<ListColumn, ColumnCount> Columns{{
+        ListColumn{QT_TRANSLATE_NOOP("ListColumns", "Player"), 140},
+        ListColumn{QT_TRANSLATE_NOOP("ListColumns", "Clan"), 70},
+        ListColumn{QT_TRANSLATE_NOOP("ListColumns", "Ping"), 45},
+        ListColumn{QT_TRANSLATE_NOOP("ListColumns", "Rate"), 55},
+        ListColumn{QT_TRANSLATE_NOOP("ListColumns", "Server"), 180},
+        ListColumn{QT_TRANSLATE_NOOP("ListColumns", "Map"), 90},
+        ListColumn{QT_TRANSLATE_NOOP("ListColumns", "Players"), 60},
+        ListColumn{QT_TRANSLATE_NOOP("ListColumns", "Svr Ping"), 60},
+        ListColumn{QT_TRANSLATE_NOOP("ListColumns", "Pw"), 32},
+        ListColumn{QT_TRANSLATE_NOOP("ListColumns", "Mod"), 100},
+        ListColumn{QT_TRANSLATE_NOOP("ListColumns", "Game"), 60},
+    }};
 
     struct Row {
         int server = 0;

@@ -3,6 +3,9 @@
 #include "listcolumns.h"
 
 #include <QAbstractTableModel>
+#include <QCoreApplication>
+
+#include <array>
 
 // Base of the report-style lists: fixed columns with translated captions.
 // The lists that show records derive from it and supply the rows.
@@ -16,6 +19,7 @@ public:
     QVariant headerData(int section, Qt::Orientation orientation, int role = Qt::DisplayRole) const override;
 
     std::span<const ListColumn> columns() const { return m_columns; }
+    QList<int> designWidths() const { return ListColumns::designWidths(m_columns); }
     // The captions follow the interface language.
     void retranslate();
 

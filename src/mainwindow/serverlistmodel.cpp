@@ -3,7 +3,7 @@
 #include "colourcodes.h"
 
 ServerListModel::ServerListModel(QObject* parent)
-    : ReportModel(ListColumns::serverList(), parent)
+    : ReportModel(Columns, parent)
 {
 }
 
@@ -82,7 +82,7 @@ SortKeys ServerListModel::sortKeys(int column) const
         keys.numbers.reserve(size_t(m_store.count()));
         for (int row = 0; row < m_store.count(); ++row) {
             const ServerRecord& server = m_store.at(row);
-            keys.numbers.push_back(column == Ping ? server.ping : server.playerCount * 65536LL + server.maxPlayers);
+            keys.numbers.push_back(column == Ping ? server.ping : server.playersSortKey());
         }
         return keys;
     }

@@ -5,7 +5,7 @@
 #include <algorithm>
 
 ServerPlayersModel::ServerPlayersModel(QObject* parent)
-    : ReportModel(ListColumns::serverPlayers(), parent)
+    : ReportModel(ServerPlayersModel::Columns, parent)
 {
 }
 
@@ -64,7 +64,7 @@ void ServerPlayersModel::sort(int column, Qt::SortOrder order)
 }
 
 ServerRulesModel::ServerRulesModel(QObject* parent)
-    : ReportModel(ListColumns::serverRules(), parent)
+    : ReportModel(ServerRulesModel::Columns, parent)
 {
 }
 

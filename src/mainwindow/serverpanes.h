@@ -9,7 +9,14 @@ class ServerPlayersModel final : public ReportModel {
     Q_DISABLE_COPY_MOVE(ServerPlayersModel)
 
 public:
-    enum Column { Number, Name, Clan, Ping, Rate };
+    enum Column { Number, Name, Clan, Ping, Rate, ColumnCount };
+    static constexpr std::array<ListColumn, ColumnCount> Columns{{
+        ListColumn{QT_TRANSLATE_NOOP("ListColumns", "Num"), 40},
+        ListColumn{QT_TRANSLATE_NOOP("ListColumns", "Player"), 150},
+        ListColumn{QT_TRANSLATE_NOOP("ListColumns", "Clan"), 80},
+        ListColumn{QT_TRANSLATE_NOOP("ListColumns", "Ping"), 45},
+        ListColumn{QT_TRANSLATE_NOOP("ListColumns", "Rate"), 55},
+    }};
 
     explicit ServerPlayersModel(QObject* parent = nullptr);
 
@@ -35,6 +42,12 @@ class ServerRulesModel final : public ReportModel {
     Q_DISABLE_COPY_MOVE(ServerRulesModel)
 
 public:
+    enum Column { Variable, Value, ColumnCount };
+    static constexpr std::array<ListColumn, ColumnCount> Columns{{
+        ListColumn{QT_TRANSLATE_NOOP("ListColumns", "Variable"), 140},
+        ListColumn{QT_TRANSLATE_NOOP("ListColumns", "Value"), 180},
+    }};
+
     explicit ServerRulesModel(QObject* parent = nullptr);
 
     int rowCount(const QModelIndex& parent = {}) const override;

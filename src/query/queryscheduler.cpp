@@ -112,7 +112,12 @@ void QueryScheduler::run(const AddressTable& table)
     m_timedOut = 0;
     m_dropped = 0;
     m_running = true;
-    pump();
+    // A caller that connects to finished() after run() returns, or that has
+    // not entered its event loop yet, must still hear it.
+    if (m_table.isEmpty())
+        QMetaObject::invokeMethod(this, &QueryScheduler::pump, Qt::QueuedConnection);
+    else
+        pump();
 }
 
 void QueryScheduler::cancel()
@@ -222,7 +227,7 @@ void QueryScheduler::readReplies(int index)
         ServerRecord server = InfoProtocol::parseReply(datagram.data());
         server.address = slot.address;
         server.port = slot.port;
-        server.ping = int(std::min<qint64>(slot.clock.elapsed(), MaxPing));
+        server.ping = int(std::min<qint64>(slot.clock.elapsed(), ServerRecord::MaxPing));
         const bool refresh = slot.refresh;
         ++m_answered;
         release(index);

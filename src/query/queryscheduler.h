@@ -25,7 +25,6 @@ class QueryScheduler final : public QObject {
 
 public:
     static constexpr int TimeoutMs = 1500;
-    static constexpr int MaxPing = 999;
 
     explicit QueryScheduler(QObject* parent = nullptr);
     ~QueryScheduler() override;
@@ -41,7 +40,8 @@ public:
     void closePool();
 
     // Queries every entry in table order; finished() follows when the last
-    // request was answered or timed out. The pool must be open.
+    // request was answered or timed out (for an empty table, once the
+    // caller is back in the event loop). The pool must be open.
     void run(const AddressTable& table);
     // Stops sending and closes every socket; answers already reported stay.
     void cancel();

@@ -7,29 +7,25 @@ QuerySession::QuerySession(QObject* parent)
     connect(&m_master, &MasterQuery::sorting, this, [this] { setPhase(Phase::Sorting); });
     connect(&m_master, &MasterQuery::addressesReady, this, &QuerySession::runTable);
     connect(&m_master, &MasterQuery::timedOut, this, [this] {
-        end();
+        cancel();
         emit masterTimedOut();
     });
     connect(&m_master, &MasterQuery::failed, this, [this](const QueryError& error) {
-        end();
+        cancel();
         emit failed(error);
     });
     connect(&m_scheduler, &QueryScheduler::requestSent, this, &QuerySession::requestSent);
     connect(&m_scheduler, &QueryScheduler::serverAnswered, this, &QuerySession::serverAnswered);
     connect(&m_scheduler, &QueryScheduler::finished, this, [this] {
-        end();
+        cancel();
         emit finished();
     });
 }
 
-void QuerySession::setPool(int lastSocketIndex, quint16 startPort)
+void QuerySession::setPool(const QuerySpeed::PortPlan& plan)
 {
-    m_scheduler.setPool(lastSocketIndex, startPort);
-}
-
-quint16 QuerySession::masterLocalPort() const
-{
-    return quint16(m_scheduler.startPort() + m_scheduler.lastSocketIndex() + QuerySpeed::MasterPortOffset);
+    m_plan = plan;
+    m_scheduler.setPool(plan.lastSocketIndex, quint16(plan.startPort));
 }
 
 std::optional<QueryError> QuerySession::startMaster(const MasterAddress& master)
@@ -37,15 +33,14 @@ std::optional<QueryError> QuerySession::startMaster(const MasterAddress& master)
     cancel();
     m_addresses.clear();
     m_clock.start();
-    const int masterPort = m_scheduler.startPort() + m_scheduler.lastSocketIndex() + QuerySpeed::MasterPortOffset;
-    if (masterPort > 65535)
-        return QueryError{QueryError::Kind::PortUnavailable, QString::number(masterPort),
+    if (!m_plan.isValid())
+        return QueryError{QueryError::Kind::PortUnavailable, QString::number(m_plan.masterPort()),
                           QStringLiteral("beyond 65535")};
     if (auto error = m_scheduler.openPool())
         return error;
     setPhase(Phase::Requesting);
-    if (auto error = m_master.start(master, quint16(masterPort))) {
-        end();
+    if (auto error = m_master.start(master, quint16(m_plan.masterPort()))) {
+        cancel();
         return error;
     }
     return std::nullopt;
@@ -69,13 +64,6 @@ void QuerySession::runTable(const AddressTable& table)
 }
 
 void QuerySession::cancel()
-{
-    m_master.cancel();
-    m_scheduler.cancel();
-    setPhase(Phase::Idle);
-}
-
-void QuerySession::end()
 {
     m_master.cancel();
     m_scheduler.cancel();

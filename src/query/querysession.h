@@ -25,10 +25,10 @@ public:
 
     explicit QuerySession(QObject* parent = nullptr);
 
-    // Takes effect at the next start.
-    void setPool(int lastSocketIndex, quint16 startPort);
-    int lastSocketIndex() const { return m_scheduler.lastSocketIndex(); }
-    quint16 masterLocalPort() const;
+    // Takes effect at the next start; the plan must be valid.
+    void setPool(const QuerySpeed::PortPlan& plan);
+    const QuerySpeed::PortPlan& portPlan() const { return m_plan; }
+    quint16 masterLocalPort() const { return quint16(m_plan.masterPort()); }
 
     // Both bind every port first; a port that cannot be bound returns the
     // error and nothing runs.
@@ -57,10 +57,10 @@ signals:
 private:
     void setPhase(Phase phase);
     void runTable(const AddressTable& table);
-    void end();
 
     QueryScheduler m_scheduler;
     MasterQuery m_master;
+    QuerySpeed::PortPlan m_plan;
     AddressTable m_addresses;
     Phase m_phase = Phase::Idle;
     QElapsedTimer m_clock;

@@ -1,6 +1,6 @@
 #include "records.h"
 
-QString AddressEntry::endpointText() const
+QString endpointText(const QString& address, int port)
 {
     return address + QLatin1Char(':') + QString::number(port);
 }
@@ -17,11 +17,6 @@ std::optional<AddressEntry> AddressTable::lastMatching(const QString& endpointTe
             return *it;
     }
     return std::nullopt;
-}
-
-QString ServerRecord::endpointText() const
-{
-    return address + QLatin1Char(':') + QString::number(port);
 }
 
 QString ServerRecord::playersText() const

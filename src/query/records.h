@@ -6,6 +6,9 @@
 
 #include <optional>
 
+// "address:port", as the lists show a server and the favourites match it.
+QString endpointText(const QString& address, int port);
+
 // One address the scheduler will query. Name and password are filled only
 // when the table comes from the favourites.
 struct AddressEntry {
@@ -14,7 +17,7 @@ struct AddressEntry {
     QString name;
     QString password;
 
-    QString endpointText() const;
+    QString endpointText() const { return ::endpointText(address, port); }
     friend bool operator==(const AddressEntry&, const AddressEntry&) = default;
 };
 
@@ -50,6 +53,7 @@ struct PlayerRecord {
 // What one infoResponse told about a server. The defaults are the values a
 // server is listed with when its reply lacks the key.
 struct ServerRecord {
+    // A slower answer is listed with this ping.
     static constexpr int MaxPing = 999;
 
     QString address;
@@ -71,8 +75,10 @@ struct ServerRecord {
     // only those counts as empty.
     int zeroPingCount = 0;
 
-    QString endpointText() const;
+    QString endpointText() const { return ::endpointText(address, port); }
     QString playersText() const;
+    // "Players" sorts by count, then by maximum, in every list.
+    qint64 playersSortKey() const { return playerCount * 65536LL + maxPlayers; }
     bool isPassworded() const { return passwordMark == QLatin1String("*"); }
 
     friend bool operator==(const ServerRecord&, const ServerRecord&) = default;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QList>
+#include <qnamespace.h>
 #include <QStringView>
 
 class QHeaderView;
@@ -15,6 +16,10 @@ namespace ColumnLayout {
 struct SortState {
     int key = 0;
     int order = 1;
+
+    // A column click: every click flips the direction, also on another column.
+    constexpr SortState flippedTo(int column) const { return SortState{column, (order + 1) % 2}; }
+    constexpr Qt::SortOrder qtOrder() const { return order == 0 ? Qt::AscendingOrder : Qt::DescendingOrder; }
     friend bool operator==(const SortState&, const SortState&) = default;
 };
 

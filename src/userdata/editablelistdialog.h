@@ -2,6 +2,7 @@
 
 #include <QDialog>
 
+class CopyCommands;
 class QAbstractItemModel;
 class QAction;
 class QLineEdit;
@@ -37,27 +38,19 @@ protected:
     void retranslateMenu();
     void commitEdit();
 
-    bool eventFilter(QObject* watched, QEvent* event) override;
     void hideEvent(QHideEvent* event) override;
 
 private:
-    void copyCells(int what);
-
     SettingsStore& m_settings;
     QAbstractItemModel* m_model;
     QString m_columnsPrefix;
     ReportView* m_list = nullptr;
     QLineEdit* txtEdit = nullptr;
     QMenu* m_menu = nullptr;
-    QAction* mPopCopyCell = nullptr;
-    QAction* mPopCopyColumn = nullptr;
-    QAction* mPopCopyRow = nullptr;
-    QAction* mPopCopyAll = nullptr;
+    CopyCommands* m_copy = nullptr;
     QAction* mPopEditCell = nullptr;
     QAction* mPopNew = nullptr;
     QAction* mPopRemove = nullptr;
-    int m_lastButton = 0;
-    int m_menuColumn = 0;
     int m_editRow = -1;
     int m_editColumn = -1;
 };

@@ -1,11 +1,17 @@
 #include "favourites.h"
 
+#include <QDir>
 #include <QFile>
 #include <QSaveFile>
 
 #include <cmath>
 
 namespace Favourites {
+
+QString filePath(const QString& dataFolder)
+{
+    return QDir(dataFolder).filePath(FileName);
+}
 
 namespace {
 

@@ -14,6 +14,8 @@ namespace Favourites {
 
 inline constexpr int DefaultPort = 27960;
 inline const QString FileName = QStringLiteral("favourites.dat");
+// The file in the data folder.
+QString filePath(const QString& dataFolder);
 
 struct Favourite {
     QString address;

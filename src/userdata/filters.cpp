@@ -1,9 +1,15 @@
 #include "filters.h"
 
+#include <QDir>
 #include <QFile>
 #include <QSaveFile>
 
 namespace Filters {
+
+QString filePath(const QString& dataFolder)
+{
+    return QDir(dataFolder).filePath(FileName);
+}
 
 namespace {
 

@@ -14,6 +14,8 @@
 namespace Filters {
 
 inline const QString FileName = QStringLiteral("filters.dat");
+// The file in the data folder.
+QString filePath(const QString& dataFolder);
 // A row the user added but has not filled in; it never hides a server.
 inline const QString NewFilter = QStringLiteral("<New Filter>");
 

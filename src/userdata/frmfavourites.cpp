@@ -100,7 +100,7 @@ void FavouritesModel::retranslate()
 
 FrmFavourites::FrmFavourites(SettingsStore& settings, QString dataFolder, QWidget* parent)
     : EditableListDialog(settings, new FavouritesModel, {180, 150, 110}, Keys::Favourites.columns, parent)
-    , m_path(QDir(dataFolder).filePath(Favourites::FileName))
+    , m_path(Favourites::filePath(dataFolder))
     , m_model(static_cast<FavouritesModel*>(listModel()))
 {
     setObjectName(QStringLiteral("frmFavourites"));
@@ -150,7 +150,7 @@ FrmFavourites::FrmFavourites(SettingsStore& settings, QString dataFolder, QWidge
     ColumnLayout::restore(this->settings(), Keys::Favourites.columns, *header);
     if (this->settings().contains(SettingsCodec::sortKeyKey(Keys::Favourites.sort))) {
         m_sort = ColumnLayout::readSort(this->settings(), Keys::Favourites.sort, m_sort);
-        m_model->sort(m_sort.key, m_sort.order == 0 ? Qt::AscendingOrder : Qt::DescendingOrder);
+        m_model->sort(m_sort.key, m_sort.qtOrder());
     }
     connect(header, &QHeaderView::sectionClicked, this, &FrmFavourites::sortClicked);
     connect(header, &QHeaderView::sectionMoved, this,
@@ -211,7 +211,7 @@ void FrmFavourites::removeRow(int row)
 
 void FrmFavourites::sortClicked(int column)
 {
-    m_sort = ColumnLayout::SortState{column, (m_sort.order + 1) % 2};
-    m_model->sort(column, m_sort.order == 0 ? Qt::AscendingOrder : Qt::DescendingOrder);
+    m_sort = m_sort.flippedTo(column);
+    m_model->sort(column, m_sort.qtOrder());
     ColumnLayout::saveSort(settings(), Keys::Favourites.sort, m_sort);
 }

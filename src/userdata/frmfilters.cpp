@@ -16,7 +16,7 @@
 
 FrmFilters::FrmFilters(SettingsStore& settings, QString dataFolder, QWidget* parent)
     : EditableListDialog(settings, new FiltersModel, {160, 200}, Keys::Filters.columns, parent)
-    , m_path(QDir(dataFolder).filePath(Filters::FileName))
+    , m_path(Filters::filePath(dataFolder))
     , m_model(static_cast<FiltersModel*>(listModel()))
 {
     setObjectName(QStringLiteral("frmFilters"));
@@ -61,10 +61,10 @@ FrmFilters::FrmFilters(SettingsStore& settings, QString dataFolder, QWidget* par
         if (selectedRow() >= 0)
             removeRow(selectedRow());
     });
-    const auto builtInFlag = [this](QCheckBox* box, QStringView key) {
-        box->setChecked(this->settings().getFlag(key, Keys::Defaults::IncludeFilterFlag));
-        connect(box, &QCheckBox::clicked, this, [this, key](bool checked) {
-            this->settings().saveFlag(key, checked);
+    const auto builtInFlag = [this](QCheckBox* box, const Keys::FlagSetting& setting) {
+        box->setChecked(this->settings().value(setting));
+        connect(box, &QCheckBox::clicked, this, [this, setting](bool checked) {
+            this->settings().set(setting, checked);
             emit filtersChanged();
         });
     };
@@ -151,8 +151,8 @@ void FrmFilters::removeRow(int row)
 
 void FrmFilters::sortClicked(int column)
 {
-    m_sort = ColumnLayout::SortState{column, (m_sort.order + 1) % 2};
-    m_model->sortByColumn(column, m_sort.order == 0 ? Qt::AscendingOrder : Qt::DescendingOrder);
+    m_sort = m_sort.flippedTo(column);
+    m_model->sortByColumn(column, m_sort.qtOrder());
     ColumnLayout::saveSort(settings(), Keys::Filters.sort, m_sort);
 }
 

@@ -6,6 +6,8 @@
 // A report-style list: rows of cells under movable column headers, whole
 // rows selected. A table view rather than a tree view: it keeps nothing
 // per row, so lists of a hundred thousand players stay quick to update.
+// It remembers the mouse button last pressed on its rows, because a double
+// click joins and a right click opens a menu only after the matching press.
 class ReportView final : public QTableView {
     Q_OBJECT
     Q_DISABLE_COPY_MOVE(ReportView)
@@ -15,4 +17,30 @@ public:
     ReportView(QAbstractItemModel* model, const QList<int>& designWidths, QWidget* parent = nullptr);
 
     QHeaderView* header() const { return horizontalHeader(); }
+    // The current row when it is also selected, else -1.
+    int selectedRow() const;
+    // Qt::NoButton until the first press on the rows.
+    Qt::MouseButton lastButton() const { return m_lastButton; }
+    // A button acts as if the user had pressed it on the list (a join
+    // button works like a left click on the selected row).
+    void setLastButton(Qt::MouseButton button) { m_lastButton = button; }
+    // The column under the pointer at the last press (-1 past the last).
+    int pressedColumn() const { return m_pressedColumn; }
+
+signals:
+    // A button went down on the rows, before the list reacts to it.
+    void pressed(Qt::MouseButton button);
+    // The right button was pressed and released here; index may be invalid
+    // (below the last row). The list's menu belongs at globalPos.
+    void menuRequested(const QModelIndex& index, const QPoint& globalPos);
+    // A double click that followed a left press.
+    void rowDoubleClicked(const QModelIndex& index);
+
+protected:
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
+
+private:
+    Qt::MouseButton m_lastButton = Qt::NoButton;
+    int m_pressedColumn = 0;
 };

@@ -2,36 +2,61 @@
 
 #include <QStringView>
 
-// The keys of the "Settings" group, in one place, with the defaults their
-// readers pass. Per-column and per-list keys are built by SettingsCodec.
+// Every key of the "Settings" group with its type and the default a reader
+// gets while the key was never written: one table, read and written only
+// through SettingsStore::value() and set(). Per-column and per-list keys
+// are built by SettingsCodec from the list prefixes at the end.
 namespace Keys {
 
-inline constexpr QStringView PlayerName{u"PlayerName"};
-inline constexpr QStringView Password{u"Password"};
-inline constexpr QStringView Tab{u"Tab"};
-inline constexpr QStringView Maximized{u"Maximized"};
-inline constexpr QStringView WindowHeight{u"WindowHeight"};
-inline constexpr QStringView WindowWidth{u"WindowWidth"};
-inline constexpr QStringView SplitterPanes{u"rzrSPSISize"};
-inline constexpr QStringView SplitterServerList{u"rzrPSISize"};
-inline constexpr QStringView FindBox{u"FindBox"};
-inline constexpr QStringView PlayerNameBox{u"PlayerNameBox"};
-inline constexpr QStringView PasswordBox{u"PasswordBox"};
-inline constexpr QStringView Language{u"Language"};
-inline constexpr QStringView Speed{u"Speed"};
-inline constexpr QStringView StartPort{u"StartPort"};
-inline constexpr QStringView RefreshServers{u"RefreshServers"};
-inline constexpr QStringView Path{u"Path"};
-inline constexpr QStringView CloseAfterJoin{u"CloseAfterJoin"};
-inline constexpr QStringView AutoUpdate{u"AutoUpdate"};
-inline constexpr QStringView Proxy{u"Proxy"};
-inline constexpr QStringView ProxyAddress{u"ProxyAddress"};
-inline constexpr QStringView ColourPickerOption{u"ColourPickerOption"};
-inline constexpr QStringView ScrollType{u"prbScrollType"};
-inline constexpr QStringView IncludeEmpty{u"IncludeEmpty"};
-inline constexpr QStringView IncludeFull{u"IncludeFull"};
-inline constexpr QStringView IncludePassworded{u"IncludePassworded"};
-inline constexpr QStringView MasterServer{u"MasterServer"};
+// Free text.
+struct TextSetting {
+    QStringView key;
+    QStringView defaultValue = {};
+};
+// A decimal number, read leniently ("12abc" is 12, "abc" is 0).
+struct NumberSetting {
+    QStringView key;
+    int defaultValue = 0;
+};
+// "1" on, anything else off.
+struct FlagSetting {
+    QStringView key;
+    bool defaultValue = false;
+};
+// "True" or "False".
+struct TruthSetting {
+    QStringView key;
+    bool defaultValue = false;
+};
+// Remembered combo-box entries, each ended by the code-1 character.
+struct EntriesSetting {
+    QStringView key;
+};
+
+inline constexpr TextSetting PlayerName{u"PlayerName"};
+inline constexpr TextSetting Password{u"Password"};
+inline constexpr NumberSetting Tab{u"Tab", 1};
+inline constexpr TruthSetting Maximized{u"Maximized", false};
+// These four default to what the window shows: read them with the current
+// size as the fallback.
+inline constexpr NumberSetting WindowHeight{u"WindowHeight"};
+inline constexpr NumberSetting WindowWidth{u"WindowWidth"};
+inline constexpr NumberSetting SplitterPanes{u"rzrSPSISize"};
+inline constexpr NumberSetting SplitterServerList{u"rzrPSISize"};
+inline constexpr EntriesSetting FindBox{u"FindBox"};
+inline constexpr EntriesSetting PlayerNameBox{u"PlayerNameBox"};
+inline constexpr EntriesSetting PasswordBox{u"PasswordBox"};
+inline constexpr NumberSetting Language{u"Language", 0};
+inline constexpr NumberSetting Speed{u"Speed", 5};
+inline constexpr NumberSetting StartPort{u"StartPort", 9000};
+inline constexpr FlagSetting RefreshServers{u"RefreshServers", true};
+inline constexpr TextSetting Path{u"Path"};
+inline constexpr FlagSetting CloseAfterJoin{u"CloseAfterJoin", true};
+inline constexpr FlagSetting IncludeEmpty{u"IncludeEmpty", true};
+inline constexpr FlagSetting IncludeFull{u"IncludeFull", true};
+inline constexpr FlagSetting IncludePassworded{u"IncludePassworded", true};
+// Empty: the game maker's master.
+inline constexpr TextSetting MasterServer{u"MasterServer"};
 
 // List prefixes: columns use the first, sorting the second (the selected
 // server's player pane is the one list where they differ).
@@ -45,18 +70,5 @@ inline constexpr ListKeys ServerPlayers{QStringView{u"SP"}, QStringView{u"PL"}};
 inline constexpr ListKeys ServerRules{QStringView{u"SI"}, QStringView{u"SI"}};
 inline constexpr ListKeys Favourites{QStringView{u"F"}, QStringView{u"F"}};
 inline constexpr ListKeys Filters{QStringView{u"Fi"}, QStringView{u"Fi"}};
-
-namespace Defaults {
-inline constexpr int Tab = 1;
-inline constexpr int Language = 0;
-inline constexpr int Speed = 5;
-inline constexpr int StartPort = 9000;
-inline constexpr bool RefreshServers = true;
-inline constexpr bool CloseAfterJoin = true;
-inline constexpr bool AutoUpdate = true;
-inline constexpr bool Proxy = false;
-inline constexpr bool IncludeFilterFlag = true;
-inline constexpr int ScrollType = 1;
-} // namespace Defaults
 
 } // namespace Keys

@@ -26,13 +26,13 @@ QString SettingsStore::defaultFilePath()
         .fileName();
 }
 
-SettingsStore::SettingsStore(QString filePath)
-    : m_filePath(std::move(filePath))
+SettingsStore::SettingsStore(QString filePath, QObject* parent)
+    : QObject(parent)
+    , m_filePath(std::move(filePath))
 {
 }
 
 SettingsStore::~SettingsStore() = default;
-SettingsStore::SettingsStore(SettingsStore&&) noexcept = default;
 
 SettingsStore::Batch::Batch(SettingsStore& store)
     : m_store(store)
@@ -77,15 +77,20 @@ bool SettingsStore::contains(QStringView key) const
 
 bool SettingsStore::save(QStringView key, const QString& value)
 {
+    bool saved = false;
     if (m_batch) {
         m_batch->setValue(key, value);
-        return m_batch->status() == QSettings::NoError;
+        saved = m_batch->status() == QSettings::NoError;
+    } else {
+        QSettings settings(m_filePath, QSettings::IniFormat);
+        settings.beginGroup(Group);
+        settings.setValue(key, value);
+        settings.sync();
+        saved = settings.status() == QSettings::NoError;
     }
-    QSettings settings(m_filePath, QSettings::IniFormat);
-    settings.beginGroup(Group);
-    settings.setValue(key, value);
-    settings.sync();
-    return settings.status() == QSettings::NoError;
+    if (saved)
+        emit changed(key.toString());
+    return saved;
 }
 
 int SettingsStore::getNumber(QStringView key, int defaultValue) const
@@ -98,32 +103,58 @@ bool SettingsStore::saveNumber(QStringView key, int value)
     return save(key, QString::number(value));
 }
 
-bool SettingsStore::getFlag(QStringView key, bool defaultOn) const
+QString SettingsStore::value(const Keys::TextSetting& setting) const
 {
-    return SettingsCodec::isOn(get(key, SettingsCodec::flagText(defaultOn)));
+    return get(setting.key, setting.defaultValue.toString());
 }
 
-bool SettingsStore::saveFlag(QStringView key, bool on)
+int SettingsStore::value(const Keys::NumberSetting& setting) const
 {
-    return save(key, SettingsCodec::flagText(on));
+    return getNumber(setting.key, setting.defaultValue);
 }
 
-bool SettingsStore::getTruth(QStringView key, bool defaultValue) const
+int SettingsStore::value(const Keys::NumberSetting& setting, int current) const
 {
-    return SettingsCodec::toTruth(get(key, SettingsCodec::truthText(defaultValue)), defaultValue);
+    return getNumber(setting.key, current);
 }
 
-bool SettingsStore::saveTruth(QStringView key, bool value)
+bool SettingsStore::value(const Keys::FlagSetting& setting) const
 {
-    return save(key, SettingsCodec::truthText(value));
+    return SettingsCodec::isOn(get(setting.key, SettingsCodec::flagText(setting.defaultValue)));
 }
 
-QStringList SettingsStore::getEntries(QStringView key) const
+bool SettingsStore::value(const Keys::TruthSetting& setting) const
 {
-    return SettingsCodec::decodeEntries(get(key));
+    return SettingsCodec::toTruth(get(setting.key, SettingsCodec::truthText(setting.defaultValue)),
+                                  setting.defaultValue);
 }
 
-bool SettingsStore::saveEntries(QStringView key, const QStringList& entries)
+QStringList SettingsStore::value(const Keys::EntriesSetting& setting) const
 {
-    return save(key, SettingsCodec::encodeEntries(entries));
+    return SettingsCodec::decodeEntries(get(setting.key));
+}
+
+bool SettingsStore::set(const Keys::TextSetting& setting, const QString& value)
+{
+    return save(setting.key, value);
+}
+
+bool SettingsStore::set(const Keys::NumberSetting& setting, int value)
+{
+    return saveNumber(setting.key, value);
+}
+
+bool SettingsStore::set(const Keys::FlagSetting& setting, bool on)
+{
+    return save(setting.key, SettingsCodec::flagText(on));
+}
+
+bool SettingsStore::set(const Keys::TruthSetting& setting, bool value)
+{
+    return save(setting.key, SettingsCodec::truthText(value));
+}
+
+bool SettingsStore::set(const Keys::EntriesSetting& setting, const QStringList& entries)
+{
+    return save(setting.key, SettingsCodec::encodeEntries(entries));
 }

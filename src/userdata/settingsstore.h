@@ -1,5 +1,8 @@
 #pragma once
 
+#include "settingskeys.h"
+
+#include <QObject>
 #include <QString>
 #include <QStringList>
 
@@ -11,15 +14,16 @@ class QSettings;
 // string. The file is opened per call and nothing is cached, so a value
 // written by one window is what the next read anywhere sees, and two
 // running copies of the program overwrite each other key by key.
-class SettingsStore final {
+class SettingsStore final : public QObject {
+    Q_OBJECT
+    Q_DISABLE_COPY_MOVE(SettingsStore)
+
 public:
     // The file under the user's configuration folder.
     static QString defaultFilePath();
 
-    explicit SettingsStore(QString filePath = defaultFilePath());
-    ~SettingsStore();
-    Q_DISABLE_COPY(SettingsStore)
-    SettingsStore(SettingsStore&&) noexcept;
+    explicit SettingsStore(QString filePath = defaultFilePath(), QObject* parent = nullptr);
+    ~SettingsStore() override;
 
     // Writes made while a batch lives reach the file in one update when it
     // ends, instead of one rewrite of the file per key (closing the main
@@ -36,20 +40,31 @@ public:
 
     const QString& filePath() const { return m_filePath; }
 
-    // The stored text, or the default when the key was never written.
+    // The keys of the table, typed, with their defaults.
+    QString value(const Keys::TextSetting& setting) const;
+    int value(const Keys::NumberSetting& setting) const;
+    // For the keys whose default is what the window shows now.
+    int value(const Keys::NumberSetting& setting, int current) const;
+    bool value(const Keys::FlagSetting& setting) const;
+    bool value(const Keys::TruthSetting& setting) const;
+    QStringList value(const Keys::EntriesSetting& setting) const;
+    // False when the value could not be written (unwritable folder, full disk).
+    bool set(const Keys::TextSetting& setting, const QString& value);
+    bool set(const Keys::NumberSetting& setting, int value);
+    bool set(const Keys::FlagSetting& setting, bool on);
+    bool set(const Keys::TruthSetting& setting, bool value);
+    bool set(const Keys::EntriesSetting& setting, const QStringList& entries);
+
+    // Keys built at run time (per column, per list).
     QString get(QStringView key, const QString& defaultValue = {}) const;
     bool contains(QStringView key) const;
-    // False when the value could not be written (unwritable folder, full disk).
     bool save(QStringView key, const QString& value);
-
     int getNumber(QStringView key, int defaultValue) const;
     bool saveNumber(QStringView key, int value);
-    bool getFlag(QStringView key, bool defaultOn) const;
-    bool saveFlag(QStringView key, bool on);
-    bool getTruth(QStringView key, bool defaultValue) const;
-    bool saveTruth(QStringView key, bool value);
-    QStringList getEntries(QStringView key) const;
-    bool saveEntries(QStringView key, const QStringList& entries);
+
+signals:
+    // A key was written (whatever the value was before).
+    void changed(const QString& key);
 
 private:
     QString m_filePath;

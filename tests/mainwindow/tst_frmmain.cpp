@@ -1,9 +1,5 @@
-#include "frmmain.h"
 #include "historycombobox.h"
-#include "language.h"
-#include "reportview.h"
-#include "scripteddesktop.h"
-#include "settingsstore.h"
+#include "testwindow.h"
 
 #include <QAction>
 #include <QHeaderView>
@@ -17,35 +13,6 @@
 #include <QTest>
 
 namespace {
-
-// One run of the program against a settings file that outlives it.
-struct Run {
-    ScriptedDesktop desktop;
-    Language language;
-    std::unique_ptr<FrmMain> window;
-
-    explicit Run(SettingsStore& settings, const QString& dataFolder = QString())
-        : window(std::make_unique<FrmMain>(settings, desktop, language, dataFolder))
-    {
-    }
-
-    template <typename T> T* find(const char* name) const
-    {
-        T* child = window->findChild<T*>(QLatin1String(name));
-        if (!child)
-            qFatal("no control named %s", name);
-        return child;
-    }
-    ReportView* list(const char* name) const { return find<ReportView>(name); }
-    QHeaderView* header(const char* name) const { return list(name)->header(); }
-    QString text(const char* button) const { return find<QPushButton>(button)->text(); }
-
-    bool show()
-    {
-        window->show();
-        return QTest::qWaitForWindowExposed(window.get());
-    }
-};
 
 QStringList headerCaptions(const QHeaderView* header)
 {
@@ -69,7 +36,7 @@ private slots:
 
     void firstStartShowsTheDesignTimeWindow()
     {
-        Run run(*m_settings);
+        TestWindow run(*m_settings);
         QVERIFY(run.show());
         QCOMPARE(run.window->objectName(), QStringLiteral("frmMain"));
         QCOMPARE(run.find<QTabBar>("tabSelect")->currentIndex(), int(FrmMain::ServersTab));
@@ -106,7 +73,7 @@ private slots:
 
     void listsHaveTheirColumnsInOrder()
     {
-        Run run(*m_settings);
+        TestWindow run(*m_settings);
         QCOMPARE(headerCaptions(run.header("lstServerList")),
                  (QStringList{"Server", "Map", "Players", "Ping", "Pw", "Type", "Game", "Server IP Address"}));
         QCOMPARE(headerCaptions(run.header("lstPlayerList")),
@@ -134,7 +101,7 @@ private slots:
         QFETCH(QString, stored);
         QFETCH(int, tab);
         m_settings->save(u"Tab", stored);
-        Run run(*m_settings);
+        TestWindow run(*m_settings);
         QVERIFY(run.show());
         QCOMPARE(run.find<QTabBar>("tabSelect")->currentIndex(), tab);
         QCOMPARE(run.list("lstPlayerList")->isVisible(), tab == 0);
@@ -145,7 +112,7 @@ private slots:
     void layoutSurvivesARestart()
     {
         {
-            Run run(*m_settings);
+            TestWindow run(*m_settings);
             QVERIFY(run.show());
             run.window->resize(640, 580);
             QHeaderView* servers = run.header("lstServerList");
@@ -184,7 +151,7 @@ private slots:
         QCOMPARE(m_settings->get(u"PlayerNameBox"), QStringLiteral("^1Fragger\u0001Other\u0001"));
 
         m_settings->save(u"Tab", QStringLiteral("1"));
-        Run again(*m_settings);
+        TestWindow again(*m_settings);
         QVERIFY(again.show());
         QCOMPARE(again.window->size(), QSize(640, 580));
         QCOMPARE(again.header("lstServerList")->logicalIndex(0), 7);
@@ -202,7 +169,7 @@ private slots:
     void closingWritesEveryListsColumns()
     {
         {
-            Run run(*m_settings);
+            TestWindow run(*m_settings);
             QVERIFY(run.show());
             run.window->close();
         }
@@ -227,7 +194,7 @@ private slots:
         m_settings->save(u"SSortKey", QStringLiteral("3"));
         m_settings->save(u"SSortOrder", QStringLiteral("0"));
         m_settings->save(u"PSortKey", QStringLiteral("7"));
-        Run run(*m_settings);
+        TestWindow run(*m_settings);
         QCOMPARE(run.window->serverSort(), (ColumnLayout::SortState{3, 0}));
         QCOMPARE(run.window->playerSort(), (ColumnLayout::SortState{7, 1}));
         QVERIFY(!run.header("lstServerList")->isSortIndicatorShown());
@@ -239,7 +206,7 @@ private slots:
         m_settings->save(u"WindowHeight", QStringLiteral("560"));
         m_settings->save(u"Maximized", QStringLiteral("True"));
         {
-            Run run(*m_settings);
+            TestWindow run(*m_settings);
             QVERIFY(run.show());
             QTRY_VERIFY(run.window->isMaximized());
             QCOMPARE(run.window->normalGeometry().size(), QSize(620, 560));
@@ -252,7 +219,7 @@ private slots:
 
     void resizingIsStoredButMinimizingIsNot()
     {
-        Run run(*m_settings);
+        TestWindow run(*m_settings);
         QVERIFY(run.show());
         run.window->resize(700, 600);
         QCOMPARE(m_settings->get(u"WindowWidth"), QStringLiteral("700"));
@@ -268,7 +235,7 @@ private slots:
     {
         m_settings->save(u"WindowWidth", QStringLiteral("junk"));
         m_settings->save(u"WindowHeight", QStringLiteral("100"));
-        Run run(*m_settings);
+        TestWindow run(*m_settings);
         QVERIFY(run.show());
         QCOMPARE(run.window->size(), QSize(500, 545));
     }
@@ -276,38 +243,38 @@ private slots:
     void americanEnglishAtStart()
     {
         m_settings->save(u"Language", QStringLiteral("1"));
-        Run run(*m_settings);
-        QCOMPARE(run.text("cmdFav"), QStringLiteral("Query Favorites"));
-        QCOMPARE(run.text("cmdOrganise"), QStringLiteral("Favorites"));
+        TestWindow run(*m_settings);
+        QCOMPARE(run.button("cmdFav")->text(), QStringLiteral("Query Favorites"));
+        QCOMPARE(run.button("cmdOrganise")->text(), QStringLiteral("Favorites"));
         QCOMPARE(run.find<QAction>("mPopAdd")->text(), QStringLiteral("&Add To Favorites"));
-        QCOMPARE(run.text("cmdGet"), QStringLiteral("Query Masters"));
-        QCOMPARE(run.text("cmdCancel"), QStringLiteral("Cancel Query"));
+        QCOMPARE(run.button("cmdGet")->text(), QStringLiteral("Query Masters"));
+        QCOMPARE(run.button("cmdCancel")->text(), QStringLiteral("Cancel Query"));
         QCOMPARE(run.find<QTabBar>("tabSelect")->tabText(0), QStringLiteral("Players"));
     }
 
     void unknownLanguageKeepsTheDesignTimeTexts()
     {
         m_settings->save(u"Language", QStringLiteral("7"));
-        Run run(*m_settings);
-        QCOMPARE(run.text("cmdFav"), QStringLiteral("Query Favourites"));
-        QCOMPARE(run.text("cmdOrganise"), QStringLiteral("Favourites"));
+        TestWindow run(*m_settings);
+        QCOMPARE(run.button("cmdFav")->text(), QStringLiteral("Query Favourites"));
+        QCOMPARE(run.button("cmdOrganise")->text(), QStringLiteral("Favourites"));
         QCOMPARE(run.find<QLabel>("lblPlayerName")->text(), QStringLiteral("Name:"));
     }
 
     void switchingLanguageRetranslatesTheOpenWindow()
     {
-        Run run(*m_settings);
+        TestWindow run(*m_settings);
         QVERIFY(run.show());
-        QCOMPARE(run.text("cmdFav"), QStringLiteral("Query Favourites"));
+        QCOMPARE(run.button("cmdFav")->text(), QStringLiteral("Query Favourites"));
         run.language.apply(1);
-        QTRY_COMPARE(run.text("cmdFav"), QStringLiteral("Query Favorites"));
+        QTRY_COMPARE(run.button("cmdFav")->text(), QStringLiteral("Query Favorites"));
         run.language.apply(0);
-        QTRY_COMPARE(run.text("cmdFav"), QStringLiteral("Query Favourites"));
+        QTRY_COMPARE(run.button("cmdFav")->text(), QStringLiteral("Query Favourites"));
     }
 
     void aboutLabelOpensTheAboutBox()
     {
-        Run run(*m_settings);
+        TestWindow run(*m_settings);
         QVERIFY(run.show());
         run.desktop.messageAnswers.enqueue(QMessageBox::Ok);
         QTest::mouseClick(run.find<QLabel>("lblAbout"), Qt::LeftButton);
@@ -316,20 +283,36 @@ private slots:
         QCOMPARE(run.desktop.unexpectedCalls, 0);
     }
 
-    void enterInTheJoinBoxesRemembers()
+    // Keys go where a user's keys go: to the widget with the focus, which
+    // for an editable combo box is the box, not its line edit.
+    void enterInTheBoxesRemembersAndDeleteForgets()
     {
-        Run run(*m_settings);
-        QVERIFY(run.show());
-        auto* password = run.find<HistoryComboBox>("cmbPassword");
-        QTest::keyClicks(password->lineEdit(), QStringLiteral("pw1"));
-        QTest::keyClick(password->lineEdit(), Qt::Key_Return);
-        QTest::keyClick(password->lineEdit(), Qt::Key_Return);
-        QCOMPARE(password->entries(), QStringList{"pw1"});
-        auto* find = run.find<HistoryComboBox>("cmbFind");
-        QTest::keyClicks(find->lineEdit(), QStringLiteral("abc"));
-        QTest::keyClick(find->lineEdit(), Qt::Key_Return);
-        QTest::mouseClick(run.find<QPushButton>("cmdFind"), Qt::LeftButton);
-        QCOMPARE(find->entries(), QStringList{"abc"});
+        {
+            TestWindow run(*m_settings);
+            QVERIFY(run.show());
+            auto* name = run.find<HistoryComboBox>("cmbPlayerName");
+            auto* password = run.find<HistoryComboBox>("cmbPassword");
+            QCOMPARE(run.focus(name), name);
+            run.type(name, QStringLiteral("Fragger"), Qt::Key_Return);
+            run.type(password, QStringLiteral("pw1"), Qt::Key_Return);
+            QTest::keyClick(QApplication::focusWidget(), Qt::Key_Enter);
+            run.type(password, QStringLiteral("2"), Qt::Key_Return);
+            QCOMPARE(name->entries(), QStringList{"Fragger"});
+            QCOMPARE(password->entries(), (QStringList{"pw1", "pw12"}));
+
+            // Picked from the list and not edited: Delete forgets it.
+            password->setCurrentIndex(0);
+            emit password->activated(0);
+            QTest::keyClick(run.focus(password), Qt::Key_Delete);
+            QCOMPARE(password->entries(), QStringList{"pw12"});
+            // Edited since: Backspace only edits the text.
+            run.type(password, QStringLiteral("x"));
+            QTest::keyClick(QApplication::focusWidget(), Qt::Key_Backspace);
+            QCOMPARE(password->entries(), QStringList{"pw12"});
+            run.window->close();
+        }
+        QCOMPARE(m_settings->get(u"PlayerNameBox"), QStringLiteral("Fragger\u0001"));
+        QCOMPARE(m_settings->get(u"PasswordBox"), QStringLiteral("pw12\u0001"));
     }
 };
 

@@ -1,10 +1,6 @@
-#include "frmmain.h"
-#include "language.h"
-#include "reportview.h"
-#include "scripteddesktop.h"
+#include "fleet.h"
 #include "serverlistmodel.h"
-#include "settingsstore.h"
-#include "simfleet.h"
+#include "testwindow.h"
 
 #include <QAction>
 #include <QClipboard>
@@ -24,45 +20,36 @@ namespace {
 constexpr quint16 StartPort = 41700;
 constexpr quint16 MasterPort = 25400;
 
-// A window that has queried a small fleet; server 0 needs a password.
-struct Joined {
-    SimFleet fleet{[] {
-        FleetOptions options;
-        options.servers = 6;
-        options.masterPort = MasterPort;
-        options.firstServerPort = MasterPort + 1;
-        options.seed = 7;
-        return options;
-    }()};
-    QTemporaryDir dir;
-    SettingsStore settings{dir.filePath(QStringLiteral("settings.ini"))};
-    ScriptedDesktop desktop;
-    Language language;
-    std::unique_ptr<FrmMain> window;
-
-    Joined()
+// The fleet starts before the window that queries it.
+struct StartedFleet {
+    SimFleet fleet{fleetOf(6, MasterPort)};
+    StartedFleet()
     {
         fleet.setServer(0, {{"si_name", "^1Locked"}, {"si_usepass", "1"}, {"si_maxplayers", "8"}}, {});
         fleet.setServer(1, {{"si_name", "^2Open"}, {"si_usepass", "0"}, {"si_maxplayers", "8"}}, {});
         if (fleet.start())
             qFatal("fleet did not start");
-        settings.save(u"MasterServer", QStringLiteral("127.0.0.1:%1").arg(MasterPort));
-        settings.save(u"StartPort", QString::number(StartPort));
-        settings.save(u"RefreshServers", QStringLiteral("0"));
-        settings.save(u"CloseAfterJoin", QStringLiteral("0"));
-        settings.save(u"Path", QStringLiteral("/opt/quake4/quake4.x86"));
-        window = std::make_unique<FrmMain>(settings, desktop, language, dir.path());
-        window->show();
-        find<QPushButton>("cmdGet")->click();
-        QTRY_COMPARE_WITH_TIMEOUT(find<QLabel>("lblStatus")->text(), QStringLiteral("Done"), 4000);
     }
-    template <typename T> T* find(const char* name) const { return window->findChild<T*>(QLatin1String(name)); }
+};
+
+// A window that has queried a small fleet; server 0 needs a password.
+struct Joined : StartedFleet, TestWindow {
+    Joined()
+        : TestWindow(MasterPort, StartPort, [](SettingsStore& settings) {
+            settings.save(u"RefreshServers", QStringLiteral("0"));
+            settings.save(u"CloseAfterJoin", QStringLiteral("0"));
+            settings.save(u"Path", QStringLiteral("/opt/quake4/quake4.x86"));
+        })
+    {
+        if (!queryMasters())
+            qFatal("the query did not finish");
+    }
     // The editors have entries of the same names: take the list menu's own.
     QAction* listAction(const char* name) const
     {
         return find<QMenu>("mPopupAlt")->findChild<QAction*>(QLatin1String(name));
     }
-    ReportView* servers() const { return find<ReportView>("lstServerList"); }
+    ReportView* servers() const { return list("lstServerList"); }
     QString address(quint16 serverIndex) const
     {
         return QStringLiteral("127.0.0.1:%1").arg(MasterPort + 1 + serverIndex);
@@ -108,9 +95,18 @@ private slots:
         QCOMPARE(j.find<QLabel>("lblStatus")->text(), QStringLiteral("Connecting to ") + j.address(1));
         QVERIFY2(j.window->isVisible(), "CloseAfterJoin 0 keeps the program open");
 
-        j.settings.save(u"CloseAfterJoin", QStringLiteral("1"));
+        // A game that does not start keeps the program open and says why.
+        j.settings().save(u"CloseAfterJoin", QStringLiteral("1"));
+        j.desktop.startSucceeds = false;
         j.doubleClick(1);
         QCOMPARE(j.desktop.starts.size(), 2);
+        QVERIFY(j.window->isVisible());
+        QCOMPARE(j.status(), QStringLiteral("The game could not be started: /opt/quake4/quake4.x86 does not exist."));
+        QCOMPARE(j.statusColour(), QColor(255, 0, 0));
+
+        j.desktop.startSucceeds = true;
+        j.doubleClick(1);
+        QCOMPARE(j.desktop.starts.size(), 3);
         QVERIFY(!j.window->isVisible());
     }
 
@@ -128,7 +124,7 @@ private slots:
     void passwordFromTheFavouritesOrTheUser()
     {
         Joined j;
-        QFile favourites(j.dir.filePath(QStringLiteral("favourites.dat")));
+        QFile favourites(j.dataFile(QStringLiteral("favourites.dat")));
         QVERIFY(favourites.open(QIODevice::WriteOnly));
         favourites.write(QStringLiteral("%1\x01old\x01Locked\r\n%1\x01"
                                         "fav\x01Locked\r\n")
@@ -159,7 +155,7 @@ private slots:
     void theExecutableIsAskedForOnce()
     {
         Joined j;
-        j.settings.save(u"Path", QString());
+        j.settings().save(u"Path", QString());
         j.desktop.fileAnswers.enqueue(QString()); // cancelled
         j.doubleClick(1);
         QVERIFY(j.desktop.starts.isEmpty());
@@ -167,7 +163,7 @@ private slots:
         QCOMPARE(j.desktop.fileRequests.last().filter, QStringLiteral("Quake 4 Executable (*)"));
         j.desktop.fileAnswers.enqueue(QStringLiteral("/games/q4/quake4"));
         j.doubleClick(1);
-        QCOMPARE(j.settings.get(u"Path"), QStringLiteral("/games/q4/quake4"));
+        QCOMPARE(j.settings().get(u"Path"), QStringLiteral("/games/q4/quake4"));
         QCOMPARE(j.desktop.starts.last().workingFolder, QStringLiteral("/games/q4"));
         j.doubleClick(1);
         QCOMPARE(j.desktop.fileRequests.size(), 2);
@@ -203,7 +199,7 @@ private slots:
 
         j.listAction("mPopAdd")->trigger();
         j.listAction("mPopAdd")->trigger();
-        QFile favourites(j.dir.filePath(QStringLiteral("favourites.dat")));
+        QFile favourites(j.dataFile(QStringLiteral("favourites.dat")));
         QVERIFY(favourites.open(QIODevice::ReadOnly));
         const QByteArray line = j.address(1).toLatin1() + "\x01\x01Open\r\n";
         QCOMPARE(favourites.readAll(), line + line);

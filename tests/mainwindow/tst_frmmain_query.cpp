@@ -1,15 +1,15 @@
 #include "colourcodes.h"
+#include "fleet.h"
 #include "frmfilters.h"
-#include "frmmain.h"
+#include "historycombobox.h"
 #include "infoprotocol.h"
-#include "language.h"
 #include "multicolorlabel.h"
 #include "playerlistmodel.h"
+#include "querycontroller.h"
 #include "reportview.h"
-#include "scripteddesktop.h"
 #include "serverlistmodel.h"
-#include "settingsstore.h"
-#include "simfleet.h"
+#include "serverlists.h"
+#include "testwindow.h"
 
 #include <QCheckBox>
 #include <QClipboard>
@@ -31,41 +31,8 @@ namespace {
 
 constexpr quint16 StartPort = 41300;
 
-struct Window {
-    QTemporaryDir dir;
-    SettingsStore settings{dir.filePath(QStringLiteral("settings.ini"))};
-    ScriptedDesktop desktop;
-    Language language;
-    std::unique_ptr<FrmMain> window;
-
-    explicit Window(quint16 masterPort)
-    {
-        settings.save(u"MasterServer", QStringLiteral("127.0.0.1:%1").arg(masterPort));
-        settings.save(u"StartPort", QString::number(StartPort));
-        settings.save(u"AutoUpdate", QStringLiteral("0"));
-        window = std::make_unique<FrmMain>(settings, desktop, language, dir.path());
-        window->show();
-    }
-    template <typename T> T* find(const char* name) const { return window->findChild<T*>(QLatin1String(name)); }
-    QPushButton* button(const char* name) const { return find<QPushButton>(name); }
-    QString status() const { return find<QLabel>("lblStatus")->text(); }
-    // Clicks "Query Masters" and waits for "Done".
-    void queryMasters() const
-    {
-        QTest::mouseClick(button("cmdGet"), Qt::LeftButton);
-        QTRY_COMPARE_WITH_TIMEOUT(status(), QStringLiteral("Done"), 4000);
-    }
-    QRgb statusColour() const { return find<QLabel>("lblStatus")->palette().color(QPalette::WindowText).rgb(); }
-    QAbstractItemModel* visible(const char* list) const { return find<ReportView>(list)->model(); }
-    QString cell(const char* list, int row, int column) const
-    {
-        QAbstractItemModel* model = visible(list);
-        return model->data(model->index(row, column)).toString();
-    }
-};
-
 // Types a new variable filter into the filters editor, as a user would.
-void addFilter(const Window& w, const QString& variable, const QString& value)
+void addFilter(const TestWindow& w, const QString& variable, const QString& value)
 {
     auto* filters = w.window->findChild<FrmFilters*>(QStringLiteral("frmFilters"));
     filters->findChild<QPushButton*>(QStringLiteral("cmdNew"))->click();
@@ -77,16 +44,6 @@ void addFilter(const Window& w, const QString& variable, const QString& value)
     filters->editCell(row, 1);
     box->setText(value);
     QTest::keyClick(box, Qt::Key_Return);
-}
-
-FleetOptions fleetOf(int servers, quint16 masterPort)
-{
-    FleetOptions options;
-    options.servers = servers;
-    options.masterPort = masterPort;
-    options.firstServerPort = quint16(masterPort + 1);
-    options.seed = masterPort;
-    return options;
 }
 
 } // namespace
@@ -101,10 +58,10 @@ private slots:
         options.silentFraction = 0.1;
         SimFleet fleet(options);
         QVERIFY(!fleet.start());
-        Window w(24000);
+        TestWindow w(24000, StartPort);
         QTest::mouseClick(w.button("cmdGet"), Qt::LeftButton);
         QVERIFY(w.status().startsWith(QStringLiteral("Requesting Server List from\n127.0.0.1")));
-        QCOMPARE(w.statusColour(), FrmMain::Orange);
+        QCOMPARE(w.statusColour(), QColor(255, 128, 0));
         QVERIFY(!w.button("cmdGet")->isEnabled());
         QVERIFY(!w.button("cmdFav")->isEnabled());
         QVERIFY(!w.button("cmdOptions")->isEnabled());
@@ -113,7 +70,7 @@ private slots:
         QVERIFY(!w.find<QLabel>("lblAbout")->isVisible());
 
         QTRY_COMPARE_WITH_TIMEOUT(w.status(), QStringLiteral("Done"), 8000);
-        QCOMPARE(w.statusColour(), FrmMain::Green);
+        QCOMPARE(w.statusColour(), QColor(0, 128, 8));
         QVERIFY(w.button("cmdGet")->isEnabled());
         QVERIFY(!w.button("cmdCancel")->isVisible());
         QVERIFY(w.find<QLabel>("lblAbout")->isVisible());
@@ -143,10 +100,10 @@ private slots:
             QCOMPARE(w.cell("lstServerList", row, ServerListModel::Password), expected.passwordMark);
             QCOMPARE(w.cell("lstServerList", row, ServerListModel::GameName), expected.gameName);
         }
-        const PlayerListModel& hidden = w.window->playerList();
+        const PlayerListModel& hidden = w.window->lists().players();
         for (int row = 0; row < hidden.rowCount(); ++row) {
             const auto& entry = hidden.row(row);
-            const ServerRecord& server = w.window->serverList().record(entry.server);
+            const ServerRecord& server = w.window->lists().servers().record(entry.server);
             QCOMPARE(w.cell("lstPlayerList", row, PlayerListModel::Name),
                      ColourCodes::StripColourCodes(server.players.at(entry.player).name));
             QCOMPARE(w.cell("lstPlayerList", row, PlayerListModel::Mod), server.gameName);
@@ -160,15 +117,15 @@ private slots:
         options.delayMs = 80;
         SimFleet fleet(options);
         QVERIFY(!fleet.start());
-        Window w(24200);
-        w.settings.save(u"Speed", QStringLiteral("0"));
+        TestWindow w(24200, StartPort);
+        w.settings().save(u"Speed", QStringLiteral("0"));
         QTest::mouseClick(w.button("cmdGet"), Qt::LeftButton);
         QTRY_VERIFY_WITH_TIMEOUT(w.status().startsWith(QStringLiteral("Querying 60 Servers...")), 4000);
-        QCOMPARE(w.statusColour(), FrmMain::Yellow);
+        QCOMPARE(w.statusColour(), QColor(255, 255, 0));
         QTRY_VERIFY_WITH_TIMEOUT(w.find<QProgressBar>("prbProgress")->value() >= 4, 4000);
         QTest::mouseClick(w.button("cmdCancel"), Qt::LeftButton);
         QCOMPARE(w.status(), QStringLiteral("Cancelled"));
-        QCOMPARE(w.statusColour(), FrmMain::Red);
+        QCOMPARE(w.statusColour(), QColor(255, 0, 0));
         QVERIFY(w.button("cmdGet")->isEnabled());
         const int listed = w.visible("lstServerList")->rowCount();
         QVERIFY(listed > 0 && listed < 60);
@@ -183,7 +140,7 @@ private slots:
         SimFleet fleet(fleetOf(3, 24300));
         QVERIFY(!fleet.start());
         fleet.setMasterSilent(true);
-        Window w(24300);
+        TestWindow w(24300, StartPort);
         w.desktop.messageAnswers.enqueue(QMessageBox::Retry);
         w.desktop.messageAnswers.enqueue(QMessageBox::Cancel);
         QTest::mouseClick(w.button("cmdGet"), Qt::LeftButton);
@@ -194,7 +151,7 @@ private slots:
         QCOMPARE(box.text, QStringLiteral("Master Servers Timed Out"));
         QCOMPARE(fleet.masterRequests(), 2);
         QCOMPARE(w.status(), QStringLiteral("Master Servers Timed Out"));
-        QCOMPARE(w.statusColour(), FrmMain::Red);
+        QCOMPARE(w.statusColour(), QColor(255, 0, 0));
         QCOMPARE(w.find<QLabel>("lblServers")->text(), QStringLiteral("0 servers found"));
         QVERIFY(w.button("cmdGet")->isEnabled());
         QVERIFY(!w.button("cmdCancel")->isVisible());
@@ -204,24 +161,25 @@ private slots:
     {
         QUdpSocket squatter;
         QVERIFY(squatter.bind(QHostAddress::AnyIPv4, StartPort + 2));
-        Window w(24400);
+        TestWindow w(24400, StartPort);
         QTest::mouseClick(w.button("cmdGet"), Qt::LeftButton);
         QVERIFY(w.status().contains(QString::number(StartPort + 2)));
-        QCOMPARE(w.statusColour(), FrmMain::Red);
+        QCOMPARE(w.statusColour(), QColor(255, 0, 0));
         QVERIFY(w.button("cmdGet")->isEnabled());
-        QVERIFY(!w.window->session().isRunning());
+        QVERIFY(!w.window->queries().isRunning());
     }
 
     void favouritesAreQueriedFromTheDataFolder()
     {
         SimFleet fleet(fleetOf(4, 24500));
         QVERIFY(!fleet.start());
-        Window w(24500);
+        TestWindow w(24500, StartPort);
         QTest::mouseClick(w.button("cmdFav"), Qt::LeftButton);
-        QVERIFY2(!w.window->session().isRunning(), "no favourites file: nothing happens");
-        QCOMPARE(w.status(), QString());
+        QVERIFY2(!w.window->queries().isRunning(), "no favourites file: no query");
+        QVERIFY(w.status().startsWith(QStringLiteral("No favourites yet")));
+        QVERIFY(w.button("cmdFav")->isEnabled());
 
-        QFile file(w.dir.filePath(QStringLiteral("favourites.dat")));
+        QFile file(w.dataFile(QStringLiteral("favourites.dat")));
         QVERIFY(file.open(QIODevice::WriteOnly));
         file.write("127.0.0.1:24502\x01\x01One\r\n127.0.0.1:24504\x01pw\x01Two\r\n");
         file.close();
@@ -235,8 +193,8 @@ private slots:
     {
         SimFleet fleet(fleetOf(5, 24600));
         QVERIFY(!fleet.start());
-        Window w(24600);
-        w.queryMasters();
+        TestWindow w(24600, StartPort);
+        QVERIFY(w.queryMasters());
         const int playersBefore = w.visible("lstPlayerList")->rowCount();
 
         int row = 0;
@@ -261,7 +219,7 @@ private slots:
                  QStringLiteral("[C]"));
 
         // With refreshing off a click only selects.
-        w.settings.save(u"RefreshServers", QStringLiteral("0"));
+        w.settings().save(u"RefreshServers", QStringLiteral("0"));
         QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, cell.center());
         QTest::qWait(200);
         QCOMPARE(fleet.servers().at(target).requests, requests + 1);
@@ -270,8 +228,8 @@ private slots:
     {
         SimFleet fleet(fleetOf(40, 24700));
         QVERIFY(!fleet.start());
-        Window w(24700);
-        w.queryMasters();
+        TestWindow w(24700, StartPort);
+        QVERIFY(w.queryMasters());
         QCOMPARE(w.visible("lstServerList")->rowCount(), 40);
 
         const QByteArray map = fleet.servers().at(0).rules.at(1).second;
@@ -293,7 +251,7 @@ private slots:
         QCOMPARE(w.find<QLabel>("lblServers")->text(), QStringLiteral("%1 servers found").arg(servers));
         for (int row = 0; row < servers; ++row)
             QCOMPARE(w.cell("lstServerList", row, ServerListModel::Map), QString::fromLatin1(map));
-        QFile saved(w.dir.filePath(QStringLiteral("filters.dat")));
+        QFile saved(w.dataFile(QStringLiteral("filters.dat")));
         QVERIFY(saved.open(QIODevice::ReadOnly));
         QCOMPARE(saved.readAll(), QByteArray("si_map\x01") + map.toUpper() + "\r\n");
 
@@ -308,22 +266,22 @@ private slots:
         QCOMPARE(w.visible("lstServerList")->rowCount(), busy);
 
         // New answers pass through the same test as they arrive.
-        w.queryMasters();
+        QVERIFY(w.queryMasters());
         QCOMPARE(w.visible("lstServerList")->rowCount(), busy);
-        QCOMPARE(w.window->serverList().rowCount(), 40);
+        QCOMPARE(w.window->lists().servers().rowCount(), 40);
     }
 
     void columnClicksFlipSortAndPersist()
     {
         SimFleet fleet(fleetOf(30, 24900));
         QVERIFY(!fleet.start());
-        Window w(24900);
+        TestWindow w(24900, StartPort);
         QHeaderView* header = w.find<ReportView>("lstServerList")->header();
         emit header->sectionClicked(ServerListModel::Ping);
-        QVERIFY2(!w.settings.contains(u"SSortOrder"), "an empty list ignores the click");
+        QVERIFY2(!w.settings().contains(u"SSortOrder"), "an empty list ignores the click");
         QCOMPARE(w.window->serverSort(), (ColumnLayout::SortState{0, 1}));
 
-        w.queryMasters();
+        QVERIFY(w.queryMasters());
         const auto numbers = [&w](int column) {
             QList<int> values;
             for (int row = 0; row < w.visible("lstServerList")->rowCount(); ++row)
@@ -333,21 +291,21 @@ private slots:
         emit header->sectionClicked(ServerListModel::Players);
         QList<int> players = numbers(ServerListModel::Players);
         QVERIFY(std::is_sorted(players.begin(), players.end()));
-        QCOMPARE(w.settings.get(u"SSortOrder"), QStringLiteral("0"));
-        QCOMPARE(w.settings.get(u"SSortKey"), QStringLiteral("2"));
+        QCOMPARE(w.settings().get(u"SSortOrder"), QStringLiteral("0"));
+        QCOMPARE(w.settings().get(u"SSortKey"), QStringLiteral("2"));
         // Another column: the direction still flips, so it sorts descending.
         emit header->sectionClicked(ServerListModel::Map);
         QStringList maps;
         for (int row = 0; row < 30; ++row)
             maps.append(w.cell("lstServerList", row, ServerListModel::Map));
         QVERIFY(std::is_sorted(maps.rbegin(), maps.rend()));
-        QCOMPARE(w.settings.get(u"SSortOrder"), QStringLiteral("1"));
+        QCOMPARE(w.settings().get(u"SSortOrder"), QStringLiteral("1"));
         emit header->sectionClicked(ServerListModel::Players);
         players = numbers(ServerListModel::Players);
         QVERIFY(std::is_sorted(players.begin(), players.end()));
 
         // The next query's rows come unsorted and are sorted when it ends.
-        w.queryMasters();
+        QVERIFY(w.queryMasters());
         players = numbers(ServerListModel::Players);
         QVERIFY(std::is_sorted(players.begin(), players.end()));
         QCOMPARE(players.size(), 30);
@@ -357,63 +315,72 @@ private slots:
     {
         SimFleet fleet(fleetOf(20, 25100));
         QVERIFY(!fleet.start());
-        Window w(25100);
-        w.settings.save(u"RefreshServers", QStringLiteral("0"));
-        w.queryMasters();
-        auto* find = w.find<QComboBox>("cmbFind");
+        TestWindow w(25100, StartPort);
+        w.settings().save(u"RefreshServers", QStringLiteral("0"));
+        QVERIFY(w.queryMasters());
+        auto* find = w.find<HistoryComboBox>("cmbFind");
         auto* list = w.find<ReportView>("lstServerList");
         const QColor normal = find->palette().color(QPalette::Base);
 
-        QTest::keyClicks(find->lineEdit(), QStringLiteral("#1"));
+        w.type(find, QStringLiteral("#1"));
         // Typing searches from the top: "#1" is in "... #1", "... #10" and up.
         QVERIFY(list->currentIndex().isValid());
         QVERIFY(list->currentIndex().data().toString().contains(QStringLiteral("#1")));
         const int first = list->currentIndex().row();
         QVERIFY(w.find<MulticolorLabel>("mclSName")->caption().contains(QStringLiteral("#1")));
         // Find next moves on, and wraps round to the first again.
-        QSet<int> seen{first};
-        for (int i = 0; i < 12; ++i) {
-            QTest::mouseClick(w.button("cmdFind"), Qt::LeftButton);
+        // The first Find moves on from the match typing selected; Enter in
+        // the box is the same as Find.
+        QTest::mouseClick(w.button("cmdFind"), Qt::LeftButton);
+        QVERIFY(list->currentIndex().row() != first);
+        QSet<int> seen{first, list->currentIndex().row()};
+        for (int i = 0; i < 11; ++i) {
+            QTest::keyClick(w.focus(find), Qt::Key_Return);
             seen.insert(list->currentIndex().row());
         }
         QCOMPARE(seen.size(), 11); // #1 and #10 to #19
-        QCOMPARE(find->count(), 1);
+        QCOMPARE(find->entries(), QStringList{"#1"});
 
-        find->lineEdit()->clear();
-        QTest::keyClicks(find->lineEdit(), QStringLiteral("no such server"));
+        const auto clearBox = [&] {
+            QTest::keyClick(w.focus(find), Qt::Key_A, Qt::ControlModifier);
+            QTest::keyClick(QApplication::focusWidget(), Qt::Key_Backspace);
+        };
+        clearBox();
+        w.type(find, QStringLiteral("no such server"));
         QCOMPARE(find->palette().color(QPalette::Base), QColor(255, 102, 102));
         QCOMPARE(w.status(), QStringLiteral("Text Not Found"));
-        QCOMPARE(w.statusColour(), FrmMain::Red);
+        QCOMPARE(w.statusColour(), QColor(255, 0, 0));
         QVERIFY(!list->currentIndex().isValid());
         QCOMPARE(w.find<MulticolorLabel>("mclSName")->caption(), QString());
 
-        find->lineEdit()->setText(QStringLiteral("#5"));
+        // Typed over the selected text: the box is never empty on the way.
+        QTest::keyClick(w.focus(find), Qt::Key_A, Qt::ControlModifier);
+        w.type(find, QStringLiteral("#5"));
         QCOMPARE(find->palette().color(QPalette::Base), normal);
         QCOMPARE(w.status(), QStringLiteral("Text Not Found")); // only an empty search clears it
-        find->lineEdit()->clear();
+        clearBox();
         QCOMPARE(w.status(), QString());
         QVERIFY(list->selectionModel()->selectedRows().isEmpty());
 
         // An empty box: cmdFind remembers the empty text once.
         QTest::mouseClick(w.button("cmdFind"), Qt::LeftButton);
         QTest::mouseClick(w.button("cmdFind"), Qt::LeftButton);
-        QCOMPARE(find->count(), 2);
-        QCOMPARE(find->itemText(1), QString());
+        QCOMPARE(find->entries(), (QStringList{"#1", ""}));
     }
 
     void playerViewCopiesAndSelectsTheServer()
     {
         SimFleet fleet(fleetOf(12, 25200));
         QVERIFY(!fleet.start());
-        Window w(25200);
-        w.settings.save(u"RefreshServers", QStringLiteral("0"));
-        w.queryMasters();
+        TestWindow w(25200, StartPort);
+        w.settings().save(u"RefreshServers", QStringLiteral("0"));
+        QVERIFY(w.queryMasters());
         w.find<QTabBar>("tabSelect")->setCurrentIndex(FrmMain::PlayersTab);
         auto* players = w.find<ReportView>("lstPlayerList");
         QVERIFY(players->isVisible());
         players->setCurrentIndex(players->model()->index(3, 0));
-        const auto& row = w.window->playerList().row(3);
-        const ServerRecord& server = w.window->serverList().record(row.server);
+        const auto& row = w.window->lists().players().row(3);
+        const ServerRecord& server = w.window->lists().servers().record(row.server);
         QCOMPARE(w.find<MulticolorLabel>("mclPName")->caption(),
                  ColourCodes::ShowPlayerName(server.players.at(row.player).name).text);
         QTest::keyClick(players, Qt::Key_C, Qt::ControlModifier);
@@ -438,8 +405,8 @@ private slots:
     {
         SimFleet fleet(fleetOf(3, 25300));
         QVERIFY(!fleet.start());
-        Window w(25300);
-        w.queryMasters();
+        TestWindow w(25300, StartPort);
+        QVERIFY(w.queryMasters());
         const int requests = fleet.infoRequests();
         auto* list = w.find<ReportView>("lstServerList");
         const QPoint cell = list->visualRect(list->model()->index(1, 0)).center();
@@ -453,19 +420,19 @@ private slots:
         QTest::qWait(100);
         QCOMPARE(fleet.infoRequests(), requests);
         // The press saved the column orders.
-        QVERIFY(w.settings.contains(u"SColumnOrder0"));
+        QVERIFY(w.settings().contains(u"SColumnOrder0"));
     }
 
     void clickedNamesAreDrawnInColour()
     {
         SimFleet fleet(fleetOf(3, 24800));
         QVERIFY(!fleet.start());
-        Window w(24800);
-        w.settings.save(u"RefreshServers", QStringLiteral("0"));
-        w.queryMasters();
+        TestWindow w(24800, StartPort);
+        w.settings().save(u"RefreshServers", QStringLiteral("0"));
+        QVERIFY(w.queryMasters());
         auto* list = w.find<ReportView>("lstServerList");
         QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, list->visualRect(list->model()->index(0, 0)).center());
-        const ServerRecord& server = w.window->serverList().record(w.window->serverList().store().indexOf(
+        const ServerRecord& server = w.window->lists().servers().record(w.window->lists().servers().store().indexOf(
             QStringLiteral("127.0.0.1"),
             w.cell("lstServerList", 0, ServerListModel::Address).section(QLatin1Char(':'), 1).toInt()));
         auto* serverName = w.find<MulticolorLabel>("mclSName");

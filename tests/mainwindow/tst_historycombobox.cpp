@@ -9,11 +9,19 @@ namespace {
 void pressDel(HistoryComboBox& box)
 {
     QKeyEvent press(QEvent::KeyPress, 0, Qt::NoModifier, QString(QChar(127)));
-    QCoreApplication::sendEvent(box.lineEdit(), &press);
+    QCoreApplication::sendEvent(&box, &press);
+}
+
+void clear(HistoryComboBox& box)
+{
+    QTest::keyClick(&box, Qt::Key_A, Qt::ControlModifier);
+    QTest::keyClick(&box, Qt::Key_Backspace);
 }
 
 } // namespace
 
+// Keys go to the box, as they do when it has the focus: its line edit's
+// focus proxy is the box.
 class TestHistoryComboBox final : public QObject {
     Q_OBJECT
 
@@ -24,19 +32,19 @@ private slots:
         QSignalSpy enter(&box, &HistoryComboBox::enterPressed);
         connect(&box, &HistoryComboBox::enterPressed, &box, [&box] { box.remember(box.currentText()); });
         box.show();
-        QTest::keyClicks(box.lineEdit(), QStringLiteral("Abc"));
-        QTest::keyClick(box.lineEdit(), Qt::Key_Return);
-        QTest::keyClick(box.lineEdit(), Qt::Key_Enter);
-        box.lineEdit()->clear();
-        QTest::keyClicks(box.lineEdit(), QStringLiteral("abc"));
-        QTest::keyClick(box.lineEdit(), Qt::Key_Return);
+        QTest::keyClicks(&box, QStringLiteral("Abc"));
+        QTest::keyClick(&box, Qt::Key_Return);
+        QTest::keyClick(&box, Qt::Key_Enter);
+        clear(box);
+        QTest::keyClicks(&box, QStringLiteral("abc"));
+        QTest::keyClick(&box, Qt::Key_Return);
         QCOMPARE(enter.count(), 3);
         QCOMPARE(box.entries(), (QStringList{"Abc", "abc"}));
         QCOMPARE(box.currentText(), QStringLiteral("abc"));
         // An empty text is a real entry too.
-        box.lineEdit()->clear();
-        QTest::keyClick(box.lineEdit(), Qt::Key_Return);
-        QTest::keyClick(box.lineEdit(), Qt::Key_Return);
+        clear(box);
+        QTest::keyClick(&box, Qt::Key_Return);
+        QTest::keyClick(&box, Qt::Key_Return);
         QCOMPARE(box.entries(), (QStringList{"Abc", "abc", ""}));
     }
 
@@ -63,7 +71,6 @@ private slots:
         HistoryComboBox box;
         box.setEntries({"one", "two", "three"});
         box.show();
-        box.lineEdit()->setFocus();
         QTest::keyClick(&box, Qt::Key_Down); // picks "one"
         QTest::keyClick(&box, Qt::Key_Down); // picks "two"
         QCOMPARE(box.pickedIndex(), 1);
@@ -71,10 +78,29 @@ private slots:
         if (key == 127)
             pressDel(box);
         else
-            QTest::keyClick(box.lineEdit(), Qt::Key(key));
+            QTest::keyClick(&box, Qt::Key(key));
         QCOMPARE(box.entries(), (QStringList{"one", "three"}));
         QCOMPARE(box.pickedIndex(), -1);
         QVERIFY(box.currentText().startsWith(QStringLiteral("tw")));
+    }
+
+    // Qt's own Enter would pick the matching entry and report it chosen.
+    void enterOnARememberedTextIsNotAPick()
+    {
+        HistoryComboBox box;
+        box.setEntries({"one", "two"});
+        QSignalSpy activated(&box, &QComboBox::activated);
+        QSignalSpy edited(&box, &QComboBox::editTextChanged);
+        box.show();
+        QTest::keyClicks(&box, QStringLiteral("two"));
+        const int edits = edited.count();
+        QTest::keyClick(&box, Qt::Key_Return);
+        QCOMPARE(activated.count(), 0);
+        QCOMPARE(box.pickedIndex(), -1);
+        // Remembering does not touch the text either.
+        box.remember(QStringLiteral("three"));
+        QCOMPARE(edited.count(), edits);
+        QCOMPARE(box.currentText(), QStringLiteral("two"));
     }
 
     void editingAfterPickingProtectsTheEntries()
@@ -82,12 +108,11 @@ private slots:
         HistoryComboBox box;
         box.setEntries({"one", "two"});
         box.show();
-        box.lineEdit()->setFocus();
         QTest::keyClick(&box, Qt::Key_Down);
-        QTest::keyClicks(box.lineEdit(), QStringLiteral("x"));
-        QTest::keyClick(box.lineEdit(), Qt::Key_Backspace);
-        QTest::keyClick(box.lineEdit(), Qt::Key_Backspace);
-        QTest::keyClick(box.lineEdit(), Qt::Key_Delete);
+        QTest::keyClicks(&box, QStringLiteral("x"));
+        QTest::keyClick(&box, Qt::Key_Backspace);
+        QTest::keyClick(&box, Qt::Key_Backspace);
+        QTest::keyClick(&box, Qt::Key_Delete);
         pressDel(box);
         QCOMPARE(box.entries(), (QStringList{"one", "two"}));
     }
@@ -97,8 +122,8 @@ private slots:
         HistoryComboBox box;
         box.setEntries({"abc"});
         box.show();
-        QTest::keyClicks(box.lineEdit(), QStringLiteral("abc"));
-        QTest::keyClick(box.lineEdit(), Qt::Key_Backspace);
+        QTest::keyClicks(&box, QStringLiteral("abc"));
+        QTest::keyClick(&box, Qt::Key_Backspace);
         QCOMPARE(box.entries(), (QStringList{"abc"}));
         QCOMPARE(box.currentText(), QStringLiteral("ab"));
     }

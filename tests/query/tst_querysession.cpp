@@ -1,6 +1,6 @@
+#include "fleet.h"
 #include "masterprotocol.h"
 #include "querysession.h"
-#include "simfleet.h"
 
 #include <QElapsedTimer>
 #include <QSignalSpy>
@@ -10,16 +10,6 @@
 namespace {
 
 constexpr quint16 PoolPort = 41200;
-
-FleetOptions fleetOf(int servers, quint16 masterPort)
-{
-    FleetOptions options;
-    options.servers = servers;
-    options.masterPort = masterPort;
-    options.firstServerPort = quint16(masterPort + 1);
-    options.seed = masterPort;
-    return options;
-}
 
 MasterAddress masterAt(quint16 port)
 {
@@ -39,7 +29,7 @@ private slots:
         SimFleet fleet(fleetOf(300, 23000)); // two master datagrams
         QVERIFY(!fleet.start());
         QuerySession session;
-        session.setPool(19, PoolPort);
+        session.setPool({19, PoolPort});
         QSignalSpy phases(&session, &QuerySession::phaseChanged);
         QSignalSpy answered(&session, &QuerySession::serverAnswered);
         QSignalSpy finished(&session, &QuerySession::finished);
@@ -67,7 +57,7 @@ private slots:
         QVERIFY(!fleet.start());
         fleet.setMasterSilent(true);
         QuerySession session;
-        session.setPool(1, PoolPort);
+        session.setPool({1, PoolPort});
         QSignalSpy timedOut(&session, &QuerySession::masterTimedOut);
         QSignalSpy finished(&session, &QuerySession::finished);
         QElapsedTimer clock;
@@ -93,7 +83,7 @@ private slots:
         full.append(231 * 6, '\x01');
         fleet.setMasterDatagrams({full});
         QuerySession session;
-        session.setPool(1, PoolPort);
+        session.setPool({1, PoolPort});
         QSignalSpy timedOut(&session, &QuerySession::masterTimedOut);
         QSignalSpy phases(&session, &QuerySession::phaseChanged);
         QVERIFY(!session.startMaster(masterAt(23500)));
@@ -111,7 +101,7 @@ private slots:
             listed.append({0x7F000001u, quint16(20000 + i % 1000)});
         fleet.setMasterDatagrams(SimReplies::serverList(listed));
         QuerySession session;
-        session.setPool(1, PoolPort);
+        session.setPool({1, PoolPort});
         QSignalSpy failed(&session, &QuerySession::failed);
         QVERIFY(!session.startMaster(masterAt(23600)));
         QTRY_COMPARE_WITH_TIMEOUT(failed.count(), 1, 4000);
@@ -124,7 +114,7 @@ private slots:
         QUdpSocket squatter;
         QVERIFY(squatter.bind(QHostAddress::AnyIPv4, PoolPort + 1 + QuerySpeed::MasterPortOffset));
         QuerySession session;
-        session.setPool(1, PoolPort);
+        session.setPool({1, PoolPort});
         const auto error = session.startMaster(masterAt(23700));
         QVERIFY(error);
         QCOMPARE(error->kind, QueryError::Kind::PortUnavailable);
@@ -136,7 +126,7 @@ private slots:
     void unknownMasterHostFailsClearly()
     {
         QuerySession session;
-        session.setPool(1, PoolPort);
+        session.setPool({1, PoolPort});
         QSignalSpy failed(&session, &QuerySession::failed);
         QSignalSpy timedOut(&session, &QuerySession::masterTimedOut);
         QVERIFY(!session.startMaster(MasterAddress{QStringLiteral("no-such-host.invalid"), 27650}));
@@ -151,7 +141,7 @@ private slots:
         // The master lists a server that is not the fleet's; a rogue then
         // sends the master's reply from another port.
         QuerySession session;
-        session.setPool(1, PoolPort);
+        session.setPool({1, PoolPort});
         fleet.setMasterSilent(true);
         QSignalSpy timedOut(&session, &QuerySession::masterTimedOut);
         QVERIFY(!session.startMaster(masterAt(23800)));
@@ -172,7 +162,7 @@ private slots:
         table.add(QStringLiteral("localhost"), 23901, QStringLiteral("by name"));
         table.add(QStringLiteral("127.0.0.1"), 23902);
         QuerySession session;
-        session.setPool(1, PoolPort);
+        session.setPool({1, PoolPort});
         QSignalSpy answered(&session, &QuerySession::serverAnswered);
         QSignalSpy finished(&session, &QuerySession::finished);
         QVERIFY(!session.startAddresses(table));

@@ -1,6 +1,8 @@
 #include "queryreport.h"
 #include "simfleet.h"
 
+#include <QElapsedTimer>
+#include <QFile>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
@@ -116,6 +118,20 @@ private slots:
                                    m_home.path());
         QCOMPARE(silent.exitCode, 1);
         QVERIFY(silent.err.contains("Timed Out"));
+
+        // Favourites with no server: nothing to wait for, a clear word at once.
+        const QString empty = m_home.filePath(QStringLiteral("empty.dat"));
+        QFile file(empty);
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        file.close();
+        QElapsedTimer clock;
+        clock.start();
+        const Run none = runTool({QStringLiteral("--favourites"), empty, QStringLiteral("--start-port"),
+                                  QString::number(StartPort)},
+                                 m_home.path());
+        QCOMPARE(none.exitCode, 4);
+        QVERIFY(none.err.contains("no favourites in"));
+        QVERIFY(clock.elapsed() < 5000);
     }
 };
 

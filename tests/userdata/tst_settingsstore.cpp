@@ -2,6 +2,7 @@
 #include "settingsstore.h"
 
 #include <QFile>
+#include <QSignalSpy>
 #include <QTemporaryDir>
 #include <QTest>
 
@@ -12,26 +13,21 @@ class TestSettingsStore final : public QObject {
     QString path(const char* name) const { return m_dir.filePath(QString::fromLatin1(name)); }
 
 private slots:
-    void firstStartGivesTheDocumentedDefaults()
+    void typedReadsFollowTheirRules()
     {
-        const SettingsStore store(path("empty.ini"));
-        using namespace Keys;
-        QCOMPARE(store.getNumber(Tab, Defaults::Tab), 1);
-        QCOMPARE(store.getNumber(Language, Defaults::Language), 0);
-        QCOMPARE(store.getNumber(Speed, Defaults::Speed), 5);
-        QCOMPARE(store.getNumber(StartPort, Defaults::StartPort), 9000);
-        QVERIFY(store.getFlag(CloseAfterJoin, Defaults::CloseAfterJoin));
-        QVERIFY(store.getFlag(AutoUpdate, Defaults::AutoUpdate));
-        QVERIFY(store.getFlag(RefreshServers, Defaults::RefreshServers));
-        QVERIFY(store.getFlag(IncludeEmpty, Defaults::IncludeFilterFlag));
-        QVERIFY(store.getFlag(IncludeFull, Defaults::IncludeFilterFlag));
-        QVERIFY(store.getFlag(IncludePassworded, Defaults::IncludeFilterFlag));
-        QVERIFY(!store.getFlag(Proxy, Defaults::Proxy));
-        QVERIFY(!store.getTruth(Maximized, false));
-        QCOMPARE(store.get(PlayerName), QString());
-        QCOMPARE(store.getEntries(FindBox), QStringList());
-        QVERIFY(!store.contains(PlayerName));
+        SettingsStore store(path("typed.ini"));
+        QVERIFY(store.value(Keys::CloseAfterJoin));
         QVERIFY2(!QFile::exists(store.filePath()), "reading must not create the file");
+        store.save(Keys::CloseAfterJoin.key, QStringLiteral("yes")); // only "1" is on
+        QVERIFY(!store.value(Keys::CloseAfterJoin));
+        store.save(Keys::Maximized.key, QStringLiteral("junk"));
+        QVERIFY(!store.value(Keys::Maximized));
+        store.save(Keys::Speed.key, QStringLiteral("3fast"));
+        QCOMPARE(store.value(Keys::Speed), 3);
+        // Keys whose default is what the window shows take it from the caller.
+        QCOMPARE(store.value(Keys::WindowWidth, 640), 640);
+        store.save(Keys::FindBox.key, QStringLiteral("a\u0001\u0001b"));
+        QCOMPARE(store.value(Keys::FindBox), (QStringList{"a", ""}));
     }
 
     void oddValuesRoundTripExactly_data()
@@ -52,23 +48,26 @@ private slots:
     {
         QFETCH(QString, value);
         SettingsStore writer(path("odd.ini"));
-        QVERIFY(writer.save(Keys::PlayerName, value));
+        QVERIFY(writer.save(Keys::PlayerName.key, value));
         const SettingsStore reader(path("odd.ini"));
-        QVERIFY(reader.contains(Keys::PlayerName));
-        QCOMPARE(reader.get(Keys::PlayerName, QStringLiteral("default")), value);
+        QVERIFY(reader.contains(Keys::PlayerName.key));
+        QCOMPARE(reader.get(Keys::PlayerName.key, QStringLiteral("default")), value);
     }
 
     void writesAreSeenByEveryOtherStoreAtOnce()
     {
         SettingsStore first(path("shared.ini"));
         const SettingsStore second(path("shared.ini"));
-        first.saveNumber(Keys::Speed, 3);
-        QCOMPARE(second.getNumber(Keys::Speed, 5), 3);
-        first.saveTruth(Keys::Maximized, true);
-        QCOMPARE(second.get(Keys::Maximized), QStringLiteral("True"));
-        QVERIFY(second.getTruth(Keys::Maximized, false));
-        first.saveFlag(Keys::Proxy, true);
-        QCOMPARE(second.get(Keys::Proxy), QStringLiteral("1"));
+        QSignalSpy changed(&first, &SettingsStore::changed);
+        first.set(Keys::Speed, 3);
+        QCOMPARE(second.value(Keys::Speed), 3);
+        first.set(Keys::Maximized, true);
+        QCOMPARE(second.get(Keys::Maximized.key), QStringLiteral("True"));
+        QVERIFY(second.value(Keys::Maximized));
+        first.set(Keys::RefreshServers, false);
+        QCOMPARE(second.get(Keys::RefreshServers.key), QStringLiteral("0"));
+        QCOMPARE(changed.size(), 3);
+        QCOMPARE(changed.first().first().toString(), QStringLiteral("Speed"));
     }
 
     void batchWritesLandTogether()
@@ -77,25 +76,25 @@ private slots:
         const SettingsStore other(path("batch.ini"));
         {
             const SettingsStore::Batch batch(store);
-            store.saveNumber(Keys::Speed, 2);
+            store.saveNumber(Keys::Speed.key, 2);
             {
                 const SettingsStore::Batch inner(store);
-                store.save(Keys::PlayerName, QStringLiteral("a\x01"
-                                                            "b"));
+                store.save(Keys::PlayerName.key, QStringLiteral("a\x01"
+                                                                "b"));
             }
-            QCOMPARE(store.getNumber(Keys::Speed, 5), 2); // the batch reads its own writes
+            QCOMPARE(store.getNumber(Keys::Speed.key, 5), 2); // the batch reads its own writes
             QFile file(store.filePath());
             QVERIFY(!file.open(QIODevice::ReadOnly) || !file.readAll().contains("Speed")); // not on disk yet
         }
-        QCOMPARE(other.getNumber(Keys::Speed, 5), 2);
-        QCOMPARE(other.get(Keys::PlayerName), QStringLiteral("a\x01"
-                                                             "b"));
+        QCOMPARE(other.getNumber(Keys::Speed.key, 5), 2);
+        QCOMPARE(other.get(Keys::PlayerName.key), QStringLiteral("a\x01"
+                                                                 "b"));
     }
 
     void valuesLiveInTheSettingsGroup()
     {
         SettingsStore store(path("group.ini"));
-        store.save(Keys::Path, QStringLiteral("/opt/quake4/quake4"));
+        store.save(Keys::Path.key, QStringLiteral("/opt/quake4/quake4"));
         QFile file(store.filePath());
         QVERIFY(file.open(QIODevice::ReadOnly));
         const QByteArray text = file.readAll();
@@ -110,8 +109,8 @@ private slots:
         file.write("[Settings]\nPlayerName=a,b\nSpeed=12abc\nSColumnWidth0=wide\n");
         file.close();
         const SettingsStore store(file.fileName());
-        QCOMPARE(store.get(Keys::PlayerName), QStringLiteral("a,b"));
-        QCOMPARE(store.getNumber(Keys::Speed, 5), 12);
+        QCOMPARE(store.get(Keys::PlayerName.key), QStringLiteral("a,b"));
+        QCOMPARE(store.getNumber(Keys::Speed.key, 5), 12);
         QCOMPARE(store.getNumber(u"SColumnWidth0", 200), 0);
     }
 
@@ -125,8 +124,8 @@ private slots:
         file.write(noise);
         file.close();
         const SettingsStore store(file.fileName());
-        QCOMPARE(store.getNumber(Keys::Tab, 1), 1);
-        QCOMPARE(store.get(Keys::PlayerName, QStringLiteral("x")), QStringLiteral("x"));
+        QCOMPARE(store.getNumber(Keys::Tab.key, 1), 1);
+        QCOMPARE(store.get(Keys::PlayerName.key, QStringLiteral("x")), QStringLiteral("x"));
     }
 
     void unwritableLocationIsReported()
@@ -135,8 +134,8 @@ private slots:
         QVERIFY(blocker.open(QIODevice::WriteOnly));
         blocker.close();
         SettingsStore store(path("not-a-folder") + QStringLiteral("/settings.ini"));
-        QVERIFY(!store.save(Keys::PlayerName, QStringLiteral("x")));
-        QCOMPARE(store.get(Keys::PlayerName), QString());
+        QVERIFY(!store.save(Keys::PlayerName.key, QStringLiteral("x")));
+        QCOMPARE(store.get(Keys::PlayerName.key), QString());
     }
 };
 

@@ -13,12 +13,20 @@
 
 namespace {
 
-enum ExitCode { Finished = 0, MasterFailed = 1, UsageError = 2, PortUnavailable = 3 };
+enum ExitCode { Finished = 0, MasterFailed = 1, UsageError = 2, PortUnavailable = 3, NothingToQuery = 4 };
 
 int usage(const QString& message)
 {
     std::fprintf(stderr, "q4vantage-query: %s (see --help)\n", qPrintable(message));
     return UsageError;
+}
+
+// A favourites file with no servers: nothing was asked, so there is nothing
+// to wait for.
+int nothingToQuery(const QString& message)
+{
+    std::fprintf(stderr, "q4vantage-query: %s\n", qPrintable(message));
+    return NothingToQuery;
 }
 
 } // namespace
@@ -33,7 +41,7 @@ int main(int argc, char* argv[])
     parser.setApplicationDescription(
         QStringLiteral("Queries Quake 4 servers as the browser does, without a window.\n"
                        "Exit status: 0 finished, 1 master timed out or failed, 2 usage error, 3 a local port "
-                       "could not be bound."));
+                       "could not be bound, 4 the favourites hold no server."));
     parser.addHelpOption();
     parser.addVersionOption();
     const QCommandLineOption masterOption(QStringLiteral("master"),
@@ -69,15 +77,13 @@ int main(int argc, char* argv[])
         return usage(QStringLiteral("unknown format %1").arg(format));
 
     bool ok = true;
-    const int speed = parser.isSet(speedOption) ? parser.value(speedOption).toInt(&ok)
-                                                : settings.getNumber(Keys::Speed, Keys::Defaults::Speed);
+    const int speed = parser.isSet(speedOption) ? parser.value(speedOption).toInt(&ok) : settings.value(Keys::Speed);
     if (!ok || (parser.isSet(speedOption) && (speed < 0 || speed > 5)))
         return usage(QStringLiteral("speed must be 0 to 5"));
-    const int startPort = parser.isSet(startPortOption)
-                              ? parser.value(startPortOption).toInt(&ok)
-                              : settings.getNumber(Keys::StartPort, Keys::Defaults::StartPort);
-    const int lastSocketIndex = QuerySpeed::lastSocketIndex(speed, QuerySpeed::DefaultLastSocketIndex);
-    if (!ok || startPort < 1 || startPort + lastSocketIndex + QuerySpeed::MasterPortOffset > 65535)
+    const QuerySpeed::PortPlan plan{QuerySpeed::lastSocketIndex(speed, QuerySpeed::DefaultLastSocketIndex),
+                                    parser.isSet(startPortOption) ? parser.value(startPortOption).toInt(&ok)
+                                                                  : settings.value(Keys::StartPort)};
+    if (!ok || !plan.isValid())
         return usage(QStringLiteral("start port out of range"));
 
     AddressTable table;
@@ -87,6 +93,9 @@ int main(int argc, char* argv[])
         const auto favourites = Favourites::readFile(parser.value(favouritesOption));
         if (favourites)
             table = Favourites::toAddressTable(*favourites);
+        else if (!parser.isSet(serverOption))
+            return nothingToQuery(QStringLiteral("no favourites in %1 (missing, unreadable or shorter than 4 bytes)")
+                                      .arg(parser.value(favouritesOption)));
     }
     for (const QString& server : parser.values(serverOption)) {
         direct = true;
@@ -96,14 +105,16 @@ int main(int argc, char* argv[])
             return usage(QStringLiteral("--server wants HOST:PORT, not %1").arg(server));
         table.add(server.left(colon), port);
     }
+    if (direct && table.isEmpty())
+        return nothingToQuery(QStringLiteral("no servers to query in %1").arg(parser.value(favouritesOption)));
     const QString masterText =
-        parser.isSet(masterOption) ? parser.value(masterOption) : settings.get(Keys::MasterServer);
+        parser.isSet(masterOption) ? parser.value(masterOption) : settings.value(Keys::MasterServer);
     const auto master = parseMasterAddress(masterText);
     if (!direct && !master)
         return usage(QStringLiteral("not a master server address: %1").arg(masterText));
 
     QuerySession session;
-    session.setPool(lastSocketIndex, quint16(startPort));
+    session.setPool(plan);
     QList<ServerRecord> answers;
     int exitCode = Finished;
     QObject::connect(&session, &QuerySession::serverAnswered, &app,

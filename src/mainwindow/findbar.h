@@ -1,0 +1,52 @@
+#pragma once
+
+#include "statustone.h"
+
+#include <QObject>
+#include <QPalette>
+
+#include <functional>
+
+class HistoryComboBox;
+class QPushButton;
+class ReportView;
+
+// The find box and its button: finds a name in the list on show, as the
+// user types (from the top) and with Find or Enter (after the selected
+// row, wrapping round).
+class FindBar final : public QObject {
+    Q_OBJECT
+    Q_DISABLE_COPY_MOVE(FindBar)
+
+public:
+    // The list to search now, and the plain text of each of its rows.
+    struct Target {
+        ReportView* view = nullptr;
+        std::function<QString(int row)> textAt;
+    };
+    using TargetOf = std::function<Target()>;
+
+    FindBar(TargetOf target, QWidget* parent);
+
+    HistoryComboBox* box() const { return m_box; }
+    QPushButton* button() const { return m_button; }
+    void retranslate();
+
+signals:
+    // A row was found and made current.
+    void found(const QModelIndex& index);
+    // Nothing is selected any more (an empty box, or no match).
+    void selectionCleared();
+    void status(const QString& text, StatusTone tone);
+
+private:
+    void findNext();
+    void run();
+
+    TargetOf m_target;
+    HistoryComboBox* m_box = nullptr;
+    QPushButton* m_button = nullptr;
+    QPalette m_normalPalette;
+    // "1": the next search continues after the selected row.
+    QString m_marker = QStringLiteral("0");
+};

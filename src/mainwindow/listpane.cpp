@@ -1,0 +1,69 @@
+#include "listpane.h"
+
+#include "reportmodel.h"
+#include "reportview.h"
+#include "settingscodec.h"
+#include "settingsstore.h"
+#include "visiblelists.h"
+
+#include <QHeaderView>
+
+ListPane::ListPane(SettingsStore& settings, Keys::ListKeys keys, const ReportModel& model, VisibleList& list,
+                   const QString& objectName, QWidget* parent)
+    : QObject(parent)
+    , m_settings(settings)
+    , m_keys(keys)
+    , m_list(list)
+    , m_view(new ReportView(&list, model.designWidths(), parent))
+{
+    m_view->setObjectName(objectName);
+    connect(m_view, &QAbstractItemView::clicked, this, &ListPane::rowClicked);
+    connect(m_view, &ReportView::menuRequested, this, [this](const QModelIndex& index) {
+        if (index.isValid())
+            emit menuRequested(index);
+    });
+    connect(m_view, &ReportView::rowDoubleClicked, this, &ListPane::rowDoubleClicked);
+    connect(m_view->header(), &QHeaderView::sectionClicked, this, &ListPane::sortClicked);
+}
+
+void ListPane::restoreSort()
+{
+    m_sort = ColumnLayout::readSort(m_settings, m_keys.sort, ColumnLayout::SortState{});
+    m_sorted = m_settings.contains(SettingsCodec::sortKeyKey(m_keys.sort));
+}
+
+void ListPane::rebuild()
+{
+    m_list.refilter();
+    if (m_sorted)
+        applySort();
+}
+
+int ListPane::sourceRow(const QModelIndex& index) const
+{
+    return index.isValid() ? m_list.mapToSource(index).row() : -1;
+}
+
+int ListPane::selectedSourceRow() const
+{
+    const int row = m_view->selectedRow();
+    return row < 0 ? -1 : sourceRow(m_list.index(row, 0));
+}
+
+void ListPane::sortClicked(int column)
+{
+    // An empty list ignores the click: no flip, nothing saved.
+    if (m_list.rowCount() == 0)
+        return;
+    m_sort = m_sort.flippedTo(column);
+    m_sorted = true;
+    applySort();
+    ColumnLayout::saveSort(m_settings, m_keys.sort, m_sort);
+}
+
+void ListPane::applySort()
+{
+    m_list.sortBy(m_sort.key, m_sort.qtOrder());
+    m_view->header()->setSortIndicatorShown(true);
+    m_view->header()->setSortIndicator(m_sort.key, m_sort.qtOrder());
+}

@@ -1,0 +1,58 @@
+#pragma once
+
+#include "columnlayout.h"
+#include "settingskeys.h"
+
+#include <QObject>
+
+class ReportModel;
+class ReportView;
+class SettingsStore;
+class VisibleList;
+
+// One of the two big lists (servers, players): its view over the visible
+// list, and the sort the user chose by clicking a column. While a query
+// runs, rows are appended as they come; the list is sorted again only
+// when rebuilt.
+class ListPane final : public QObject {
+    Q_OBJECT
+    Q_DISABLE_COPY_MOVE(ListPane)
+
+public:
+    ListPane(SettingsStore& settings, Keys::ListKeys keys, const ReportModel& model, VisibleList& list,
+             const QString& objectName, QWidget* parent);
+
+    ReportView* view() const { return m_view; }
+    VisibleList& list() const { return m_list; }
+    Keys::ListKeys keys() const { return m_keys; }
+    ColumnLayout::SortState sort() const { return m_sort; }
+
+    // The sort of an earlier run only sets the state; it counts as the
+    // last column click, so the next rebuild sorts by it.
+    void restoreSort();
+    // Filters every row again and sorts by the last column click.
+    void rebuild();
+    // The row of the hidden list behind a visible index, or -1.
+    int sourceRow(const QModelIndex& index) const;
+    int selectedSourceRow() const;
+
+signals:
+    // A left click on a row.
+    void rowClicked(const QModelIndex& index);
+    // A right click on a row: its menu.
+    void menuRequested(const QModelIndex& index);
+    // A double click after a left press.
+    void rowDoubleClicked();
+
+private:
+    void sortClicked(int column);
+    void applySort();
+
+    SettingsStore& m_settings;
+    Keys::ListKeys m_keys;
+    VisibleList& m_list;
+    ReportView* m_view = nullptr;
+    // Design time: first column, descending, so a first click sorts ascending.
+    ColumnLayout::SortState m_sort;
+    bool m_sorted = false;
+};

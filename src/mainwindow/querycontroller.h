@@ -1,0 +1,68 @@
+#pragma once
+
+#include "querysession.h"
+#include "records.h"
+#include "statustone.h"
+
+#include <QObject>
+#include <QTimer>
+
+class SettingsStore;
+
+// Runs the queries of the window: the master query, the favourites query
+// and the refresh of one selected server. It reads the speed, start port
+// and master from the settings at each start, batches the answers (the
+// lists take rows in batches, not one per datagram) and says in signals
+// what the window shows.
+class QueryController final : public QObject {
+    Q_OBJECT
+    Q_DISABLE_COPY_MOVE(QueryController)
+
+public:
+    QueryController(SettingsStore& settings, QString favouritesPath, QObject* parent = nullptr);
+
+    const QuerySession& session() const { return m_session; }
+    bool isRunning() const { return m_session.isRunning(); }
+
+    void startMasterQuery();
+    void startFavouritesQuery();
+    // Queries one listed server again, when no query runs and the user
+    // wants selected servers refreshed.
+    void refresh(const ServerRecord& server);
+    // Ends a running query now: "Cancelled".
+    void cancel();
+
+signals:
+    void busyChanged(bool busy);
+    void status(const QString& text, StatusTone tone);
+    void progress(int value, int maximum);
+    // A new query starts: everything listed goes.
+    void started();
+    // The master phase is over; count servers are about to be asked.
+    void querying(int count);
+    void answers(const QList<ServerRecord>& batch);
+    // A listed server answered again.
+    void refreshed(const ServerRecord& server);
+    // The query ended with every answer delivered: time to sort.
+    void ended();
+    // After the status line says so; the window offers Retry.
+    void masterTimedOut();
+
+private:
+    bool preparePool();
+    bool begin();
+    void showPhase(QuerySession::Phase phase);
+    void queue(const ServerRecord& server, bool refresh);
+    void flush();
+    void stop(const QString& text, StatusTone tone);
+    void fail(const QueryError& error);
+
+    SettingsStore& m_settings;
+    QString m_favouritesPath;
+    QuerySession m_session;
+    QString m_masterHost;
+    // A speed outside the table keeps the pool of the last query.
+    int m_lastSocketIndex = QuerySpeed::DefaultLastSocketIndex;
+    QList<ServerRecord> m_pending;
+    QTimer m_flushTimer;
+};

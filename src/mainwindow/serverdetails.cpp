@@ -1,0 +1,88 @@
+#include "serverdetails.h"
+
+#include "copycommands.h"
+#include "records.h"
+#include "reportview.h"
+#include "serverpanes.h"
+#include "settingsstore.h"
+
+#include <QHeaderView>
+#include <QMenu>
+#include <QSplitter>
+
+ServerDetails::ServerDetails(SettingsStore& settings, QWidget* parent)
+    : QObject(parent)
+    , m_settings(settings)
+    , m_splitter(new QSplitter(Qt::Horizontal, parent))
+    , m_playersModel(new ServerPlayersModel(this))
+    , m_rulesModel(new ServerRulesModel(this))
+{
+    m_splitter->setObjectName(QStringLiteral("rzrSPSI"));
+    m_splitter->setChildrenCollapsible(false);
+    m_players = new ReportView(m_playersModel, m_playersModel->designWidths(), m_splitter);
+    m_players->setObjectName(QStringLiteral("lvwPlayers"));
+    m_rules = new ReportView(m_rulesModel, m_rulesModel->designWidths(), m_splitter);
+    m_rules->setObjectName(QStringLiteral("lvwServerInfo"));
+    m_splitter->addWidget(m_players);
+    m_splitter->addWidget(m_rules);
+    // The stored size is that of the first pane; it keeps it when the
+    // window grows or shrinks.
+    m_splitter->setStretchFactor(0, 0);
+    m_splitter->setStretchFactor(1, 1);
+
+    m_playersPane.view = m_players;
+    m_playersPane.keys = Keys::ServerPlayers;
+    m_rulesPane.view = m_rules;
+    m_rulesPane.keys = Keys::ServerRules;
+    setUp(m_playersPane, QStringLiteral("mPopupAltPlayers"), QStringLiteral("P"));
+    setUp(m_rulesPane, QStringLiteral("mPopupAltServerInfo"), QStringLiteral("SI"));
+    retranslate();
+}
+
+void ServerDetails::setUp(Pane& pane, const QString& menuName, const QString& suffix)
+{
+    pane.menu = new QMenu(m_splitter);
+    pane.menu->setObjectName(menuName);
+    const ReportView* view = pane.view;
+    const QStringView prefix = pane.keys.columns;
+    pane.copy = new CopyCommands(
+        *pane.menu, m_settings,
+        [view, prefix] {
+            return CopyCommands::Target{view, prefix};
+        },
+        CopyText::LineSeparator, suffix);
+    connect(pane.view, &ReportView::menuRequested, this, [&pane](const QModelIndex& index, const QPoint& at) {
+        if (index.isValid())
+            pane.menu->popup(at);
+    });
+    connect(pane.view->header(), &QHeaderView::sectionClicked, this,
+            [this, &pane](int column) { sortClicked(pane, column); });
+}
+
+void ServerDetails::show(const ServerRecord* server)
+{
+    m_playersModel->setPlayers(server ? server->players : QList<PlayerRecord>{});
+    m_rulesModel->setTokens(server ? server->tokens : QStringList{});
+}
+
+void ServerDetails::retranslate()
+{
+    m_players->setAccessibleName(tr("Players of the selected server"));
+    m_rules->setAccessibleName(tr("Rules of the selected server"));
+    m_playersModel->retranslate();
+    m_rulesModel->retranslate();
+    m_playersPane.copy->retranslate();
+    m_rulesPane.copy->retranslate();
+}
+
+void ServerDetails::sortClicked(Pane& pane, int column)
+{
+    QAbstractItemModel* model = pane.view->model();
+    if (model->rowCount() == 0)
+        return;
+    pane.sort = pane.sort.flippedTo(column);
+    model->sort(column, pane.sort.qtOrder());
+    pane.view->header()->setSortIndicatorShown(true);
+    pane.view->header()->setSortIndicator(column, pane.sort.qtOrder());
+    ColumnLayout::saveSort(m_settings, pane.keys.sort, pane.sort);
+}

@@ -1,0 +1,53 @@
+#pragma once
+
+#include "columnlayout.h"
+#include "settingskeys.h"
+
+#include <QObject>
+
+class CopyCommands;
+class QMenu;
+class QSplitter;
+class ReportView;
+class ServerPlayersModel;
+class ServerRulesModel;
+class SettingsStore;
+struct ServerRecord;
+
+// The panes of the selected server: its players and its rules, side by
+// side, each sorted by a column click and with its own copy menu.
+class ServerDetails final : public QObject {
+    Q_OBJECT
+    Q_DISABLE_COPY_MOVE(ServerDetails)
+
+public:
+    ServerDetails(SettingsStore& settings, QWidget* parent);
+
+    QSplitter* splitter() const { return m_splitter; }
+    ReportView* players() const { return m_players; }
+    ReportView* rules() const { return m_rules; }
+
+    // Shows the server's players and rules; nothing for none.
+    void show(const ServerRecord* server);
+    void retranslate();
+
+private:
+    struct Pane {
+        ReportView* view = nullptr;
+        Keys::ListKeys keys;
+        ColumnLayout::SortState sort;
+        QMenu* menu = nullptr;
+        CopyCommands* copy = nullptr;
+    };
+    void setUp(Pane& pane, const QString& menuName, const QString& suffix);
+    void sortClicked(Pane& pane, int column);
+
+    SettingsStore& m_settings;
+    QSplitter* m_splitter = nullptr;
+    ServerPlayersModel* m_playersModel = nullptr;
+    ServerRulesModel* m_rulesModel = nullptr;
+    ReportView* m_players = nullptr;
+    ReportView* m_rules = nullptr;
+    Pane m_playersPane;
+    Pane m_rulesPane;
+};

@@ -1,0 +1,111 @@
+#pragma once
+
+#include "frmmain.h"
+#include "language.h"
+#include "reportview.h"
+#include "scripteddesktop.h"
+#include "settingsstore.h"
+#include "statusline.h"
+
+#include <QApplication>
+#include <QHeaderView>
+#include <QLabel>
+#include <QPushButton>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include <functional>
+#include <memory>
+#include <optional>
+
+// The main window as a test drives it: its own settings and data folder
+// (or settings shared between runs, for restarts), a scripted desktop,
+// and the controls found by their names.
+class TestWindow {
+public:
+    // Settings that outlive the window: a second run reads what the
+    // first one wrote.
+    explicit TestWindow(SettingsStore& settings, const QString& dataFolder = {})
+        : m_settings(settings)
+        , window(std::make_unique<FrmMain>(settings, desktop, language, dataFolder))
+    {
+    }
+
+    // A shown window with settings of its own, asking the master on this
+    // loopback port and binding its pool from startPort; prepare adjusts
+    // the settings before the window reads them.
+    TestWindow(quint16 masterPort, quint16 startPort, const std::function<void(SettingsStore&)>& prepare = {})
+        : m_dir(std::in_place)
+        , m_ownSettings(std::make_unique<SettingsStore>(m_dir->filePath(QStringLiteral("settings.ini"))))
+        , m_settings(*m_ownSettings)
+    {
+        m_settings.save(u"MasterServer", QStringLiteral("127.0.0.1:%1").arg(masterPort));
+        m_settings.save(u"StartPort", QString::number(startPort));
+        if (prepare)
+            prepare(m_settings);
+        window = std::make_unique<FrmMain>(m_settings, desktop, language, m_dir->path());
+        window->show();
+    }
+
+    SettingsStore& settings() const { return m_settings; }
+    QString dataFile(const QString& name) const { return m_dir->filePath(name); }
+
+    template <typename T> T* find(const char* name) const
+    {
+        T* child = window->findChild<T*>(QLatin1String(name));
+        if (!child)
+            qFatal("no control named %s", name);
+        return child;
+    }
+    ReportView* list(const char* name) const { return find<ReportView>(name); }
+    QHeaderView* header(const char* name) const { return list(name)->header(); }
+    QPushButton* button(const char* name) const { return find<QPushButton>(name); }
+    QString status() const { return find<QLabel>("lblStatus")->text(); }
+    QColor statusColour() const { return find<QLabel>("lblStatus")->palette().color(QPalette::WindowText); }
+    QAbstractItemModel* visible(const char* name) const { return list(name)->model(); }
+    QString cell(const char* name, int row, int column) const
+    {
+        QAbstractItemModel* model = visible(name);
+        return model->data(model->index(row, column)).toString();
+    }
+
+    bool show()
+    {
+        window->show();
+        return QTest::qWaitForWindowExposed(window.get());
+    }
+    // Clicks "Query Masters" and waits for "Done".
+    bool queryMasters(int timeoutMs = 4000) const
+    {
+        QTest::mouseClick(button("cmdGet"), Qt::LeftButton);
+        return QTest::qWaitFor([this] { return status() == QLatin1String("Done"); }, timeoutMs);
+    }
+    // Gives the control the keyboard focus as a click would, and returns
+    // the widget that really has it (a combo box, not its line edit).
+    QWidget* focus(QWidget* control) const
+    {
+        QApplication::setActiveWindow(window.get());
+        control->setFocus(Qt::MouseFocusReason);
+        if (!QTest::qWaitFor([control] { return control->hasFocus(); }, 1000))
+            qFatal("%s did not take the focus", qPrintable(control->objectName()));
+        return QApplication::focusWidget();
+    }
+    // Types text, then presses a key when one is given, into the focus.
+    void type(QWidget* control, const QString& text, std::optional<Qt::Key> then = std::nullopt) const
+    {
+        QWidget* target = focus(control);
+        QTest::keyClicks(target, text);
+        if (then)
+            QTest::keyClick(QApplication::focusWidget(), *then);
+    }
+
+private:
+    std::optional<QTemporaryDir> m_dir;
+    std::unique_ptr<SettingsStore> m_ownSettings;
+    SettingsStore& m_settings;
+
+public:
+    ScriptedDesktop desktop;
+    Language language;
+    std::unique_ptr<FrmMain> window;
+};
