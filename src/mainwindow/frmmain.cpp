@@ -1,7 +1,5 @@
 #include "frmmain.h"
 
-#include "colourcodes.h"
-#include "copycommands.h"
 #include "desktop.h"
 #include "favourites.h"
 #include "findbar.h"
@@ -9,27 +7,26 @@
 #include "frmfilters.h"
 #include "historycombobox.h"
 #include "joinflow.h"
+#include "joinpanel.h"
 #include "language.h"
+#include "listmenu.h"
 #include "listpane.h"
 #include "multicolorlabel.h"
+#include "querybar.h"
 #include "querycontroller.h"
 #include "reportview.h"
 #include "serverdetails.h"
 #include "serverlists.h"
+#include "serverselection.h"
 #include "settingsstore.h"
 #include "statusline.h"
 #include "visiblelists.h"
 #include "windowstate.h"
 
-#include <QAction>
 #include <QApplication>
-#include <QClipboard>
 #include <QCloseEvent>
-#include <QFrame>
 #include <QHBoxLayout>
-#include <QKeyEvent>
 #include <QLabel>
-#include <QMenu>
 #include <QProgressBar>
 #include <QPushButton>
 #include <QSplitter>
@@ -112,7 +109,7 @@ void FrmMain::createControls()
     rzrPSI->setObjectName(QStringLiteral("rzrPSI"));
     rzrPSI->setChildrenCollapsible(false);
     m_serverPane = new ListPane(m_settings, Keys::ServerList, m_lists->servers(), m_lists->visibleServers(),
-                                QStringLiteral("lstServerList"), rzrPSI);
+                                m_lists->serverRows(), QStringLiteral("lstServerList"), rzrPSI);
     m_details = new ServerDetails(m_settings, rzrPSI);
     rzrPSI->addWidget(m_serverPane->view());
     rzrPSI->addWidget(m_details->splitter());
@@ -120,110 +117,56 @@ void FrmMain::createControls()
     rzrPSI->setStretchFactor(0, 0);
     rzrPSI->setStretchFactor(1, 1);
     m_playerPane = new ListPane(m_settings, Keys::PlayerList, m_lists->players(), m_lists->visiblePlayers(),
-                                QStringLiteral("lstPlayerList"), this);
-    m_playerPane->view()->installEventFilter(this);
+                                m_lists->playerRows(), QStringLiteral("lstPlayerList"), this);
 
-    lblSName = makeControl<QLabel>(this, "lblSName");
-    mclSName = makeControl<MulticolorLabel>(this, "mclSName");
+    m_joinPanel = new JoinPanel(m_settings, m_desktop, Favourites::filePath(m_dataFolder), this);
+    m_selection = new ServerSelection(
+        *m_lists, *m_details, [this](const QString& name) { m_joinPanel->ShowPlayerName(name); }, this);
 
-    fraJoin = makeControl<QFrame>(this, "fraJoin");
-    fraJoin->setFrameShape(QFrame::StyledPanel);
-    lblPlayerName = makeControl<QLabel>(fraJoin, "lblPlayerName");
-    cmbPlayerName = makeControl<HistoryComboBox>(fraJoin, "cmbPlayerName");
-    lblPlayerName->setBuddy(cmbPlayerName);
-    lblPassword = makeControl<QLabel>(fraJoin, "lblPassword");
-    cmbPassword = makeControl<HistoryComboBox>(fraJoin, "cmbPassword");
-    lblPassword->setBuddy(cmbPassword);
-    lblPName = makeControl<QLabel>(fraJoin, "lblPName");
-    mclPName = makeControl<MulticolorLabel>(fraJoin, "mclPName");
-    cmdJoin = makeControl<QPushButton>(fraJoin, "cmdJoin");
-    cmdJoinIP = makeControl<QPushButton>(fraJoin, "cmdJoinIP");
-    m_join =
-        new JoinFlow(m_settings, m_desktop, Favourites::filePath(m_dataFolder), *cmbPlayerName, *cmbPassword, this);
-
-    m_find = new FindBar(
-        [this] {
-            const ListPane& pane = shownList();
-            // The text of a row is its first column, the player's or the
-            // server's plain name, read straight from the hidden list
-            // (quick at 150,000 rows).
-            const bool players = &pane == m_playerPane;
-            auto rows = std::make_shared<std::vector<int>>(pane.list().sourceRows());
-            return FindBar::Target{pane.view(), [this, players, rows](int row) {
-                                       const int source = (*rows)[size_t(row)];
-                                       return players ? m_lists->players().row(source).plainName
-                                                      : m_lists->servers().plainName(source);
-                                   }};
-        },
-        this);
+    m_find = new FindBar([this] { return FindBar::Target{shownList().view(), shownList().visibleNames()}; }, this);
     lblPlayers = makeControl<QLabel>(this, "lblPlayers");
     lblServers = makeControl<QLabel>(this, "lblServers");
-    lblStatus = new StatusLine(this);
-    prbProgress = makeControl<QProgressBar>(this, "prbProgress");
-    prbProgress->setRange(0, 1);
-    prbProgress->setValue(0);
-    prbProgress->setTextVisible(false);
-
-    fraQuery = makeControl<QFrame>(this, "fraQuery");
-    cmdGet = makeControl<QPushButton>(fraQuery, "cmdGet");
-    cmdFav = makeControl<QPushButton>(fraQuery, "cmdFav");
-    cmdCancel = makeControl<QPushButton>(fraQuery, "cmdCancel");
-    cmdCancel->setEnabled(false);
-    cmdCancel->setVisible(false);
-    keepPlaceWhenHidden(cmdCancel);
+    m_queryBar = new QueryBar(*m_queries, this);
     cmdOrganise = makeControl<QPushButton>(this, "cmdOrganise");
     cmdFilters = makeControl<QPushButton>(this, "cmdFilters");
     cmdOptions = makeControl<QPushButton>(this, "cmdOptions");
     cmdExit = makeControl<QPushButton>(this, "cmdExit");
 
-    m_state = new WindowState(m_settings, WindowState::Controls{this,
-                                                                tabSelect,
-                                                                rzrPSI,
-                                                                m_details->splitter(),
-                                                                {{m_playerPane->view(), Keys::PlayerList.columns},
-                                                                 {m_serverPane->view(), Keys::ServerList.columns},
-                                                                 {m_details->players(), Keys::ServerPlayers.columns},
-                                                                 {m_details->rules(), Keys::ServerRules.columns}},
-                                                                {{m_find->box(), Keys::FindBox},
-                                                                 {cmbPlayerName, Keys::PlayerNameBox},
-                                                                 {cmbPassword, Keys::PasswordBox}},
-                                                                cmbPlayerName,
-                                                                cmbPassword});
+    WindowState::Controls state;
+    state.window = this;
+    state.tabs = tabSelect;
+    state.serverList = rzrPSI;
+    state.panes = m_details->splitter();
+    state.lists = {{m_playerPane->view(), Keys::PlayerList.columns},
+                   {m_serverPane->view(), Keys::ServerList.columns},
+                   {m_details->players(), Keys::ServerPlayers.columns},
+                   {m_details->rules(), Keys::ServerRules.columns}};
+    state.playerName = m_joinPanel->playerName();
+    state.password = m_joinPanel->password();
+    state.boxes = {
+        {m_find->box(), Keys::FindBox}, {state.playerName, Keys::PlayerNameBox}, {state.password, Keys::PasswordBox}};
+    m_state = new WindowState(m_settings, state);
 }
 
 void FrmMain::createMenu()
 {
-    mPopupAlt = makeControl<QMenu>(this, "mPopupAlt");
-    mPopAdd = mPopupAlt->addAction(QString());
-    mPopAdd->setObjectName(QStringLiteral("mPopAdd"));
-    m_copy = new CopyCommands(
-        *mPopupAlt, m_settings,
-        [this] {
-            return CopyCommands::Target{shownList().view(), shownList().keys().columns};
-        },
-        CopyText::LineSeparator);
-    mPopSelServer = mPopupAlt->addAction(QString());
-    mPopSelServer->setObjectName(QStringLiteral("mPopSelServer"));
-    connect(mPopAdd, &QAction::triggered, this, &FrmMain::addToFavourites);
-    connect(mPopSelServer, &QAction::triggered, this, &FrmMain::selectServerOfPlayer);
+    m_menu = new ListMenu(
+        m_settings, *m_lists, Favourites::filePath(m_dataFolder), [this]() -> const ListPane& { return shownList(); },
+        this);
+    m_menu->copyAddressOnCtrlC(*m_playerPane);
+    connect(m_menu, &ListMenu::selectServer, this, &FrmMain::selectServer);
+    connect(m_menu, &ListMenu::status, this, &FrmMain::setStatus);
 }
 
 void FrmMain::connectQueries()
 {
-    connect(cmdGet, &QPushButton::clicked, m_queries, &QueryController::startMasterQuery);
-    connect(cmdFav, &QPushButton::clicked, m_queries, &QueryController::startFavouritesQuery);
-    connect(cmdCancel, &QPushButton::clicked, m_queries, &QueryController::cancel);
     connect(m_queries, &QueryController::busyChanged, this, &FrmMain::setBusy);
-    connect(m_queries, &QueryController::status, this, &FrmMain::setStatus);
-    connect(m_queries, &QueryController::progress, this, [this](int value, int maximum) {
-        prbProgress->setMaximum(maximum);
-        prbProgress->setValue(value);
-    });
     connect(m_queries, &QueryController::started, this, [this] {
-        clearNameLabels();
+        m_selection->clearNames();
         lblServers->clear();
         lblPlayers->clear();
-        emptyLists();
+        m_selection->clear();
+        m_lists->clear();
     });
     connect(m_queries, &QueryController::querying, this, &FrmMain::updateCounters);
     connect(m_queries, &QueryController::answers, this, &FrmMain::addAnswers);
@@ -248,8 +191,8 @@ void FrmMain::connectLists()
     connect(tabSelect, &QTabBar::currentChanged, this, &FrmMain::showView);
     connect(m_serverPane, &ListPane::rowClicked, this, [this](const QModelIndex& index) {
         showServer(index);
-        if (m_selectedServer >= 0)
-            m_queries->refresh(m_lists->server(m_selectedServer));
+        if (m_selection->server() >= 0)
+            m_queries->refresh(m_lists->server(m_selection->server()));
     });
     connect(m_playerPane, &ListPane::rowClicked, this, &FrmMain::showPlayer);
     for (ListPane* pane : {m_serverPane, m_playerPane}) {
@@ -265,22 +208,15 @@ void FrmMain::connectLists()
 
     connect(m_find, &FindBar::found, this,
             [this](const QModelIndex& index) { &shownList() == m_playerPane ? showPlayer(index) : showServer(index); });
-    connect(m_find, &FindBar::selectionCleared, this, &FrmMain::clearNameLabels);
+    connect(m_find, &FindBar::selectionCleared, m_selection, &ServerSelection::clearNames);
     connect(m_find, &FindBar::status, this, &FrmMain::setStatus);
 
-    connect(cmbPlayerName, &HistoryComboBox::enterPressed, this,
-            [this] { cmbPlayerName->remember(cmbPlayerName->currentText()); });
-    connect(cmbPassword, &HistoryComboBox::enterPressed, this,
-            [this] { cmbPassword->remember(cmbPassword->currentText()); });
-    connect(cmdJoin, &QPushButton::clicked, this, [this] {
-        cmbPlayerName->remember(cmbPlayerName->currentText());
-        cmbPassword->remember(cmbPassword->currentText());
+    connect(m_joinPanel, &JoinPanel::joinRequested, this, [this] {
         shownList().view()->setLastButton(Qt::LeftButton);
         joinFrom(shownList());
     });
-    connect(cmdJoinIP, &QPushButton::clicked, m_join, &JoinFlow::joinByAddress);
-    connect(m_join, &JoinFlow::status, this, &FrmMain::setStatus);
-    connect(m_join, &JoinFlow::closeRequested, this, &QWidget::close);
+    connect(&m_joinPanel->flow(), &JoinFlow::status, this, &FrmMain::setStatus);
+    connect(&m_joinPanel->flow(), &JoinFlow::closeRequested, this, &QWidget::close);
 
     connect(cmdOrganise, &QPushButton::clicked, this, [this] {
         // A new editor each time: it reads the file as it is now.
@@ -312,23 +248,8 @@ void FrmMain::layOutControls()
     views->addWidget(rzrPSI, 1);
 
     auto* serverNameRow = new QHBoxLayout;
-    serverNameRow->addWidget(lblSName);
-    serverNameRow->addWidget(mclSName, 1);
-
-    auto* joinLayout = new QGridLayout(fraJoin);
-    joinLayout->setContentsMargins(6, 6, 6, 6);
-    joinLayout->addWidget(lblPlayerName, 0, 0);
-    joinLayout->addWidget(cmbPlayerName, 0, 1);
-    joinLayout->addWidget(lblPassword, 0, 2);
-    joinLayout->addWidget(cmbPassword, 0, 3);
-    joinLayout->addWidget(cmdJoin, 0, 4);
-    joinLayout->addWidget(cmdJoinIP, 0, 5);
-    auto* playerNameRow = new QHBoxLayout;
-    playerNameRow->addWidget(lblPName);
-    playerNameRow->addWidget(mclPName, 1);
-    joinLayout->addLayout(playerNameRow, 1, 0, 1, 6);
-    joinLayout->setColumnStretch(1, 1);
-    joinLayout->setColumnStretch(3, 1);
+    serverNameRow->addWidget(m_selection->serverNameCaption());
+    serverNameRow->addWidget(m_selection->serverName(), 1);
 
     auto* findRow = new QHBoxLayout;
     findRow->addWidget(m_find->box(), 1);
@@ -339,18 +260,11 @@ void FrmMain::layOutControls()
     findRow->addWidget(lblServers);
 
     auto* statusRow = new QHBoxLayout;
-    statusRow->addWidget(lblStatus, 1);
-    statusRow->addWidget(prbProgress, 1);
-
-    auto* queryLayout = new QHBoxLayout(fraQuery);
-    queryLayout->setContentsMargins(0, 0, 0, 0);
-    queryLayout->addWidget(cmdGet);
-    queryLayout->addWidget(cmdFav);
-    queryLayout->addWidget(cmdCancel);
-    queryLayout->addStretch();
+    statusRow->addWidget(m_queryBar->statusLine(), 1);
+    statusRow->addWidget(m_queryBar->progressBar(), 1);
 
     auto* buttonRow = new QHBoxLayout;
-    buttonRow->addWidget(fraQuery, 1);
+    buttonRow->addWidget(m_queryBar->buttons(), 1);
     buttonRow->addWidget(cmdExit);
 
     auto* dialogRow = new QHBoxLayout;
@@ -363,7 +277,7 @@ void FrmMain::layOutControls()
     main->addLayout(titleRow);
     main->addLayout(views, 1);
     main->addLayout(serverNameRow);
-    main->addWidget(fraJoin);
+    main->addWidget(m_joinPanel);
     main->addLayout(findRow);
     main->addLayout(statusRow);
     main->addLayout(buttonRow);
@@ -378,24 +292,17 @@ void FrmMain::retranslateUi()
     tabSelect->setTabText(PlayersTab, tr("Players"));
     tabSelect->setTabText(ServersTab, tr("Servers"));
 
-    cmdCancel->setText(tr("Cancel Query"));
-    cmdGet->setText(tr("Query Masters"));
-    cmdFav->setText(tr("Query Favourites"));
+    m_queryBar->retranslate();
     cmdOrganise->setText(tr("Favourites"));
     cmdFilters->setText(tr("Filters"));
     cmdOptions->setText(tr("Options"));
     cmdExit->setText(tr("Exit"));
-    cmdJoin->setText(tr("Join"));
-    cmdJoinIP->setText(tr("Join IP"));
-    lblPlayerName->setText(tr("Name:"));
-    lblPassword->setText(tr("Password:"));
+    m_joinPanel->retranslate();
     m_find->retranslate();
 
     m_serverPane->view()->setAccessibleName(tr("Servers"));
     m_playerPane->view()->setAccessibleName(tr("Players"));
-    mPopAdd->setText(tr("&Add To Favourites"));
-    m_copy->retranslate();
-    mPopSelServer->setText(tr("&Select Server"));
+    m_menu->retranslate();
     m_lists->servers().retranslate();
     m_lists->players().retranslate();
     m_details->retranslate();
@@ -417,7 +324,7 @@ void FrmMain::showView(int tab)
     m_playerPane->view()->setVisible(players);
     rzrPSI->setVisible(!players);
     m_details->splitter()->setVisible(!players);
-    mPopSelServer->setVisible(players);
+    m_menu->setPlayersShown(players);
     if (!players && m_state->initialSizeApplied())
         m_state->restoreSplitters();
 }
@@ -443,41 +350,25 @@ bool FrmMain::eventFilter(QObject* watched, QEvent* event)
                           QMessageBox::Ok);
         return true;
     }
-    if (watched == m_playerPane->view() && event->type() == QEvent::KeyPress) {
-        const auto* key = static_cast<QKeyEvent*>(event);
-        if (key->key() == Qt::Key_C && (key->modifiers() & Qt::ControlModifier)) {
-            copyPlayersServerAddress();
-            return true;
-        }
-    }
     return QWidget::eventFilter(watched, event);
 }
 
 void FrmMain::setBusy(bool busy)
 {
-    for (QWidget* control : std::initializer_list<QWidget*>{cmdFav, cmdGet, cmdOptions, cmdOrganise})
-        control->setEnabled(!busy);
-    cmdCancel->setEnabled(busy);
-    cmdCancel->setVisible(busy);
+    cmdOptions->setEnabled(!busy);
+    cmdOrganise->setEnabled(!busy);
     lblAbout->setVisible(!busy);
 }
 
 void FrmMain::setStatus(const QString& text, StatusTone tone)
 {
-    lblStatus->setStatus(text, tone);
+    m_queryBar->setStatus(text, tone);
 }
 
 void FrmMain::updateCounters()
 {
     lblServers->setText(tr("%n servers found", nullptr, m_lists->visibleServers().rowCount()));
     lblPlayers->setText(tr("%n players found", nullptr, m_lists->visiblePlayers().rowCount()));
-}
-
-void FrmMain::emptyLists()
-{
-    m_selectedServer = -1;
-    m_details->show(nullptr);
-    m_lists->clear();
 }
 
 void FrmMain::addAnswers(const QList<ServerRecord>& batch)
@@ -491,10 +382,7 @@ void FrmMain::applyRefresh(const ServerRecord& server)
     const int index = m_lists->replace(server);
     if (index < 0)
         return;
-    if (index == m_selectedServer) {
-        ShowServerName(server.name);
-        m_details->show(&m_lists->server(index));
-    }
+    m_selection->refreshed(index);
     updateCounters();
 }
 
@@ -513,58 +401,38 @@ void FrmMain::UpdatePlayerList()
 
 void FrmMain::ShowServerName(const QString& name)
 {
-    mclSName->setColouredText(ColourCodes::ShowServerName(name));
-    lblSName->setText(mclSName->caption().isEmpty() ? QString() : tr("Server Name:"));
+    m_selection->ShowServerName(name);
 }
 
 void FrmMain::ShowPlayerName(const QString& name)
 {
-    mclPName->setColouredText(ColourCodes::ShowPlayerName(name));
-    lblPName->setText(mclPName->caption().isEmpty() ? QString() : tr("Player Name:"));
-}
-
-void FrmMain::clearNameLabels()
-{
-    ShowServerName(QString());
-    ShowPlayerName(QString());
+    m_joinPanel->ShowPlayerName(name);
 }
 
 void FrmMain::showPlayer(const QModelIndex& index)
 {
     const int row = m_playerPane->sourceRow(index);
-    if (row < 0)
-        return;
-    const auto& player = m_lists->players().row(row);
-    const ServerRecord& server = m_lists->server(player.server);
-    ShowPlayerName(server.players.at(player.player).name);
-    ShowServerName(server.name);
+    if (row >= 0)
+        m_selection->showPlayer(m_lists->players().row(row).server, m_lists->players().row(row).player);
 }
 
 void FrmMain::showServer(const QModelIndex& index)
 {
     const int row = m_serverPane->sourceRow(index);
-    if (row < 0)
-        return;
-    m_selectedServer = row;
-    ShowServerName(m_lists->server(row).name);
-    ShowPlayerName(QString());
-    m_details->show(&m_lists->server(row));
+    if (row >= 0)
+        m_selection->showServer(row);
 }
 
 void FrmMain::showMenu(ListPane& pane, const QModelIndex& index)
 {
     &pane == m_playerPane ? showPlayer(index) : showServer(index);
     if (pane.list().rowCount() > 0)
-        mPopupAlt->popup(QCursor::pos());
+        m_menu->popup();
 }
 
-void FrmMain::selectServerOfPlayer()
+void FrmMain::selectServer(const QString& address)
 {
-    const int row = m_playerPane->sourceRow(m_playerPane->view()->currentIndex());
-    if (row < 0)
-        return;
-    const QString address = m_lists->server(m_lists->serverOfPlayer(row)).endpointText();
-    VisibleList& servers = m_lists->visibleServers();
+    const VisibleList& servers = m_lists->visibleServers();
     for (int visible = 0; visible < servers.rowCount(); ++visible) {
         if (servers.index(visible, ServerListModel::Address).data().toString() != address)
             continue;
@@ -573,7 +441,7 @@ void FrmMain::selectServerOfPlayer()
         m_serverPane->view()->setCurrentIndex(first);
         m_serverPane->view()->scrollTo(first);
         showServer(first);
-        m_queries->refresh(m_lists->server(m_selectedServer));
+        m_queries->refresh(m_lists->server(m_selection->server()));
         return;
     }
 }
@@ -583,42 +451,14 @@ ListPane& FrmMain::shownList() const
     return tabSelect->currentIndex() == PlayersTab ? *m_playerPane : *m_serverPane;
 }
 
-int FrmMain::selectedServer(const ListPane& pane) const
-{
-    const int row = pane.selectedSourceRow();
-    if (row < 0)
-        return -1;
-    return &pane == m_playerPane ? m_lists->serverOfPlayer(row) : row;
-}
-
 void FrmMain::joinFrom(const ListPane& pane)
 {
-    const int server = selectedServer(pane);
+    const int server = pane.selectedServer();
     if (pane.list().rowCount() == 0 || server < 0)
         return;
     const ServerRecord& record = m_lists->server(server);
-    m_join->join(JoinFlow::Target{record.endpointText(), record.isPassworded(), m_lists->servers().plainName(server)});
-}
-
-void FrmMain::addToFavourites()
-{
-    const int server = selectedServer(shownList());
-    if (server < 0)
-        return;
-    // From the player list the name is the player's server, as its row shows it.
-    if (!Favourites::appendToFile(Favourites::filePath(m_dataFolder), m_lists->server(server).endpointText(), QString(),
-                                  m_lists->servers().plainName(server)))
-        setStatus(tr("The favourites file could not be written."), StatusTone::Failed);
-}
-
-void FrmMain::copyPlayersServerAddress()
-{
-    const int row = m_playerPane->sourceRow(m_playerPane->view()->currentIndex());
-    if (row < 0)
-        return;
-    QClipboard* clipboard = QGuiApplication::clipboard();
-    clipboard->clear();
-    clipboard->setText(m_lists->server(m_lists->serverOfPlayer(row)).endpointText());
+    m_joinPanel->flow().join(
+        JoinFlow::Target{record.endpointText(), record.isPassworded(), m_lists->servers().plainName(server)});
 }
 
 void FrmMain::closeEvent(QCloseEvent* event)

@@ -9,7 +9,8 @@ class Desktop;
 class FindBar;
 class FrmFilters;
 class HistoryComboBox;
-class JoinFlow;
+class JoinPanel;
+class QueryBar;
 class Language;
 class ListPane;
 class MulticolorLabel;
@@ -21,11 +22,12 @@ class QProgressBar;
 class QPushButton;
 class QSplitter;
 class QTabBar;
-class CopyCommands;
+class ListMenu;
 class QueryController;
 class ReportView;
 class ServerDetails;
 class ServerLists;
+class ServerSelection;
 class SettingsStore;
 class StatusLine;
 class WindowState;
@@ -84,20 +86,14 @@ private:
     void setBusy(bool busy);
     void setStatus(const QString& text, StatusTone tone);
     void updateCounters();
-    void emptyLists();
     void addAnswers(const QList<ServerRecord>& batch);
     void applyRefresh(const ServerRecord& server);
     void showServer(const QModelIndex& index);
     void showPlayer(const QModelIndex& index);
-    void clearNameLabels();
     void showMenu(ListPane& pane, const QModelIndex& index);
-    void selectServerOfPlayer();
-    void copyPlayersServerAddress();
+    void selectServer(const QString& address);
     ListPane& shownList() const;
-    // The server behind the selected row of a big list, or -1.
-    int selectedServer(const ListPane& pane) const;
     void joinFrom(const ListPane& pane);
-    void addToFavourites();
 
     SettingsStore& m_settings;
     Desktop& m_desktop;
@@ -109,44 +105,22 @@ private:
     ListPane* m_serverPane = nullptr;
     ListPane* m_playerPane = nullptr;
     ServerDetails* m_details = nullptr;
+    ServerSelection* m_selection = nullptr;
     FindBar* m_find = nullptr;
-    JoinFlow* m_join = nullptr;
+    JoinPanel* m_joinPanel = nullptr;
+    QueryBar* m_queryBar = nullptr;
     WindowState* m_state = nullptr;
-    CopyCommands* m_copy = nullptr;
+    ListMenu* m_menu = nullptr;
     FrmFilters* m_frmFilters = nullptr;
-    int m_selectedServer = -1;
 
     QLabel* lblAbout = nullptr;
     QTabBar* tabSelect = nullptr;
     QSplitter* rzrPSI = nullptr;
-    QLabel* lblSName = nullptr;
-    MulticolorLabel* mclSName = nullptr;
-
-    QFrame* fraJoin = nullptr;
-    QLabel* lblPlayerName = nullptr;
-    HistoryComboBox* cmbPlayerName = nullptr;
-    QLabel* lblPassword = nullptr;
-    HistoryComboBox* cmbPassword = nullptr;
-    QLabel* lblPName = nullptr;
-    MulticolorLabel* mclPName = nullptr;
-    QPushButton* cmdJoin = nullptr;
-    QPushButton* cmdJoinIP = nullptr;
 
     QLabel* lblPlayers = nullptr;
     QLabel* lblServers = nullptr;
-    StatusLine* lblStatus = nullptr;
-    QProgressBar* prbProgress = nullptr;
-
-    QFrame* fraQuery = nullptr;
-    QPushButton* cmdGet = nullptr;
-    QPushButton* cmdFav = nullptr;
-    QPushButton* cmdCancel = nullptr;
     QPushButton* cmdOrganise = nullptr;
     QPushButton* cmdFilters = nullptr;
     QPushButton* cmdOptions = nullptr;
     QPushButton* cmdExit = nullptr;
-
-    QMenu* mPopupAlt = nullptr;
-    QAction* mPopAdd = nullptr;
-    QAction* mPopSelServer = nullptr;
 };

@@ -5,6 +5,8 @@
 
 #include <QObject>
 
+#include <functional>
+
 class ReportModel;
 class ReportView;
 class SettingsStore;
@@ -19,7 +21,14 @@ class ListPane final : public QObject {
     Q_DISABLE_COPY_MOVE(ListPane)
 
 public:
-    ListPane(SettingsStore& settings, Keys::ListKeys keys, const ReportModel& model, VisibleList& list,
+    // What a row of the hidden list stands for: its server's store index,
+    // and the plain name that find searches.
+    struct Rows {
+        std::function<int(int row)> serverOf;
+        std::function<QString(int row)> plainName;
+    };
+
+    ListPane(SettingsStore& settings, Keys::ListKeys keys, const ReportModel& model, VisibleList& list, Rows rows,
              const QString& objectName, QWidget* parent);
 
     ReportView* view() const { return m_view; }
@@ -34,7 +43,12 @@ public:
     void rebuild();
     // The row of the hidden list behind a visible index, or -1.
     int sourceRow(const QModelIndex& index) const;
-    int selectedSourceRow() const;
+    // The server behind a visible index, the current row, the selected row; -1 for none.
+    int serverAt(const QModelIndex& index) const;
+    int currentServer() const;
+    int selectedServer() const;
+    // The plain name of each visible row, in the order shown now.
+    std::function<QString(int row)> visibleNames() const;
 
 signals:
     // A left click on a row.
@@ -51,6 +65,7 @@ private:
     SettingsStore& m_settings;
     Keys::ListKeys m_keys;
     VisibleList& m_list;
+    Rows m_rows;
     ReportView* m_view = nullptr;
     // Design time: first column, descending, so a first click sorts ascending.
     ColumnLayout::SortState m_sort;

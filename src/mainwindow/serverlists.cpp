@@ -11,6 +11,17 @@ ServerLists::ServerLists(QObject* parent)
     m_visiblePlayers.setSourceModel(&m_players);
 }
 
+ListPane::Rows ServerLists::serverRows() const
+{
+    return {[](int row) { return row; }, [this](int row) { return m_servers.plainName(row); }};
+}
+
+ListPane::Rows ServerLists::playerRows() const
+{
+    return {[this](int row) { return m_players.row(row).server; },
+            [this](int row) { return m_players.row(row).plainName; }};
+}
+
 void ServerLists::clear()
 {
     m_players.clear();

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "filters.h"
+#include "listpane.h"
 #include "playerlistmodel.h"
 #include "records.h"
 #include "serverlistmodel.h"
@@ -28,8 +29,10 @@ public:
     const VisibleList& visiblePlayers() const { return m_visiblePlayers; }
     const ServerRecord& server(int storeIndex) const { return m_servers.record(storeIndex); }
     int serverCount() const { return m_servers.store().count(); }
-    // The server behind a row of the hidden player list.
-    int serverOfPlayer(int playerRow) const { return m_players.row(playerRow).server; }
+
+    // What the rows of each hidden list stand for, for its list pane.
+    ListPane::Rows serverRows() const;
+    ListPane::Rows playerRows() const;
 
     void clear();
     void append(const QList<ServerRecord>& batch);

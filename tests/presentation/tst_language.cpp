@@ -4,9 +4,9 @@
 #include <QTest>
 
 namespace {
-QString translated(const char* source)
+QString translated(const char* source, const char* context = "FrmMain")
 {
-    return QCoreApplication::translate("FrmMain", source);
+    return QCoreApplication::translate(context, source);
 }
 } // namespace
 
@@ -14,15 +14,17 @@ class TestLanguage final : public QObject {
     Q_OBJECT
 
 private slots:
-    void americanEnglishChangesOnlyThreeTexts()
+    // The three texts with "favourite" in them; the texts the program adds
+    // that name favourites follow them.
+    void americanEnglishSpellsFavoritesOnly()
     {
         Language language;
         QVERIFY(language.apply(1));
-        QCOMPARE(translated("Query Favourites"), QStringLiteral("Query Favorites"));
+        QCOMPARE(translated("Query Favourites", "QueryBar"), QStringLiteral("Query Favorites"));
         QCOMPARE(translated("Favourites"), QStringLiteral("Favorites"));
-        QCOMPARE(translated("&Add To Favourites"), QStringLiteral("&Add To Favorites"));
-        QCOMPARE(translated("Query Masters"), QStringLiteral("Query Masters"));
-        QCOMPARE(translated("Cancel Query"), QStringLiteral("Cancel Query"));
+        QCOMPARE(translated("&Add To Favourites", "ListMenu"), QStringLiteral("&Add To Favorites"));
+        QCOMPARE(translated("Query Masters", "QueryBar"), QStringLiteral("Query Masters"));
+        QCOMPARE(translated("Cancel Query", "QueryBar"), QStringLiteral("Cancel Query"));
 
         QVERIFY(language.apply(0));
         QCOMPARE(translated("Favourites"), QStringLiteral("Favourites"));

@@ -126,9 +126,9 @@ private slots:
         file.close();
         QElapsedTimer clock;
         clock.start();
-        const Run none = runTool({QStringLiteral("--favourites"), empty, QStringLiteral("--start-port"),
-                                  QString::number(StartPort)},
-                                 m_home.path());
+        const Run none =
+            runTool({QStringLiteral("--favourites"), empty, QStringLiteral("--start-port"), QString::number(StartPort)},
+                    m_home.path());
         QCOMPARE(none.exitCode, 4);
         QVERIFY(none.err.contains("no favourites in"));
         QVERIFY(clock.elapsed() < 5000);

@@ -1,0 +1,89 @@
+#include "listmenu.h"
+
+#include "copycommands.h"
+#include "favourites.h"
+#include "listpane.h"
+#include "reportview.h"
+#include "serverlists.h"
+
+#include <QClipboard>
+#include <QCursor>
+#include <QGuiApplication>
+#include <QKeyEvent>
+#include <QMenu>
+
+ListMenu::ListMenu(SettingsStore& settings, const ServerLists& lists, QString favouritesPath, ShownList shown,
+                   QWidget* window)
+    : QObject(window)
+    , m_lists(lists)
+    , m_favouritesPath(std::move(favouritesPath))
+    , m_shown(std::move(shown))
+    , mPopupAlt(new QMenu(window))
+{
+    mPopupAlt->setObjectName(QStringLiteral("mPopupAlt"));
+    mPopAdd = mPopupAlt->addAction(QString());
+    mPopAdd->setObjectName(QStringLiteral("mPopAdd"));
+    m_copy = new CopyCommands(
+        *mPopupAlt, settings,
+        [this] {
+            return CopyCommands::Target{m_shown().view(), m_shown().keys().columns};
+        },
+        CopyText::LineSeparator);
+    mPopSelServer = mPopupAlt->addAction(QString());
+    mPopSelServer->setObjectName(QStringLiteral("mPopSelServer"));
+    connect(mPopAdd, &QAction::triggered, this, &ListMenu::addToFavourites);
+    connect(mPopSelServer, &QAction::triggered, this, [this] {
+        const int server = m_shown().currentServer();
+        if (server >= 0)
+            emit selectServer(m_lists.server(server).endpointText());
+    });
+}
+
+void ListMenu::popup()
+{
+    mPopupAlt->popup(QCursor::pos());
+}
+
+void ListMenu::setPlayersShown(bool players)
+{
+    mPopSelServer->setVisible(players);
+}
+
+void ListMenu::retranslate()
+{
+    mPopAdd->setText(tr("&Add To Favourites"));
+    m_copy->retranslate();
+    mPopSelServer->setText(tr("&Select Server"));
+}
+
+void ListMenu::addToFavourites()
+{
+    const int server = m_shown().selectedServer();
+    if (server < 0)
+        return;
+    // From the player list the name is the player's server, as its row shows it.
+    if (!Favourites::appendToFile(m_favouritesPath, m_lists.server(server).endpointText(), QString(),
+                                  m_lists.servers().plainName(server)))
+        emit status(tr("The favourites file could not be written."), StatusTone::Failed);
+}
+
+void ListMenu::copyAddressOnCtrlC(const ListPane& players)
+{
+    m_players = &players;
+    players.view()->installEventFilter(this);
+}
+
+bool ListMenu::eventFilter(QObject* watched, QEvent* event)
+{
+    if (!m_players || watched != m_players->view() || event->type() != QEvent::KeyPress)
+        return QObject::eventFilter(watched, event);
+    const auto* key = static_cast<QKeyEvent*>(event);
+    if (key->key() != Qt::Key_C || !(key->modifiers() & Qt::ControlModifier))
+        return QObject::eventFilter(watched, event);
+    const int server = m_players->currentServer();
+    if (server >= 0) {
+        QGuiApplication::clipboard()->clear();
+        QGuiApplication::clipboard()->setText(m_lists.server(server).endpointText());
+    }
+    return true;
+}

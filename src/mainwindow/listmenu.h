@@ -1,0 +1,54 @@
+#pragma once
+
+#include "statustone.h"
+
+#include <QObject>
+
+#include <functional>
+
+class CopyCommands;
+class ListPane;
+class QAction;
+class QMenu;
+class ServerLists;
+class SettingsStore;
+
+// The pop-up menu of the two big lists, for the list on show: "Add To
+// Favourites", the copy commands and, on the player list, "Select Server".
+class ListMenu final : public QObject {
+    Q_OBJECT
+    Q_DISABLE_COPY_MOVE(ListMenu)
+
+public:
+    using ShownList = std::function<const ListPane&()>;
+
+    ListMenu(SettingsStore& settings, const ServerLists& lists, QString favouritesPath, ShownList shown,
+             QWidget* window);
+
+    void popup();
+    // Ctrl+C in the player list copies the address of the player's server.
+    void copyAddressOnCtrlC(const ListPane& players);
+    // Select Server belongs to the player list only.
+    void setPlayersShown(bool players);
+    void retranslate();
+
+signals:
+    // Select Server: show the server at this address in the server list.
+    void selectServer(const QString& address);
+    void status(const QString& text, StatusTone tone);
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+private:
+    void addToFavourites();
+
+    const ServerLists& m_lists;
+    QString m_favouritesPath;
+    ShownList m_shown;
+    QMenu* mPopupAlt = nullptr;
+    QAction* mPopAdd = nullptr;
+    CopyCommands* m_copy = nullptr;
+    QAction* mPopSelServer = nullptr;
+    const ListPane* m_players = nullptr;
+};

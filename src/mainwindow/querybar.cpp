@@ -1,0 +1,81 @@
+#include "querybar.h"
+
+#include "querycontroller.h"
+#include "statusline.h"
+
+#include <QFrame>
+#include <QHBoxLayout>
+#include <QProgressBar>
+#include <QPushButton>
+
+namespace {
+
+QPushButton* makeButton(QWidget* parent, const char* objectName)
+{
+    auto* button = new QPushButton(parent);
+    button->setObjectName(QLatin1String(objectName));
+    button->setAutoDefault(false);
+    return button;
+}
+
+} // namespace
+
+QueryBar::QueryBar(QueryController& queries, QWidget* window)
+    : QObject(window)
+    , fraQuery(new QFrame(window))
+    , lblStatus(new StatusLine(window))
+    , prbProgress(new QProgressBar(window))
+{
+    fraQuery->setObjectName(QStringLiteral("fraQuery"));
+    cmdGet = makeButton(fraQuery, "cmdGet");
+    cmdFav = makeButton(fraQuery, "cmdFav");
+    cmdCancel = makeButton(fraQuery, "cmdCancel");
+    cmdCancel->setEnabled(false);
+    cmdCancel->setVisible(false);
+    // Keeping its place when hidden means the lists are not laid out again
+    // (slow with many rows).
+    QSizePolicy keepPlace = cmdCancel->sizePolicy();
+    keepPlace.setRetainSizeWhenHidden(true);
+    cmdCancel->setSizePolicy(keepPlace);
+    auto* layout = new QHBoxLayout(fraQuery);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->addWidget(cmdGet);
+    layout->addWidget(cmdFav);
+    layout->addWidget(cmdCancel);
+    layout->addStretch();
+
+    prbProgress->setObjectName(QStringLiteral("prbProgress"));
+    prbProgress->setRange(0, 1);
+    prbProgress->setValue(0);
+    prbProgress->setTextVisible(false);
+
+    connect(cmdGet, &QPushButton::clicked, &queries, &QueryController::startMasterQuery);
+    connect(cmdFav, &QPushButton::clicked, &queries, &QueryController::startFavouritesQuery);
+    connect(cmdCancel, &QPushButton::clicked, &queries, &QueryController::cancel);
+    connect(&queries, &QueryController::busyChanged, this, &QueryBar::setBusy);
+    connect(&queries, &QueryController::status, this, &QueryBar::setStatus);
+    connect(&queries, &QueryController::progress, this, [this](int value, int maximum) {
+        prbProgress->setMaximum(maximum);
+        prbProgress->setValue(value);
+    });
+}
+
+void QueryBar::setStatus(const QString& text, StatusTone tone)
+{
+    lblStatus->setStatus(text, tone);
+}
+
+void QueryBar::retranslate()
+{
+    cmdCancel->setText(tr("Cancel Query"));
+    cmdGet->setText(tr("Query Masters"));
+    cmdFav->setText(tr("Query Favourites"));
+}
+
+void QueryBar::setBusy(bool busy)
+{
+    cmdGet->setEnabled(!busy);
+    cmdFav->setEnabled(!busy);
+    cmdCancel->setEnabled(busy);
+    cmdCancel->setVisible(busy);
+}

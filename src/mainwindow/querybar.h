@@ -1,0 +1,39 @@
+#pragma once
+
+#include "statustone.h"
+
+#include <QObject>
+
+class QFrame;
+class QProgressBar;
+class QPushButton;
+class QueryController;
+class StatusLine;
+
+// What the user sees of the queries: "Query Masters", "Query Favourites"
+// and "Cancel Query", the status line and the progress bar, all driven by
+// the query controller.
+class QueryBar final : public QObject {
+    Q_OBJECT
+    Q_DISABLE_COPY_MOVE(QueryBar)
+
+public:
+    QueryBar(QueryController& queries, QWidget* window);
+
+    QFrame* buttons() const { return fraQuery; }
+    StatusLine* statusLine() const { return lblStatus; }
+    QProgressBar* progressBar() const { return prbProgress; }
+
+    void setStatus(const QString& text, StatusTone tone);
+    void retranslate();
+
+private:
+    void setBusy(bool busy);
+
+    QFrame* fraQuery = nullptr;
+    QPushButton* cmdGet = nullptr;
+    QPushButton* cmdFav = nullptr;
+    QPushButton* cmdCancel = nullptr;
+    StatusLine* lblStatus = nullptr;
+    QProgressBar* prbProgress = nullptr;
+};

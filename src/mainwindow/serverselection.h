@@ -1,0 +1,46 @@
+#pragma once
+
+#include <QObject>
+
+#include <functional>
+
+class MulticolorLabel;
+class QLabel;
+class ServerDetails;
+class ServerLists;
+
+// What is selected and shown of it: the server's name in colour, its
+// players and rules in the panes, and the selected player's name. The
+// panes follow a new answer of the selected server.
+class ServerSelection final : public QObject {
+    Q_OBJECT
+    Q_DISABLE_COPY_MOVE(ServerSelection)
+
+public:
+    using ShowPlayerName = std::function<void(const QString& name)>;
+
+    ServerSelection(const ServerLists& lists, ServerDetails& details, ShowPlayerName showPlayerName, QWidget* window);
+
+    QLabel* serverNameCaption() const { return lblSName; }
+    MulticolorLabel* serverName() const { return mclSName; }
+    // The store index of the selected server, or -1.
+    int server() const { return m_server; }
+
+    void showServer(int server);
+    void showPlayer(int server, int player);
+    // The server answered again.
+    void refreshed(int server);
+    // The labels only; the panes keep the selected server.
+    void clearNames();
+    // The lists were emptied.
+    void clear();
+    void ShowServerName(const QString& name);
+
+private:
+    const ServerLists& m_lists;
+    ServerDetails& m_details;
+    ShowPlayerName m_showPlayerName;
+    QLabel* lblSName = nullptr;
+    MulticolorLabel* mclSName = nullptr;
+    int m_server = -1;
+};
