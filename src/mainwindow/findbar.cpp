@@ -17,7 +17,7 @@ FindBar::FindBar(TargetOf target, QWidget* parent)
     m_button->setAutoDefault(false);
     m_normalPalette = m_box->palette();
     connect(m_box, &QComboBox::editTextChanged, this, &FindBar::run);
-    connect(m_box, &QComboBox::activated, this, &FindBar::run);
+    connect(m_box, &HistoryComboBox::picked, this, &FindBar::run);
     connect(m_box, &HistoryComboBox::enterPressed, this, &FindBar::findNext);
     connect(m_button, &QPushButton::clicked, this, &FindBar::findNext);
 }

@@ -12,7 +12,12 @@ HistoryComboBox::HistoryComboBox(QWidget* parent)
     // completion would add duplicates and change the text under the user.
     setInsertPolicy(QComboBox::NoInsert);
     setCompleter(nullptr);
-    connect(this, &QComboBox::activated, this, [this](int index) { m_picked = index; });
+    connect(this, &QComboBox::activated, this, [this](int index) {
+        if (m_leaving)
+            return;
+        m_picked = index;
+        emit picked(index);
+    });
     connect(lineEdit(), &QLineEdit::textEdited, this, [this] { m_picked = -1; });
 }
 
@@ -63,6 +68,13 @@ void HistoryComboBox::forgetPicked()
     removeItem(m_picked);
     restoreText(-1, text);
     m_picked = -1;
+}
+
+void HistoryComboBox::focusOutEvent(QFocusEvent* event)
+{
+    m_leaving = true;
+    QComboBox::focusOutEvent(event);
+    m_leaving = false;
 }
 
 void HistoryComboBox::keyPressEvent(QKeyEvent* event)

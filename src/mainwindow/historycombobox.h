@@ -25,11 +25,16 @@ public:
 
 signals:
     void enterPressed();
+    // The user chose an entry from the list (with the mouse or the arrow
+    // keys). Qt's activated() also fires when the box loses the focus with
+    // the text of an entry in it; that is no choice.
+    void picked(int index);
 
 protected:
     // The box has the focus, not its line edit (the line edit's focus proxy
     // is the box), so the keys arrive here.
     void keyPressEvent(QKeyEvent* event) override;
+    void focusOutEvent(QFocusEvent* event) override;
 
 private:
     void forgetPicked();
@@ -38,4 +43,5 @@ private:
     void restoreText(int index, const QString& text);
 
     int m_picked = -1;
+    bool m_leaving = false;
 };

@@ -340,6 +340,10 @@ private slots:
         }
         QCOMPARE(seen.size(), 11); // #1 and #10 to #19
         QCOMPARE(find->entries(), QStringList{"#1"});
+        // Leaving the box keeps the match it found.
+        const int found = list->currentIndex().row();
+        w.focus(w.find<HistoryComboBox>("cmbPlayerName"));
+        QCOMPARE(list->currentIndex().row(), found);
 
         const auto clearBox = [&] {
             QTest::keyClick(w.focus(find), Qt::Key_A, Qt::ControlModifier);

@@ -101,6 +101,14 @@ private slots:
         box.remember(QStringLiteral("three"));
         QCOMPARE(edited.count(), edits);
         QCOMPARE(box.currentText(), QStringLiteral("two"));
+        // Nor does leaving the box with an entry's text in it pick it.
+        QSignalSpy picked(&box, &HistoryComboBox::picked);
+        QFocusEvent out(QEvent::FocusOut, Qt::TabFocusReason);
+        QCoreApplication::sendEvent(&box, &out);
+        QCOMPARE(picked.count(), 0);
+        QCOMPARE(box.pickedIndex(), -1);
+        QTest::keyClick(&box, Qt::Key_Delete);
+        QCOMPARE(box.entries(), (QStringList{"one", "two", "three"}));
     }
 
     void editingAfterPickingProtectsTheEntries()
