@@ -20,27 +20,18 @@ namespace {
 constexpr quint16 StartPort = 41700;
 constexpr quint16 MasterPort = 25400;
 
-// The fleet starts before the window that queries it.
-struct StartedFleet {
-    SimFleet fleet{fleetOf(6, MasterPort)};
-    StartedFleet()
-    {
-        fleet.setServer(0, {{"si_name", "^1Locked"}, {"si_usepass", "1"}, {"si_maxplayers", "8"}}, {});
-        fleet.setServer(1, {{"si_name", "^2Open"}, {"si_usepass", "0"}, {"si_maxplayers", "8"}}, {});
-        if (fleet.start())
-            qFatal("fleet did not start");
-    }
-};
-
 // A window that has queried a small fleet; server 0 needs a password.
-struct Joined : StartedFleet, TestWindow {
+struct Joined : RunningFleet, TestWindow {
     Joined()
-        : TestWindow(MasterPort, StartPort, [](SettingsStore& settings) {
+        : RunningFleet(fleetOf(6, MasterPort))
+        , TestWindow(MasterPort, StartPort, [](SettingsStore& settings) {
             settings.save(u"RefreshServers", QStringLiteral("0"));
             settings.save(u"CloseAfterJoin", QStringLiteral("0"));
             settings.save(u"Path", QStringLiteral("/opt/quake4/quake4.x86"));
         })
     {
+        fleet.setServer(0, {{"si_name", "^1Locked"}, {"si_usepass", "1"}, {"si_maxplayers", "8"}}, {});
+        fleet.setServer(1, {{"si_name", "^2Open"}, {"si_usepass", "0"}, {"si_maxplayers", "8"}}, {});
         if (!queryMasters())
             qFatal("the query did not finish");
     }

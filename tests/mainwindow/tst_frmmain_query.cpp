@@ -46,6 +46,19 @@ void addFilter(const TestWindow& w, const QString& variable, const QString& valu
     QTest::keyClick(box, Qt::Key_Return);
 }
 
+// A window that has listed a running fleet.
+struct Listed : RunningFleet, TestWindow {
+    Listed(int servers, quint16 masterPort, bool refreshOnClick)
+        : RunningFleet(fleetOf(servers, masterPort))
+        , TestWindow(masterPort, StartPort, [refreshOnClick](SettingsStore& settings) {
+            settings.save(u"RefreshServers", QLatin1String(refreshOnClick ? "1" : "0"));
+        })
+    {
+        if (!queryMasters())
+            qFatal("the query did not finish");
+    }
+};
+
 } // namespace
 
 class TestFrmMainQuery final : public QObject {
@@ -191,10 +204,8 @@ private slots:
 
     void clickingAServerRefreshesItsRowsInPlace()
     {
-        SimFleet fleet(fleetOf(5, 24600));
-        QVERIFY(!fleet.start());
-        TestWindow w(24600, StartPort);
-        QVERIFY(w.queryMasters());
+        Listed w(5, 24600, true);
+        SimFleet& fleet = w.fleet;
         const int playersBefore = w.visible("lstPlayerList")->rowCount();
 
         int row = 0;
@@ -226,10 +237,8 @@ private slots:
     }
     void filtersRebuildTheVisibleLists()
     {
-        SimFleet fleet(fleetOf(40, 24700));
-        QVERIFY(!fleet.start());
-        TestWindow w(24700, StartPort);
-        QVERIFY(w.queryMasters());
+        Listed w(40, 24700, true);
+        SimFleet& fleet = w.fleet;
         QCOMPARE(w.visible("lstServerList")->rowCount(), 40);
 
         const QByteArray map = fleet.servers().at(0).rules.at(1).second;
@@ -313,11 +322,7 @@ private slots:
 
     void findSelectsAndMarksMisses()
     {
-        SimFleet fleet(fleetOf(20, 25100));
-        QVERIFY(!fleet.start());
-        TestWindow w(25100, StartPort);
-        w.settings().save(u"RefreshServers", QStringLiteral("0"));
-        QVERIFY(w.queryMasters());
+        Listed w(20, 25100, false);
         auto* find = w.find<HistoryComboBox>("cmbFind");
         auto* list = w.find<ReportView>("lstServerList");
         const QColor normal = find->palette().color(QPalette::Base);
@@ -374,11 +379,7 @@ private slots:
 
     void playerViewCopiesAndSelectsTheServer()
     {
-        SimFleet fleet(fleetOf(12, 25200));
-        QVERIFY(!fleet.start());
-        TestWindow w(25200, StartPort);
-        w.settings().save(u"RefreshServers", QStringLiteral("0"));
-        QVERIFY(w.queryMasters());
+        Listed w(12, 25200, false);
         w.find<QTabBar>("tabSelect")->setCurrentIndex(FrmMain::PlayersTab);
         auto* players = w.find<ReportView>("lstPlayerList");
         QVERIFY(players->isVisible());
@@ -407,10 +408,8 @@ private slots:
 
     void rightClickOpensTheMenuWithoutRefreshing()
     {
-        SimFleet fleet(fleetOf(3, 25300));
-        QVERIFY(!fleet.start());
-        TestWindow w(25300, StartPort);
-        QVERIFY(w.queryMasters());
+        Listed w(3, 25300, true);
+        SimFleet& fleet = w.fleet;
         const int requests = fleet.infoRequests();
         auto* list = w.find<ReportView>("lstServerList");
         const QPoint cell = list->visualRect(list->model()->index(1, 0)).center();
@@ -429,11 +428,7 @@ private slots:
 
     void clickedNamesAreDrawnInColour()
     {
-        SimFleet fleet(fleetOf(3, 24800));
-        QVERIFY(!fleet.start());
-        TestWindow w(24800, StartPort);
-        w.settings().save(u"RefreshServers", QStringLiteral("0"));
-        QVERIFY(w.queryMasters());
+        Listed w(3, 24800, false);
         auto* list = w.find<ReportView>("lstServerList");
         QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, list->visualRect(list->model()->index(0, 0)).center());
         const ServerRecord& server = w.window->lists().servers().record(w.window->lists().servers().store().indexOf(

@@ -15,3 +15,15 @@ inline FleetOptions fleetOf(int servers, quint16 masterPort, int delayMs = 0)
     options.seed = masterPort;
     return options;
 }
+
+// A fleet that is up once constructed: a base for fixtures that need the
+// fleet running before the window that queries it exists.
+struct RunningFleet {
+    SimFleet fleet;
+    explicit RunningFleet(const FleetOptions& options)
+        : fleet(options)
+    {
+        if (const auto error = fleet.start())
+            qFatal("the fleet did not start: %s", qPrintable(*error));
+    }
+};
