@@ -182,6 +182,16 @@ private slots:
         QVERIFY(!w.window->queries().isRunning());
     }
 
+    void aStartPortWithoutRoomForThePoolIsRefused()
+    {
+        TestWindow w(24450, 65530);
+        QTest::mouseClick(w.button("cmdGet"), Qt::LeftButton);
+        QCOMPARE(w.status(), QStringLiteral("The start port 65530 is not valid. Choose another in the options."));
+        QCOMPARE(w.statusColour(), QColor(255, 0, 0));
+        QVERIFY(w.button("cmdGet")->isEnabled());
+        QVERIFY(!w.window->queries().isRunning());
+    }
+
     void favouritesAreQueriedFromTheDataFolder()
     {
         SimFleet fleet(fleetOf(4, 24500));

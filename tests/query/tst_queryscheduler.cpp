@@ -49,13 +49,14 @@ class TestQueryScheduler final : public QObject {
 private slots:
     void initTestCase() { qRegisterMetaType<ServerRecord>(); }
 
-    void speedTable()
+    // The master's port is the highest of a query: it decides what fits.
+    void portPlanFitsBelow65536()
     {
-        const int expected[] = {1, 2, 5, 11, 15, 19};
-        for (int speed = 0; speed <= 5; ++speed)
-            QCOMPARE(QuerySpeed::lastSocketIndex(speed, 7), expected[speed]);
-        QCOMPARE(QuerySpeed::lastSocketIndex(6, 19), 19);
-        QCOMPARE(QuerySpeed::lastSocketIndex(-1, 5), 5);
+        QCOMPARE((QuerySpeed::PortPlan{19, 9000}.masterPort()), 9022);
+        QVERIFY((QuerySpeed::PortPlan{19, 65513}.isValid()));
+        QVERIFY(!(QuerySpeed::PortPlan{19, 65514}.isValid()));
+        QVERIFY((QuerySpeed::PortPlan{1, 65531}.isValid()));
+        QVERIFY(!(QuerySpeed::PortPlan{1, 0}.isValid()));
     }
 
     void everyServerAnswersOnceWithItsData()

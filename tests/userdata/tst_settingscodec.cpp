@@ -95,15 +95,6 @@ private slots:
         const QString s = QString(EntryTerminator);
         QCOMPARE(decodeEntries(encodeEntries({"a" + s + "b"})), (QStringList{"a", "b"}));
     }
-
-    void layoutKeys()
-    {
-        QCOMPARE(columnOrderKey(u"S", 0), QStringLiteral("SColumnOrder0"));
-        QCOMPARE(columnWidthKey(u"P", 10), QStringLiteral("PColumnWidth10"));
-        QCOMPARE(columnOrderKey(u"Fi", 1), QStringLiteral("FiColumnOrder1"));
-        QCOMPARE(sortOrderKey(u"PL"), QStringLiteral("PLSortOrder"));
-        QCOMPARE(sortKeyKey(u"SI"), QStringLiteral("SISortKey"));
-    }
 };
 
 QTEST_APPLESS_MAIN(TestSettingsCodec)
