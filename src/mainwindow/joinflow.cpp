@@ -50,13 +50,13 @@ QString JoinFlow::executable()
     if (!path.isEmpty())
         return path;
 #ifdef Q_OS_WIN
-    const QString pattern = QStringLiteral(" (*.exe)");
+    const QString pattern = QStringLiteral("*.exe");
 #else
     // Game binaries on Linux have no extension.
-    const QString pattern = QStringLiteral(" (*)");
+    const QString pattern = QStringLiteral("*");
 #endif
     path = m_desktop.openFileName(m_window, tr("Select your Quake 4 Executable"), QString(),
-                                  tr("Quake 4 Executable") + pattern);
+                                  tr("Quake 4 Executable (%1)").arg(pattern));
     if (!path.isEmpty())
         m_settings.set(Keys::Path, path);
     return path;
