@@ -19,6 +19,14 @@ bool isLastDatagram(const QByteArray& datagram)
     return datagram.size() < MoreFollowLength;
 }
 
+bool surelyTooLong(qsizetype recordBytes, int datagrams, qsizetype gatheredBytes)
+{
+    if (gatheredBytes > MaxReplyBytes)
+        return true;
+    const qsizetype surelyHeld = recordBytes - 2 * qsizetype(replyHeader().size()) * datagrams;
+    return (surelyHeld + 5) / 6 > MaxRecords;
+}
+
 QByteArray removeAll(QByteArray bytes, const QByteArray& pattern)
 {
     if (pattern.isEmpty())

@@ -24,6 +24,16 @@ QByteArray replyHeader();
 
 bool isLastDatagram(const QByteArray& datagram);
 
+// While the reply is gathered: true once it surely holds more records than
+// the counter can address, so gathering can stop. recordBytes counts the
+// bytes of each datagram after its own headers were removed; a header cut
+// in two by a datagram boundary is removed only from the whole, so each
+// datagram may count up to two header lengths more than it will hold. A
+// reply past MaxReplyBytes is refused whatever it holds (a real list of
+// 5,461 records is 33 kB).
+inline constexpr qsizetype MaxReplyBytes = 1 << 20;
+bool surelyTooLong(qsizetype recordBytes, int datagrams, qsizetype gatheredBytes);
+
 // Every occurrence of the pattern removed, scanning from the start.
 QByteArray removeAll(QByteArray bytes, const QByteArray& pattern);
 

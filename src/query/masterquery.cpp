@@ -35,7 +35,6 @@ std::optional<QueryError> MasterQuery::start(const MasterAddress& master, quint1
 {
     stop();
     m_master = master;
-    m_gathered.clear();
     m_dropped = 0;
     auto* socket = new QUdpSocket(this);
     socket->setProxy(QNetworkProxy::NoProxy);
@@ -92,7 +91,17 @@ void MasterQuery::readReplies()
         }
         m_timer->stop();
         m_gathered += datagram.data();
+        m_recordBytes += MasterProtocol::removeAll(datagram.data(), MasterProtocol::replyHeader()).size();
+        ++m_datagrams;
         emit receiving();
+        // A master that streams without end is refused as soon as the list
+        // is surely too long, not when (if ever) its last datagram comes.
+        if (MasterProtocol::surelyTooLong(m_recordBytes, m_datagrams, m_gathered.size())) {
+            stop();
+            emit sorting();
+            emit failed(QueryError{QueryError::Kind::TooManyServers, QString()});
+            return;
+        }
         if (!MasterProtocol::isLastDatagram(datagram.data())) {
             m_timer->start();
             continue;
@@ -104,9 +113,10 @@ void MasterQuery::readReplies()
 
 void MasterQuery::finish()
 {
+    const QByteArray gathered = std::exchange(m_gathered, {});
     stop();
     emit sorting();
-    const auto records = MasterProtocol::cutRecords(m_gathered);
+    const auto records = MasterProtocol::cutRecords(gathered);
     if (!records) {
         emit failed(QueryError{QueryError::Kind::TooManyServers, QString()});
         return;
@@ -124,6 +134,10 @@ void MasterQuery::cancel()
 void MasterQuery::stop()
 {
     m_timer->stop();
+    // The reply may be large; nothing keeps it past its query.
+    m_gathered = QByteArray();
+    m_recordBytes = 0;
+    m_datagrams = 0;
     if (m_lookupId >= 0)
         QHostInfo::abortHostLookup(m_lookupId);
     m_lookupId = -1;

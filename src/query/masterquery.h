@@ -50,5 +50,7 @@ private:
     MasterAddress m_master;
     QHostAddress m_target;
     QByteArray m_gathered;
+    qsizetype m_recordBytes = 0;
+    int m_datagrams = 0;
     int m_dropped = 0;
 };

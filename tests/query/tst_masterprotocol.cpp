@@ -130,6 +130,20 @@ private slots:
         QVERIFY(!cutRecords(limit + record(9, 9, 9, 9, 9)).has_value());
     }
 
+    // Gathering stops early only when no header cut by a boundary could
+    // bring the list back under the limit.
+    void surelyTooLongLeavesRoomForCutHeaders()
+    {
+        const qsizetype limitBytes = qsizetype(MaxRecords) * 6;
+        QVERIFY(!surelyTooLong(limitBytes, 1, limitBytes + 10));
+        QVERIFY(!surelyTooLong(limitBytes + 20, 1, limitBytes + 30));
+        QVERIFY(surelyTooLong(limitBytes + 21, 1, limitBytes + 31));
+        QVERIFY(!surelyTooLong(limitBytes + 24 * 20, 24, limitBytes + 24 * 30));
+        // Header after header holds no records, but cannot go on for ever.
+        QVERIFY(!surelyTooLong(0, 1000, MaxReplyBytes));
+        QVERIFY(surelyTooLong(0, 1000, MaxReplyBytes + 1));
+    }
+
     void emptyReplyGivesNoAddresses()
     {
         QCOMPARE(tableOf(replyHeader()).count(), 0);

@@ -109,6 +109,30 @@ private slots:
         QVERIFY(!session.isRunning());
     }
 
+    // A master that streams full datagrams and never ends its list.
+    void endlessListIsRefusedBeforeTheTimeOut()
+    {
+        SimFleet fleet(fleetOf(1, 23650));
+        QVERIFY(!fleet.start());
+        QList<QPair<quint32, quint16>> listed;
+        for (int i = 0; i < 231 * 40; ++i)
+            listed.append({0x7F000001u, quint16(20000 + i % 1000)});
+        QList<QByteArray> datagrams = SimReplies::serverList(listed);
+        datagrams.removeLast(); // no short datagram: "more follow" for ever
+        fleet.setMasterDatagrams(datagrams);
+        QuerySession session;
+        session.setPool({1, PoolPort});
+        QSignalSpy failed(&session, &QuerySession::failed);
+        QSignalSpy timedOut(&session, &QuerySession::masterTimedOut);
+        QElapsedTimer clock;
+        clock.start();
+        QVERIFY(!session.startMaster(masterAt(23650)));
+        QTRY_COMPARE_WITH_TIMEOUT(failed.count() + timedOut.count(), 1, 4000);
+        QCOMPARE(failed.count(), 1);
+        QCOMPARE(failed.first().at(0).value<QueryError>().kind, QueryError::Kind::TooManyServers);
+        QVERIFY(clock.elapsed() < MasterQuery::TimeoutMs);
+    }
+
     void masterPortInUseStopsBeforeSending()
     {
         QUdpSocket squatter;
