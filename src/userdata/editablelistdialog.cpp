@@ -7,6 +7,7 @@
 
 #include <QAction>
 #include <QHeaderView>
+#include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
 
@@ -36,6 +37,14 @@ EditableListDialog::EditableListDialog(SettingsStore& settings, QAbstractItemMod
     txtEdit->hide();
     connect(txtEdit, &QLineEdit::editingFinished, this, &EditableListDialog::commitEdit);
 
+    lblMessage = new QLabel(this);
+    lblMessage->setObjectName(QStringLiteral("lblMessage"));
+    lblMessage->setWordWrap(true);
+    lblMessage->hide();
+    QPalette alarm = lblMessage->palette();
+    alarm.setColor(QPalette::WindowText, QColor(200, 0, 0));
+    lblMessage->setPalette(alarm);
+
     m_menu = new QMenu(this);
     // In the editors a copied column comes out on one line.
     m_copy = new CopyCommands(
@@ -58,6 +67,12 @@ EditableListDialog::EditableListDialog(SettingsStore& settings, QAbstractItemMod
             [this](const QModelIndex&, const QPoint& globalPos) { m_menu->popup(globalPos); });
     connect(m_list, &ReportView::rowDoubleClicked, this,
             [this](const QModelIndex& index) { editCell(index.row(), index.column()); });
+}
+
+void EditableListDialog::showMessage(const QString& text)
+{
+    lblMessage->setText(text);
+    lblMessage->setVisible(!text.isEmpty());
 }
 
 int EditableListDialog::selectedRow() const

@@ -5,6 +5,7 @@
 class CopyCommands;
 class QAbstractItemModel;
 class QAction;
+class QLabel;
 class QLineEdit;
 class QMenu;
 class ReportView;
@@ -37,6 +38,10 @@ protected:
     int selectedRow() const;
     void retranslateMenu();
     void commitEdit();
+    // A line for what went wrong (a file that could not be written),
+    // hidden while there is nothing to say; the subclass places it.
+    QLabel* messageLine() const { return lblMessage; }
+    void showMessage(const QString& text);
 
     void hideEvent(QHideEvent* event) override;
 
@@ -46,6 +51,7 @@ private:
     QString m_columnsPrefix;
     ReportView* m_list = nullptr;
     QLineEdit* txtEdit = nullptr;
+    QLabel* lblMessage = nullptr;
     QMenu* m_menu = nullptr;
     CopyCommands* m_copy = nullptr;
     QAction* mPopEditCell = nullptr;

@@ -1,5 +1,7 @@
 #include "favourites.h"
 
+#include "datafield.h"
+
 #include <QDir>
 #include <QFile>
 #include <QSaveFile>
@@ -64,10 +66,16 @@ std::optional<QList<Favourite>> parse(const QByteArray& bytes)
             p = text.indexOf(QLatin1Char('\n'), p) + 1;
             continue;
         }
+        if (favourites.size() >= MaxFavourites)
+            break;
         Favourite favourite;
         qsizetype separator = text.indexOf(Separator, p);
-        const qsizetype colon = text.indexOf(QLatin1Char(':'), p);
-        if (colon < 0 || (separator >= 0 && colon > separator) || separator < 0) {
+        // A line without a separator ends the reading; the port's colon is
+        // looked for before the separator only, so each line is read once.
+        if (separator < 0)
+            break;
+        const qsizetype colon = QStringView(text).mid(p, separator - p).indexOf(QLatin1Char(':'));
+        if (colon < 0) {
             // Only a separator at the very start of the file leaves the
             // address empty with port 0.
             if (separator >= 1) {
@@ -75,14 +83,9 @@ std::optional<QList<Favourite>> parse(const QByteArray& bytes)
                 favourite.port = DefaultPort;
             }
         } else {
-            favourite.address = text.mid(p, colon - p);
-            p = colon + 1;
-            separator = text.indexOf(Separator, p);
-            if (separator >= 0)
-                favourite.port = roundedPort(QStringView(text).mid(p, separator - p));
+            favourite.address = text.mid(p, colon);
+            favourite.port = roundedPort(QStringView(text).mid(p + colon + 1, separator - p - colon - 1));
         }
-        if (separator < 0)
-            break;
         p = separator + 1;
         const qsizetype second = text.indexOf(Separator, p);
         if (second < 0)
@@ -108,12 +111,15 @@ std::optional<QList<Favourite>> parse(const QByteArray& bytes)
     return favourites;
 }
 
-std::optional<QList<Favourite>> readFile(const QString& path)
+std::optional<QList<Favourite>> readFile(const QString& path, bool* complete)
 {
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly))
         return std::nullopt;
-    return parse(file.readAll());
+    auto favourites = parse(file.read(MaxFileBytes));
+    if (complete)
+        *complete = file.size() <= MaxFileBytes && (!favourites || favourites->size() < MaxFavourites);
+    return favourites;
 }
 
 AddressTable toAddressTable(const QList<Favourite>& favourites)
@@ -133,11 +139,11 @@ QString addressText(const Favourite& favourite)
 
 QByteArray line(const QString& address, const QString& password, const QString& name)
 {
-    QByteArray bytes = address.toLatin1();
+    QByteArray bytes = dataFileField(address);
     bytes += char(Separator.unicode());
-    bytes += password.toLatin1();
+    bytes += dataFileField(password);
     bytes += char(Separator.unicode());
-    bytes += name.toLatin1();
+    bytes += dataFileField(name);
     bytes += "\r\n";
     return bytes;
 }

@@ -13,6 +13,10 @@
 namespace Favourites {
 
 inline constexpr int DefaultPort = 27960;
+// What the reader takes at most: no real list comes near, and a huge file
+// must not freeze the window or fill the memory.
+inline constexpr int MaxFavourites = 50000;
+inline constexpr qint64 MaxFileBytes = 16 * 1024 * 1024;
 inline const QString FileName = QStringLiteral("favourites.dat");
 // The file in the data folder.
 QString filePath(const QString& dataFolder);
@@ -30,11 +34,14 @@ struct Favourite {
 // missing port reads as 27960, except for an empty address on the very
 // first line (port 0); the name of a last line without its line end loses
 // two characters. Blank lines are skipped; a line without separators ends
-// the reading, since nothing after it can be aligned.
+// the reading, since nothing after it can be aligned. At most
+// MaxFavourites records.
 std::optional<QList<Favourite>> parse(const QByteArray& bytes);
 
-// Reads the file; nothing when it is missing, unreadable or too short.
-std::optional<QList<Favourite>> readFile(const QString& path);
+// Reads the file (its first MaxFileBytes); nothing when it is missing,
+// unreadable or too short. complete, when given, says whether every
+// record of the file was read.
+std::optional<QList<Favourite>> readFile(const QString& path, bool* complete = nullptr);
 
 // The favourites as the scheduler's address table, names and passwords
 // included.
@@ -44,7 +51,9 @@ AddressTable toAddressTable(const QList<Favourite>& favourites);
 // address alone when the port is 0.
 QString addressText(const Favourite& favourite);
 
-// One line of the file: address SOH password SOH name CR LF.
+// One line of the file: address SOH password SOH name CR LF. Line breaks
+// and SOH inside a field (a server may send them in its name) become
+// blanks, so a field never changes the file's structure.
 QByteArray line(const QString& address, const QString& password, const QString& name);
 // The whole file for these rows (address cell, password, name), as the
 // editor's Apply writes it.

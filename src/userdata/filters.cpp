@@ -1,5 +1,7 @@
 #include "filters.h"
 
+#include "datafield.h"
+
 #include <QDir>
 #include <QFile>
 #include <QSaveFile>
@@ -159,9 +161,9 @@ QByteArray toFileBytes(const QList<VariableFilter>& filters)
 {
     QByteArray bytes;
     for (const VariableFilter& filter : filters) {
-        bytes += filter.variable.toLatin1();
+        bytes += dataFileField(filter.variable);
         bytes += char(Separator.unicode());
-        bytes += filter.value.toLatin1();
+        bytes += dataFileField(filter.value);
         bytes += "\r\n";
     }
     return bytes;

@@ -10,6 +10,7 @@
 #include <QEvent>
 #include <QGridLayout>
 #include <QHeaderView>
+#include <QLabel>
 #include <QPushButton>
 
 FavouritesModel::FavouritesModel(QObject* parent)
@@ -125,6 +126,7 @@ FrmFavourites::FrmFavourites(SettingsStore& settings, QString dataFolder, QWidge
     layout->addWidget(cmdOK, 3, 1);
     layout->addWidget(cmdCancel, 3, 2);
     layout->addWidget(cmdApply, 3, 3);
+    layout->addWidget(messageLine(), 4, 0, 1, 5);
     layout->setRowStretch(2, 1);
     layout->setColumnStretch(0, 1);
 
@@ -136,15 +138,18 @@ FrmFavourites::FrmFavourites(SettingsStore& settings, QString dataFolder, QWidge
     connect(cmdApply, &QPushButton::clicked, this, &FrmFavourites::apply);
     connect(cmdOK, &QPushButton::clicked, this, [this] {
         commitEdit();
-        apply();
-        close();
+        // A failed write keeps the dialog, and the user's rows, open.
+        if (apply())
+            close();
     });
     connect(cmdCancel, &QPushButton::clicked, this, &QWidget::close);
 
     QList<FavouritesModel::Row> rows;
-    for (const auto& favourite : Favourites::readFile(m_path).value_or(QList<Favourites::Favourite>{}))
+    for (const auto& favourite : Favourites::readFile(m_path, &m_complete).value_or(QList<Favourites::Favourite>{}))
         rows.append({favourite.name, Favourites::addressText(favourite), favourite.password});
     m_model->setRows(rows);
+    if (!m_complete)
+        sayTooLarge();
 
     QHeaderView* header = list()->header();
     ColumnLayout::restore(this->settings(), Keys::Favourites.columns, *header);
@@ -159,13 +164,31 @@ FrmFavourites::FrmFavourites(SettingsStore& settings, QString dataFolder, QWidge
     resize(540, 320);
 }
 
+void FrmFavourites::sayTooLarge()
+{
+    showMessage(tr("This favourites file is larger than the editor reads (%1 servers or %2 MB). It is shown in "
+                   "part and not saved, so that no server is lost.")
+                    .arg(Favourites::MaxFavourites)
+                    .arg(Favourites::MaxFileBytes / (1024 * 1024)));
+}
+
 bool FrmFavourites::apply()
 {
+    if (!m_complete) {
+        sayTooLarge();
+        return false;
+    }
     QByteArray bytes;
     for (const FavouritesModel::Row& row : m_model->rows())
         bytes += Favourites::line(row.at(FavouritesModel::Address), row.at(FavouritesModel::Password),
                                   row.at(FavouritesModel::Name));
-    return Favourites::writeBytes(m_path, bytes);
+    if (!Favourites::writeBytes(m_path, bytes)) {
+        showMessage(tr("The favourites could not be saved to %1. Your changes are still here.")
+                        .arg(QDir::toNativeSeparators(m_path)));
+        return false;
+    }
+    showMessage(QString());
+    return true;
 }
 
 void FrmFavourites::retranslateUi()

@@ -46,7 +46,9 @@ public:
     FrmFavourites(SettingsStore& settings, QString dataFolder, QWidget* parent = nullptr);
 
     const QList<FavouritesModel::Row>& rows() const { return m_model->rows(); }
-    // Writes the whole file from the list; false when it could not be written.
+    // Writes the whole file from the list; false, with a message in the
+    // dialog, when it could not be written or may not be (a file too large
+    // to be read whole).
     bool apply();
 
 protected:
@@ -59,8 +61,10 @@ protected:
 private:
     void retranslateUi();
     void sortClicked(int column);
+    void sayTooLarge();
 
     QString m_path;
+    bool m_complete = true;
     FavouritesModel* m_model = nullptr;
     ColumnLayout::SortState m_sort;
     QPushButton* cmdOK = nullptr;

@@ -53,7 +53,8 @@ FrmFilters::FrmFilters(SettingsStore& settings, QString dataFolder, QWidget* par
     layout->addWidget(chkIncludeFull, 3, 2);
     layout->addWidget(chkIncludePassworded, 3, 3);
     layout->addWidget(lblExample, 4, 0, 1, 5);
-    layout->addWidget(buttons, 5, 0, 1, 5);
+    layout->addWidget(messageLine(), 5, 0, 1, 5);
+    layout->addWidget(buttons, 6, 0, 1, 5);
     layout->setRowStretch(2, 1);
 
     connect(cmdNew, &QPushButton::clicked, this, &FrmFilters::newRow);
@@ -134,7 +135,13 @@ void FrmFilters::commitCell(int row, int column, const QString& text)
 
 void FrmFilters::save()
 {
-    Filters::writeFile(m_path, m_model->filters());
+    // The lists follow the change all the same; the user must know it will
+    // not be there next time.
+    if (Filters::writeFile(m_path, m_model->filters()))
+        showMessage(QString());
+    else
+        showMessage(tr("The filters could not be saved to %1; this change lasts until the program ends.")
+                        .arg(QDir::toNativeSeparators(m_path)));
 }
 
 void FrmFilters::newRow()

@@ -1,5 +1,6 @@
 #include "favourites.h"
 
+#include <QElapsedTimer>
 #include <QFile>
 #include <QTemporaryDir>
 #include <QTest>
@@ -139,6 +140,50 @@ private slots:
         QVERIFY(Favourites::writeFile(path, {}));
         QVERIFY2(!Favourites::readFile(path), "an editor list without rows leaves an empty file");
         QVERIFY(!Favourites::appendToFile(dir.filePath(QStringLiteral("no/such/dir/favourites.dat")), {}, {}, {}));
+    }
+
+    void hugeFilesAreReadOnceAndBounded()
+    {
+        // Lines without a port once made the reader search the rest of the
+        // file for each line: 5 MB took half a minute on the window's thread.
+        QByteArray portless;
+        for (int i = 0; portless.size() < 5 * 1024 * 1024; ++i)
+            portless += "host" + QByteArray::number(i) + "\x01\x01n\r\n";
+        QElapsedTimer clock;
+        clock.start();
+        const auto read = Favourites::parse(portless);
+        QVERIFY2(clock.elapsed() < 5000, qPrintable(QString::number(clock.elapsed())));
+        QCOMPARE(read->size(), Favourites::MaxFavourites);
+        QCOMPARE(read->at(7), (Favourite{"host7", Favourites::DefaultPort, "n", ""}));
+
+        // The file reader says when it did not take the whole file.
+        QTemporaryDir dir;
+        QFile file(dir.filePath(Favourites::FileName));
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        file.write(portless.left(1000));
+        file.flush();
+        bool complete = false;
+        QVERIFY(Favourites::readFile(file.fileName(), &complete));
+        QVERIFY(complete);
+        file.write(portless);
+        file.flush();
+        QVERIFY(Favourites::readFile(file.fileName(), &complete));
+        QVERIFY(!complete);
+        file.resize(Favourites::MaxFileBytes + 1);
+        QVERIFY(Favourites::readFile(file.fileName(), &complete));
+        QVERIFY(!complete);
+    }
+
+    void networkTextNeverBecomesFileStructure()
+    {
+        // A server may send line breaks or the separator in its name.
+        const QByteArray line =
+            Favourites::line(QStringLiteral("1.2.3.4:1"), QStringLiteral("p\x01w"), QStringLiteral("Evil\r\nname\n"));
+        QCOMPARE(line, QByteArray("1.2.3.4:1\x01p w\x01"
+                                  "Evil  name \r\n"));
+        const auto read = Favourites::parse(line + line);
+        QCOMPARE(read->size(), 2);
+        QCOMPARE(read->at(1).name, QStringLiteral("Evil  name "));
     }
 
     void asAddressTable()

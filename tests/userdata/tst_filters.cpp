@@ -173,6 +173,11 @@ private slots:
         firstFromFileBytes(noise); // must simply not crash
         QCOMPARE(firstFromFileBytes(QByteArray("a\x01\xE9")), (VariableFilter{"a", QStringLiteral("\u00e9")}));
         QVERIFY(!writeFile(QStringLiteral("/nonexistent/dir/filters.dat"), {{"a", "b"}}));
+        // A typed value never adds a line or a column to the file.
+        QCOMPARE(toFileBytes({{"si_map\r\n", "a\x01"
+                                             "b\nc"}}),
+                 QByteArray("si_map  \x01"
+                            "a b c\r\n"));
     }
 };
 

@@ -5,9 +5,11 @@
 
 #include <QAction>
 #include <QClipboard>
+#include <QDir>
 #include <QFile>
 #include <QGuiApplication>
 #include <QHeaderView>
+#include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
 #include <QPushButton>
@@ -89,6 +91,45 @@ private slots:
         QVERIFY(!form.isVisible());
         QCOMPARE(file(), QByteArray());
         QVERIFY(!Favourites::readFile(path()));
+    }
+
+    void aFailedWriteIsToldAndKeepsTheRows()
+    {
+        // A folder where the file should be: no write can succeed.
+        QVERIFY(QDir(m_dir->path()).mkdir(Favourites::FileName));
+        FrmFavourites form(*m_settings, m_dir->path());
+        form.show();
+        auto* message = form.findChild<QLabel*>(QStringLiteral("lblMessage"));
+        QVERIFY(!message->isVisible());
+        button(form, "cmdNew")->click();
+        button(form, "cmdApply")->click();
+        QVERIFY(message->isVisible());
+        QVERIFY2(message->text().contains(QDir::toNativeSeparators(path())), qPrintable(message->text()));
+        button(form, "cmdOK")->click();
+        QVERIFY2(form.isVisible(), "OK closes only when the rows were saved");
+        QCOMPARE(form.rows().size(), 1);
+
+        QVERIFY(QDir(m_dir->path()).rmdir(Favourites::FileName));
+        button(form, "cmdApply")->click();
+        QVERIFY(!message->isVisible());
+        button(form, "cmdOK")->click();
+        QVERIFY(!form.isVisible());
+        QCOMPARE(file(), QByteArray("\x01\x01New Server\r\n"));
+    }
+
+    void aFileTooLargeToReadWholeIsNeverOverwritten()
+    {
+        QByteArray bytes;
+        for (int i = 0; i <= Favourites::MaxFavourites; ++i)
+            bytes += "h:" + QByteArray::number(i) + "\x01\x01n\r\n";
+        write(bytes);
+        FrmFavourites form(*m_settings, m_dir->path());
+        form.show();
+        QCOMPARE(form.rows().size(), Favourites::MaxFavourites);
+        QVERIFY(form.findChild<QLabel*>(QStringLiteral("lblMessage"))->isVisible());
+        button(form, "cmdOK")->click();
+        QVERIFY(form.isVisible());
+        QCOMPARE(file(), bytes);
     }
 
     void copyColumnComesOutOnOneLine()

@@ -6,9 +6,11 @@
 #include <QAction>
 #include <QCheckBox>
 #include <QClipboard>
+#include <QDir>
 #include <QFile>
 #include <QGuiApplication>
 #include <QHeaderView>
+#include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
 #include <QPushButton>
@@ -86,6 +88,21 @@ private slots:
         QCOMPARE(form.filters().size(), 0);
         QCOMPARE(fileBytes(filtersPath()), QByteArray());
         QCOMPARE(changed.count(), 3);
+    }
+
+    void aFailedSaveIsToldButTheListsStillFollow()
+    {
+        QVERIFY(QDir(m_dir->path()).mkdir(Filters::FileName));
+        FrmFilters form(*m_settings, m_dir->path());
+        QSignalSpy changed(&form, &FrmFilters::filtersChanged);
+        form.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&form));
+        QTest::mouseClick(form.findChild<QPushButton*>(QStringLiteral("cmdNew")), Qt::LeftButton);
+        edit(form, 0, 0, QStringLiteral("si_map"));
+        auto* message = form.findChild<QLabel*>(QStringLiteral("lblMessage"));
+        QVERIFY(message->isVisible());
+        QVERIFY2(message->text().contains(QDir::toNativeSeparators(filtersPath())), qPrintable(message->text()));
+        QCOMPARE(changed.count(), 1);
     }
 
     void builtInBoxesAreStoredAtOnce()
