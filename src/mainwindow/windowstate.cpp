@@ -98,6 +98,9 @@ void WindowState::resized()
 
 void WindowState::saveColumnOrders()
 {
+    // Every press in a list saves the orders of all four lists: one write
+    // of the file at most, none when no column moved.
+    const SettingsStore::Batch batch(m_settings);
     for (const List& list : std::as_const(m_controls.lists))
         ColumnLayout::saveOrder(m_settings, list.prefix, *list.view->header());
 }

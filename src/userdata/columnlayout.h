@@ -18,7 +18,11 @@ struct SortState {
     int order = 1;
 
     // A column click: every click flips the direction, also on another column.
-    constexpr SortState flippedTo(int column) const { return SortState{column, (order + 1) % 2}; }
+    constexpr SortState flippedTo(int column) const
+    {
+        // A hand-edited order may be any number: no overflow at the top.
+        return SortState{column, int((qint64(order) + 1) % 2)};
+    }
     constexpr Qt::SortOrder qtOrder() const { return order == 0 ? Qt::AscendingOrder : Qt::DescendingOrder; }
     friend bool operator==(const SortState&, const SortState&) = default;
 };

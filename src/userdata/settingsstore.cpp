@@ -79,6 +79,11 @@ bool SettingsStore::save(QStringView key, const QString& value)
 {
     bool saved = false;
     if (m_batch) {
+        // A value that is already there is not set again, so a batch that
+        // changes nothing leaves the file untouched.
+        const QVariant stored = m_batch->value(key);
+        if (stored.isValid() && asText(stored) == value)
+            return true;
         m_batch->setValue(key, value);
         saved = m_batch->status() == QSettings::NoError;
     } else {

@@ -1,4 +1,5 @@
 #include "colourcodes.h"
+#include "filewrites.h"
 #include "fleet.h"
 #include "frmfilters.h"
 #include "historycombobox.h"
@@ -434,6 +435,19 @@ private slots:
         QCOMPARE(fleet.infoRequests(), requests);
         // The press saved the column orders.
         QVERIFY(w.settings().contains(u"SColumnOrder0"));
+
+        // A press that moves nothing leaves the file alone; one after a
+        // column was moved writes it once.
+        FileWrites writes(w.settings().filePath());
+        QVERIFY(writes.isWatching());
+        QTest::mousePress(list->viewport(), Qt::LeftButton, {}, cell);
+        QTest::mouseRelease(list->viewport(), Qt::LeftButton, {}, cell);
+        QCOMPARE(writes.take(), 0);
+        list->horizontalHeader()->moveSection(7, 0);
+        QTest::mousePress(list->viewport(), Qt::LeftButton, {}, cell);
+        QTest::mouseRelease(list->viewport(), Qt::LeftButton, {}, cell);
+        QCOMPARE(writes.take(), 1);
+        QCOMPARE(w.settings().get(u"SColumnOrder0"), QStringLiteral("7"));
     }
 
     void clickedNamesAreDrawnInColour()

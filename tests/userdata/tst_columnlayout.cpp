@@ -8,6 +8,8 @@
 #include <QTest>
 #include <QTreeView>
 
+#include <limits>
+
 using namespace ColumnLayout;
 
 namespace {
@@ -143,6 +145,15 @@ private slots:
         QCOMPARE(store.get(u"PLSortKey"), QStringLiteral("3"));
         QCOMPARE(store.get(u"PLSortOrder"), QStringLiteral("0"));
         QCOMPARE(readSort(store, u"PL", SortState{}), (SortState{3, 0}));
+
+        // Every click flips, whatever number a hand-edited file holds; a
+        // constant evaluation refuses to compile an overflow.
+        constexpr SortState top = SortState{0, std::numeric_limits<int>::max()}.flippedTo(2);
+        QCOMPARE(top, (SortState{2, 0}));
+        QCOMPARE((SortState{0, 0}).flippedTo(0), (SortState{0, 1}));
+        QCOMPARE((SortState{0, -1}).flippedTo(1), (SortState{1, 0}));
+        store.save(u"SSortOrder", QStringLiteral("2147483647"));
+        QCOMPARE(readSort(store, u"S", SortState{}).flippedTo(0), (SortState{0, 0}));
     }
 };
 
