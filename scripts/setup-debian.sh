@@ -8,6 +8,8 @@ packages=(
     build-essential cmake ninja-build
     qt6-base-dev qt6-tools-dev qt6-tools-dev-tools qt6-l10n-tools qt6-translations-l10n
     xvfb xauth
+    iproute2 util-linux
+    clang libclang-rt-14-dev
 )
 
 missing=()

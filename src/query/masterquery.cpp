@@ -1,8 +1,8 @@
 #include "masterquery.h"
 
+#include "hostlookup.h"
 #include "masterprotocol.h"
 
-#include <QHostInfo>
 #include <QNetworkDatagram>
 #include <QNetworkProxy>
 #include <QTimer>
@@ -11,6 +11,7 @@
 MasterQuery::MasterQuery(QObject* parent)
     : QObject(parent)
     , m_timer(new QTimer(this))
+    , m_lookup(new HostLookup(this))
 {
     m_timer->setSingleShot(true);
     m_timer->setInterval(TimeoutMs);
@@ -18,6 +19,24 @@ MasterQuery::MasterQuery(QObject* parent)
     connect(m_timer, &QTimer::timeout, this, [this] {
         stop();
         emit timedOut();
+    });
+    connect(m_lookup, &HostLookup::finished, this, [this](const HostLookup::Result& result) {
+        if (!m_socket)
+            return;
+        // The documented master has an IPv4 address; IPv6 is the fallback.
+        QHostAddress target = HostLookup::firstOf(result.addresses, QAbstractSocket::IPv4Protocol);
+        if (target.isNull())
+            target = HostLookup::firstOf(result.addresses, QAbstractSocket::IPv6Protocol);
+        if (target.isNull()) {
+            stop();
+            emit failed(QueryError{QueryError::Kind::MasterNotFound, m_master.host,
+                                   result.error.isEmpty() ? QStringLiteral("no address") : result.error});
+            return;
+        }
+        if (auto error = aimAt(target)) {
+            stop();
+            emit failed(*error);
+        }
     });
 }
 
@@ -35,43 +54,67 @@ std::optional<QueryError> MasterQuery::start(const MasterAddress& master, quint1
 {
     stop();
     m_master = master;
+    m_localPort = localPort;
     m_dropped = 0;
-    auto* socket = new QUdpSocket(this);
-    socket->setProxy(QNetworkProxy::NoProxy);
-    if (!socket->bind(QHostAddress::AnyIPv4, localPort, QAbstractSocket::DefaultForPlatform)) {
-        QueryError error{QueryError::Kind::PortUnavailable, QString::number(localPort), socket->errorString()};
-        delete socket;
-        return error;
-    }
-    m_socket = socket;
-    connect(m_socket, &QUdpSocket::readyRead, this, &MasterQuery::readReplies);
+    QUdpSocket* socket = boundSocket(QHostAddress::AnyIPv4);
+    if (!socket)
+        return portError(QHostAddress::AnyIPv4);
+    adopt(socket);
     // The time-out covers the name lookup too: a resolver that never
     // answers must not leave the query hanging.
     m_timer->start();
     const QHostAddress literal(master.host);
-    if (!literal.isNull()) {
-        m_target = literal;
-        send();
+    if (literal.isNull()) {
+        m_lookup->start(master.host);
         return std::nullopt;
     }
-    m_lookupId = QHostInfo::lookupHost(master.host, this, [this](const QHostInfo& info) {
-        m_lookupId = -1;
-        if (!m_socket)
-            return;
-        const auto addresses = info.addresses();
-        const auto v4 = std::find_if(addresses.begin(), addresses.end(), [](const QHostAddress& candidate) {
-            return candidate.protocol() == QAbstractSocket::IPv4Protocol;
-        });
-        if (v4 == addresses.end()) {
-            const QString reason =
-                info.error() == QHostInfo::NoError ? QStringLiteral("no IPv4 address") : info.errorString();
-            stop();
-            emit failed(QueryError{QueryError::Kind::MasterNotFound, m_master.host, reason});
-            return;
-        }
-        m_target = *v4;
-        send();
-    });
+    if (auto error = aimAt(literal)) {
+        stop();
+        return error;
+    }
+    return std::nullopt;
+}
+
+QUdpSocket* MasterQuery::boundSocket(const QHostAddress& any)
+{
+    auto* socket = new QUdpSocket(this);
+    socket->setProxy(QNetworkProxy::NoProxy);
+    if (socket->bind(any, m_localPort, QAbstractSocket::DefaultForPlatform))
+        return socket;
+    m_bindError = socket->errorString();
+    delete socket;
+    return nullptr;
+}
+
+QueryError MasterQuery::portError(const QHostAddress& any) const
+{
+    const QString port = QString::number(m_localPort);
+    return QueryError{QueryError::Kind::PortUnavailable,
+                      any == QHostAddress::AnyIPv6 ? QStringLiteral("%1 (IPv6)").arg(port) : port, m_bindError};
+}
+
+void MasterQuery::adopt(QUdpSocket* socket)
+{
+    if (m_socket) {
+        m_socket->disconnect(this);
+        m_socket->close();
+        m_socket->deleteLater();
+    }
+    m_socket = socket;
+    connect(m_socket, &QUdpSocket::readyRead, this, &MasterQuery::readReplies);
+}
+
+std::optional<QueryError> MasterQuery::aimAt(const QHostAddress& target)
+{
+    // An IPv6 master is asked from the same local port number, on IPv6.
+    if (target.protocol() == QAbstractSocket::IPv6Protocol) {
+        QUdpSocket* socket = boundSocket(QHostAddress::AnyIPv6);
+        if (!socket)
+            return portError(QHostAddress::AnyIPv6);
+        adopt(socket);
+    }
+    m_target = target;
+    send();
     return std::nullopt;
 }
 
@@ -138,9 +181,8 @@ void MasterQuery::stop()
     m_gathered = QByteArray();
     m_recordBytes = 0;
     m_datagrams = 0;
-    if (m_lookupId >= 0)
-        QHostInfo::abortHostLookup(m_lookupId);
-    m_lookupId = -1;
+    m_lookup->abort();
+    m_target.clear();
     if (m_socket) {
         m_socket->disconnect(this);
         m_socket->close();

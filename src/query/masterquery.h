@@ -9,6 +9,7 @@
 
 #include <optional>
 
+class HostLookup;
 class QTimer;
 class QUdpSocket;
 
@@ -39,6 +40,10 @@ signals:
     void failed(const QueryError& error);
 
 private:
+    QUdpSocket* boundSocket(const QHostAddress& any);
+    QueryError portError(const QHostAddress& any) const;
+    void adopt(QUdpSocket* socket);
+    std::optional<QueryError> aimAt(const QHostAddress& target);
     void send();
     void readReplies();
     void finish();
@@ -46,8 +51,10 @@ private:
 
     QUdpSocket* m_socket = nullptr;
     QTimer* m_timer = nullptr;
-    int m_lookupId = -1;
+    HostLookup* m_lookup = nullptr;
     MasterAddress m_master;
+    quint16 m_localPort = 0;
+    QString m_bindError;
     QHostAddress m_target;
     QByteArray m_gathered;
     qsizetype m_recordBytes = 0;

@@ -1,8 +1,8 @@
 #include "queryscheduler.h"
 
+#include "hostlookup.h"
 #include "infoprotocol.h"
 
-#include <QHostInfo>
 #include <QNetworkDatagram>
 #include <QNetworkProxy>
 #include <QTimer>
@@ -18,6 +18,9 @@ QueryScheduler::QueryScheduler(QObject* parent)
         slot.timer->setInterval(TimeoutMs);
         slot.timer->setTimerType(Qt::PreciseTimer);
         connect(slot.timer, &QTimer::timeout, this, [this, index] { timeOut(index); });
+        slot.lookup = new HostLookup(this);
+        connect(slot.lookup, &HostLookup::finished, this,
+                [this, index](const HostLookup::Result& result) { resolved(index, result); });
     }
 }
 
@@ -59,9 +62,7 @@ void QueryScheduler::closeSlot(int index)
 {
     Slot& slot = m_slots[index];
     slot.timer->stop();
-    if (slot.lookupId >= 0)
-        QHostInfo::abortHostLookup(slot.lookupId);
-    slot.lookupId = -1;
+    slot.lookup->abort();
     slot.busy = false;
     slot.refresh = false;
     if (slot.socket) {
@@ -170,29 +171,34 @@ void QueryScheduler::sendOn(int index, const QString& address, int port, bool re
     }
     slot.targetPort = quint16(port);
     const QHostAddress literal(address);
-    if (!literal.isNull()) {
+    if (literal.protocol() == QAbstractSocket::IPv4Protocol) {
         slot.target = literal;
         transmit(index);
         return;
     }
-    // A favourite may name a host; resolve it first (Qt caches lookups).
+    if (!literal.isNull()) {
+        // The pool's sockets are IPv4, as are the addresses masters list.
+        QMetaObject::invokeMethod(
+            this, [this, index] { timeOut(index); }, Qt::QueuedConnection);
+        return;
+    }
+    // A favourite may name a host; resolve it first. The time-out covers
+    // the lookup.
     slot.timer->start();
-    slot.lookupId = QHostInfo::lookupHost(address, this, [this, index](const QHostInfo& info) {
-        Slot& resolved = m_slots[index];
-        resolved.lookupId = -1;
-        if (!resolved.busy)
-            return;
-        const auto addresses = info.addresses();
-        const auto v4 = std::find_if(addresses.begin(), addresses.end(), [](const QHostAddress& candidate) {
-            return candidate.protocol() == QAbstractSocket::IPv4Protocol;
-        });
-        if (v4 == addresses.end()) {
-            timeOut(index);
-            return;
-        }
-        resolved.target = *v4;
-        transmit(index);
-    });
+    slot.lookup->start(address);
+}
+
+void QueryScheduler::resolved(int index, const HostLookup::Result& result)
+{
+    Slot& slot = m_slots[index];
+    if (!slot.busy)
+        return;
+    slot.target = HostLookup::firstOf(result.addresses, QAbstractSocket::IPv4Protocol);
+    if (slot.target.isNull()) {
+        timeOut(index);
+        return;
+    }
+    transmit(index);
 }
 
 void QueryScheduler::transmit(int index)
@@ -242,10 +248,7 @@ void QueryScheduler::timeOut(int index)
     Slot& slot = m_slots[index];
     if (!slot.busy)
         return;
-    if (slot.lookupId >= 0) {
-        QHostInfo::abortHostLookup(slot.lookupId);
-        slot.lookupId = -1;
-    }
+    slot.lookup->abort();
     const bool refresh = slot.refresh;
     ++m_timedOut;
     release(index);

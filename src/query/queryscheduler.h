@@ -1,5 +1,6 @@
 #pragma once
 
+#include "hostlookup.h"
 #include "queryerror.h"
 #include "queryspeed.h"
 #include "records.h"
@@ -69,7 +70,7 @@ private:
         QElapsedTimer clock;
         bool busy = false;
         bool refresh = false;
-        int lookupId = -1;
+        HostLookup* lookup = nullptr;
         QHostAddress target;
         quint16 targetPort = 0;
         QString address;
@@ -80,6 +81,7 @@ private:
     void closeSlot(int index);
     int lowestFreeSlot() const;
     void sendOn(int index, const QString& address, int port, bool refresh);
+    void resolved(int index, const HostLookup::Result& result);
     void transmit(int index);
     void release(int index);
     void readReplies(int index);

@@ -102,6 +102,9 @@ private slots:
         QCOMPARE(runTool({QStringLiteral("--speed"), QStringLiteral("9")}, m_home.path()).exitCode, 2);
         QCOMPARE(runTool({QStringLiteral("--server"), QStringLiteral("nohost")}, m_home.path()).exitCode, 2);
         QCOMPARE(runTool({QStringLiteral("--format"), QStringLiteral("xml")}, m_home.path()).exitCode, 2);
+        const Run six = runTool({QStringLiteral("--server"), QStringLiteral("[::1]:27960")}, m_home.path());
+        QCOMPARE(six.exitCode, 2);
+        QVERIFY(six.err.contains("IPv6 servers are not supported"));
 
         QUdpSocket squatter;
         QVERIFY(squatter.bind(QHostAddress::AnyIPv4, StartPort));
@@ -132,6 +135,40 @@ private slots:
         QCOMPARE(none.exitCode, 4);
         QVERIFY(none.err.contains("no favourites in"));
         QVERIFY(clock.elapsed() < 5000);
+    }
+
+    void aStuckNameLookupDoesNotHoldUpTheExit()
+    {
+        // A network of its own with a name server that swallows every
+        // question: the resolver waits 2 x 4 s, the tool only its 2 s.
+        QTemporaryDir dir;
+        QFile resolv(dir.filePath(QStringLiteral("resolv.conf")));
+        QVERIFY(resolv.open(QIODevice::WriteOnly));
+        resolv.write("nameserver 10.9.9.2\noptions timeout:4 attempts:2\n");
+        resolv.close();
+        const QString script =
+            QStringLiteral("ip link set lo up && ip link add v0 type veth peer name v1 && "
+                           "ip addr add 10.9.9.1/24 dev v0 && ip link set v0 up && ip link set v1 up && "
+                           "mount --bind \"$0\" /etc/resolv.conf && echo READY >&2 && "
+                           "exec \"$1\" --master stuck.example:27650 --start-port %1")
+                .arg(StartPort);
+        QProcess process;
+        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+        environment.insert(QStringLiteral("XDG_CONFIG_HOME"), m_home.path());
+        process.setProcessEnvironment(environment);
+        QElapsedTimer clock;
+        clock.start();
+        process.start(QStringLiteral("unshare"),
+                      {QStringLiteral("-n"), QStringLiteral("-m"), QStringLiteral("sh"), QStringLiteral("-c"), script,
+                       resolv.fileName(), QStringLiteral(QUERY_TOOL)});
+        if (!process.waitForFinished(20000))
+            process.kill();
+        const QByteArray err = process.readAllStandardError();
+        if (!err.contains("READY"))
+            QSKIP(qPrintable("no network namespace here: " + QString::fromLocal8Bit(err.trimmed())));
+        QCOMPARE(process.exitCode(), 1);
+        QVERIFY2(err.contains("Timed Out"), err.constData());
+        QVERIFY2(clock.elapsed() < 5000, qPrintable(QString::number(clock.elapsed())));
     }
 };
 

@@ -103,6 +103,9 @@ int main(int argc, char* argv[])
         const int port = colon > 0 ? server.mid(colon + 1).toInt(&ok) : 0;
         if (colon <= 0 || !ok || port < 1 || port > 65535)
             return usage(QStringLiteral("--server wants HOST:PORT, not %1").arg(server));
+        // Masters list IPv4 servers only, and the pool's sockets are IPv4.
+        if (server.startsWith(QLatin1Char('[')) || server.left(colon).contains(QLatin1Char(':')))
+            return usage(QStringLiteral("IPv6 servers are not supported: %1").arg(server));
         table.add(server.left(colon), port);
     }
     if (direct && table.isEmpty())
