@@ -2,6 +2,8 @@
 
 #include "settingscodec.h"
 
+#include <QFile>
+#include <QLockFile>
 #include <QSettings>
 
 namespace {
@@ -16,6 +18,25 @@ QString asText(const QVariant& value)
     if (value.userType() == QMetaType::QStringList)
         return value.toStringList().join(QLatin1Char(','));
     return value.toString();
+}
+
+// QSettings guards each write with "<file>.lock" and waits until a lock it
+// cannot read is 30 s old. A program killed between creating the lock and
+// writing its process number into it leaves such a lock, and the next
+// program would freeze for that long at its first write. A writer fills
+// its lock at once and holds it for milliseconds, so an unreadable lock
+// that has stood for a second belongs to nobody: taking the lock once with
+// that rule clears it. (A lock naming a process that is gone, Qt clears by
+// itself.)
+void clearAbandonedLock(const QString& settingsFile)
+{
+    const QString lockPath = settingsFile + QStringLiteral(".lock");
+    if (!QFile::exists(lockPath))
+        return;
+    QLockFile lock(lockPath);
+    lock.setStaleLockTime(1000);
+    if (lock.tryLock(3000))
+        lock.unlock();
 }
 
 } // namespace
@@ -38,6 +59,7 @@ SettingsStore::Batch::Batch(SettingsStore& store)
     : m_store(store)
 {
     if (m_store.m_batchDepth++ == 0) {
+        clearAbandonedLock(m_store.m_filePath);
         m_store.m_batch = std::make_unique<QSettings>(m_store.m_filePath, QSettings::IniFormat);
         m_store.m_batch->beginGroup(Group);
     }
@@ -87,6 +109,7 @@ bool SettingsStore::save(QStringView key, const QString& value)
         m_batch->setValue(key, value);
         saved = m_batch->status() == QSettings::NoError;
     } else {
+        clearAbandonedLock(m_filePath);
         QSettings settings(m_filePath, QSettings::IniFormat);
         settings.beginGroup(Group);
         settings.setValue(key, value);

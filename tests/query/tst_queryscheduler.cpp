@@ -5,6 +5,7 @@
 #include <QElapsedTimer>
 #include <QSignalSpy>
 #include <QTest>
+#include <QTimer>
 #include <QUdpSocket>
 
 namespace {
@@ -251,6 +252,63 @@ private slots:
         QVERIFY(error->message().contains(QString::number(PoolPort + 3)));
         QUdpSocket probe;
         QVERIFY(probe.bind(QHostAddress::AnyIPv4, PoolPort));
+    }
+
+    void closedPortsAndAFloodChangeNothing()
+    {
+        // 40 servers, and 10 ports where nothing listens (the system
+        // answers those with "port unreachable").
+        SimFleet fleet(fleetOf(40, 42600));
+        QVERIFY(!fleet.start());
+        AddressTable table = tableOf(fleet);
+        for (quint16 port = 42700; port < 42710; ++port)
+            table.add(QStringLiteral("127.0.0.1"), port);
+        const auto endpoints = [](const QList<ServerRecord>& records) {
+            QStringList list;
+            for (const ServerRecord& record : records)
+                list.append(record.endpointText() + QLatin1Char(' ') + record.name);
+            list.sort();
+            return list;
+        };
+
+        QStringList quiet;
+        {
+            Pool pool(19);
+            pool.scheduler.run(table);
+            QTRY_COMPARE_WITH_TIMEOUT(pool.finished.count(), 1, 10000);
+            QCOMPARE(pool.scheduler.timedOutCount(), 10);
+            QCOMPARE(pool.scheduler.busySockets(), 0);
+            quiet = endpoints(answers(pool.answered));
+        }
+        QCOMPARE(quiet.size(), 40);
+
+        // The same query while strangers send empty, huge and forged
+        // datagrams to every socket of the pool.
+        Pool pool(19);
+        QUdpSocket flooder;
+        QVERIFY(flooder.bind(QHostAddress::LocalHost, 42799));
+        const QByteArray forged = SimReplies::infoResponse({{"si_name", "impostor"}}, {});
+        const QByteArray huge(65507, 'x');
+        int round = 0;
+        QTimer flood;
+        connect(&flood, &QTimer::timeout, &flood, [&] {
+            for (quint16 port = PoolPort; port < PoolPort + 20; ++port) {
+                flooder.writeDatagram(QByteArray(), QHostAddress::LocalHost, port);
+                flooder.writeDatagram(forged, QHostAddress::LocalHost, port);
+                if (round % 10 == 0)
+                    flooder.writeDatagram(huge, QHostAddress::LocalHost, port);
+            }
+            ++round;
+        });
+        flood.start(5);
+        pool.scheduler.run(table);
+        QTRY_COMPARE_WITH_TIMEOUT(pool.finished.count(), 1, 10000);
+        flood.stop();
+        QCOMPARE(endpoints(answers(pool.answered)), quiet);
+        QCOMPARE(pool.scheduler.timedOutCount(), 10);
+        QVERIFY2(pool.scheduler.droppedDatagrams() > 100,
+                 qPrintable(QString::number(pool.scheduler.droppedDatagrams())));
+        QCOMPARE(pool.scheduler.busySockets(), 0);
     }
 
     void unusablePortsCountAsSilent()

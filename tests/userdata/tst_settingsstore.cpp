@@ -1,6 +1,8 @@
 #include "settingskeys.h"
 #include "settingsstore.h"
 
+#include <QDateTime>
+#include <QElapsedTimer>
 #include <QFile>
 #include <QSignalSpy>
 #include <QTemporaryDir>
@@ -126,6 +128,32 @@ private slots:
         const SettingsStore store(file.fileName());
         QCOMPARE(store.getNumber(Keys::Tab.key, 1), 1);
         QCOMPARE(store.get(Keys::PlayerName.key, QStringLiteral("x")), QStringLiteral("x"));
+    }
+
+    void aLockLeftByACrashDoesNotHoldUpSaving()
+    {
+        // Killed after creating its lock, before writing into it.
+        const QString file = path("crashed.ini");
+        QFile lock(file + QStringLiteral(".lock"));
+        QVERIFY(lock.open(QIODevice::WriteOnly));
+        QVERIFY(lock.setFileTime(QDateTime::currentDateTime().addSecs(-5), QFileDevice::FileModificationTime));
+        lock.close();
+        SettingsStore store(file);
+        QElapsedTimer clock;
+        clock.start();
+        QVERIFY(store.save(Keys::PlayerName.key, QStringLiteral("x")));
+        QVERIFY2(clock.elapsed() < 3000, qPrintable(QString::number(clock.elapsed())));
+        QCOMPARE(store.get(Keys::PlayerName.key), QStringLiteral("x"));
+        {
+            // The same in a batch.
+            QVERIFY(lock.open(QIODevice::WriteOnly));
+            QVERIFY(lock.setFileTime(QDateTime::currentDateTime().addSecs(-5), QFileDevice::FileModificationTime));
+            lock.close();
+            const SettingsStore::Batch batch(store);
+            store.save(Keys::Password.key, QStringLiteral("y"));
+        }
+        QCOMPARE(store.get(Keys::Password.key), QStringLiteral("y"));
+        QVERIFY(clock.elapsed() < 6000);
     }
 
     void unwritableLocationIsReported()

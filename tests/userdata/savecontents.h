@@ -1,0 +1,58 @@
+#pragma once
+
+#include "favourites.h"
+#include "filters.h"
+#include "settingsstore.h"
+
+#include <QFile>
+
+#include <optional>
+
+// Two different contents of each data file, written the program's way.
+namespace SaveContents {
+
+enum class Kind { Favourites, Filters, Settings };
+
+inline std::optional<Kind> kindNamed(const QString& name)
+{
+    if (name == QLatin1String("favourites"))
+        return Kind::Favourites;
+    if (name == QLatin1String("filters"))
+        return Kind::Filters;
+    if (name == QLatin1String("settings"))
+        return Kind::Settings;
+    return std::nullopt;
+}
+
+// The second content is longer, so a torn write cannot pass for either.
+inline bool save(Kind kind, const QString& path, bool second)
+{
+    const int rows = second ? 400 : 150;
+    const char fill = second ? 'b' : 'a';
+    switch (kind) {
+    case Kind::Favourites: {
+        QList<Favourites::Favourite> list;
+        for (int i = 0; i < rows; ++i)
+            list.append({QStringLiteral("10.0.%1.%2").arg(i / 256).arg(i % 256), 27960, QString(20, QLatin1Char(fill)),
+                         QString()});
+        return Favourites::writeFile(path, list);
+    }
+    case Kind::Filters: {
+        QList<Filters::VariableFilter> list;
+        for (int i = 0; i < rows; ++i)
+            list.append({QStringLiteral("si_map"), QString(20, QLatin1Char(fill)) + QString::number(i)});
+        return Filters::writeFile(path, list);
+    }
+    case Kind::Settings:
+        return SettingsStore(path).save(u"PlayerNameBox", QString(rows * 20, QLatin1Char(fill)));
+    }
+    return false;
+}
+
+inline QByteArray bytesOf(const QString& path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+} // namespace SaveContents
