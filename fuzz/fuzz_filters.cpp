@@ -10,8 +10,11 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size)
     if (first) {
         const QByteArray written = Filters::toFileBytes({*first});
         FUZZ_CHECK(written.count('\n') == 1);
+        // Read back the same, but for line breaks, which become blanks.
         const auto again = Filters::firstFromFileBytes(written);
-        FUZZ_CHECK(again && again->variable == first->variable);
+        QString variable = first->variable;
+        variable.replace(QLatin1Char('\r'), QLatin1Char(' ')).replace(QLatin1Char('\n'), QLatin1Char(' '));
+        FUZZ_CHECK(again && again->variable == variable);
     }
     const QString text = latin1Of(data, size);
     const QString variable = Filters::storedVariable(text.left(text.size() / 2));

@@ -70,12 +70,13 @@ void ListMenu::addToFavourites()
 void ListMenu::copyAddressOnCtrlC(const ListPane& players)
 {
     m_players = &players;
+    m_playerView = players.view();
     players.view()->installEventFilter(this);
 }
 
 bool ListMenu::eventFilter(QObject* watched, QEvent* event)
 {
-    if (!m_players || watched != m_players->view() || event->type() != QEvent::KeyPress)
+    if (watched != m_playerView || event->type() != QEvent::KeyPress || !m_players)
         return QObject::eventFilter(watched, event);
     const auto* key = static_cast<QKeyEvent*>(event);
     if (key->key() != Qt::Key_C || !(key->modifiers() & Qt::ControlModifier))

@@ -3,6 +3,7 @@
 #include "statustone.h"
 
 #include <QObject>
+#include <QPointer>
 
 #include <functional>
 
@@ -50,5 +51,8 @@ private:
     QAction* mPopAdd = nullptr;
     CopyCommands* m_copy = nullptr;
     QAction* mPopSelServer = nullptr;
-    const ListPane* m_players = nullptr;
+    // Guarded: while the window is torn down the pane may go before its
+    // view, which still sends events on its way out.
+    QPointer<const ListPane> m_players;
+    const QObject* m_playerView = nullptr;
 };
