@@ -20,10 +20,10 @@ inline QString latin1Of(const uint8_t* data, size_t size)
 }
 
 // A broken promise ends the run with the input that broke it.
-#define FUZZ_CHECK(condition)                                                                                      \
-    do {                                                                                                           \
-        if (!(condition)) {                                                                                        \
-            fprintf(stderr, "check failed: %s (%s:%d)\n", #condition, __FILE__, __LINE__);                         \
-            abort();                                                                                               \
-        }                                                                                                          \
+#define FUZZ_CHECK(condition)                                                                                          \
+    do {                                                                                                               \
+        if (!(condition)) {                                                                                            \
+            fprintf(stderr, "check failed: %s (%s:%d)\n", #condition, __FILE__, __LINE__);                             \
+            abort();                                                                                                   \
+        }                                                                                                              \
     } while (false)

@@ -5,6 +5,7 @@
 #include <QAction>
 #include <QClipboard>
 #include <QComboBox>
+#include <QDir>
 #include <QFile>
 #include <QGuiApplication>
 #include <QHeaderView>
@@ -194,6 +195,14 @@ private slots:
         QVERIFY(favourites.open(QIODevice::ReadOnly));
         const QByteArray line = j.address(1).toLatin1() + "\x01\x01Open\r\n";
         QCOMPARE(favourites.readAll(), line + line);
+        favourites.close();
+
+        // A favourites file that cannot be written is said so, in red.
+        QVERIFY(favourites.remove());
+        QVERIFY(QDir(j.dataFile(QString())).mkdir(QStringLiteral("favourites.dat")));
+        j.listAction("mPopAdd")->trigger();
+        QCOMPARE(j.status(), QStringLiteral("The favourites file could not be written."));
+        QCOMPARE(j.statusColour(), QColor(255, 0, 0));
     }
 };
 

@@ -1,4 +1,5 @@
 #include "colourcodes.h"
+#include "favourites.h"
 #include "filewrites.h"
 #include "fleet.h"
 #include "frmfilters.h"
@@ -15,6 +16,7 @@
 #include <QCheckBox>
 #include <QClipboard>
 #include <QComboBox>
+#include <QElapsedTimer>
 #include <QFile>
 #include <QGuiApplication>
 #include <QHeaderView>
@@ -211,6 +213,29 @@ private slots:
         QTRY_COMPARE_WITH_TIMEOUT(w.status(), QStringLiteral("Done"), 4000);
         QCOMPARE(w.visible("lstServerList")->rowCount(), 2);
         QCOMPARE(fleet.masterRequests(), 0);
+    }
+
+    void aHugeFavouritesFileDoesNotFreezeTheWindow()
+    {
+        // 50 MB of favourites: the window reads what it takes at most and
+        // is back at once; the servers are loopback ports nobody uses.
+        TestWindow w(24550, StartPort);
+        QFile file(w.dataFile(QStringLiteral("favourites.dat")));
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        QByteArray block;
+        for (int i = 0; i < 20000; ++i)
+            block += "127.0.0.1:" + QByteArray::number(30000 + i % 20000) + "\x01\x01Some server name\r\n";
+        while (file.size() < 50 * 1024 * 1024)
+            file.write(block);
+        file.close();
+        QElapsedTimer clock;
+        clock.start();
+        QTest::mouseClick(w.button("cmdFav"), Qt::LeftButton);
+        QVERIFY2(clock.elapsed() < 3000, qPrintable(QString::number(clock.elapsed())));
+        QVERIFY(w.window->queries().isRunning());
+        QCOMPARE(w.status(), QStringLiteral("Querying %1 Servers...").arg(Favourites::MaxFavourites));
+        QTest::mouseClick(w.button("cmdCancel"), Qt::LeftButton);
+        QTRY_VERIFY(!w.window->queries().isRunning());
     }
 
     void clickingAServerRefreshesItsRowsInPlace()
