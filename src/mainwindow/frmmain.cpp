@@ -5,6 +5,7 @@
 #include "findbar.h"
 #include "frmfavourites.h"
 #include "frmfilters.h"
+#include "frmoptions.h"
 #include "historycombobox.h"
 #include "joinflow.h"
 #include "joinpanel.h"
@@ -20,6 +21,7 @@
 #include "serverselection.h"
 #include "settingsstore.h"
 #include "statusline.h"
+#include "themeservice.h"
 #include "visiblelists.h"
 #include "windowstate.h"
 
@@ -78,9 +80,21 @@ FrmMain::FrmMain(SettingsStore& settings, Desktop& desktop, Language& language, 
         retranslateUi();
     m_serverPane->restoreSort();
     m_playerPane->restoreSort();
+    m_themes->applyFile();
 }
 
 FrmMain::~FrmMain() = default;
+
+FrmOptions* FrmMain::openOptions()
+{
+    // Modal to this window, but not a nested event loop: the window keeps
+    // drawing and tests can work the dialog.
+    auto* options = new FrmOptions(m_settings, m_desktop, m_language, *m_themes, this);
+    options->setAttribute(Qt::WA_DeleteOnClose);
+    options->setWindowModality(Qt::WindowModal);
+    options->open();
+    return options;
+}
 
 void FrmMain::createControls()
 {
@@ -99,6 +113,7 @@ void FrmMain::createControls()
     tabSelect->addTab(QString());
     tabSelect->setExpanding(false);
 
+    m_themes = new ThemeService(m_dataFolder, this);
     m_lists = new ServerLists(this);
     m_frmFilters = new FrmFilters(m_settings, m_dataFolder, this);
     m_frmFilters->setObjectName(QStringLiteral("frmFilters"));
@@ -130,6 +145,7 @@ void FrmMain::createControls()
     cmdOrganise = makeControl<QPushButton>(this, "cmdOrganise");
     cmdFilters = makeControl<QPushButton>(this, "cmdFilters");
     cmdOptions = makeControl<QPushButton>(this, "cmdOptions");
+    connect(cmdOptions, &QPushButton::clicked, this, &FrmMain::openOptions);
     cmdExit = makeControl<QPushButton>(this, "cmdExit");
 
     WindowState::Controls state;

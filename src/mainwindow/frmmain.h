@@ -11,7 +11,9 @@ class FrmFilters;
 class HistoryComboBox;
 class JoinPanel;
 class QueryBar;
+class FrmOptions;
 class Language;
+class ThemeService;
 class ListPane;
 class MulticolorLabel;
 class QAction;
@@ -59,6 +61,9 @@ public:
 
     const ServerLists& lists() const { return *m_lists; }
     const QueryController& queries() const { return *m_queries; }
+    ThemeService& themes() const { return *m_themes; }
+    // The options dialog, as cmdOptions opens it.
+    FrmOptions* openOptions();
 
     // Rebuild the visible lists from the hidden full lists under the
     // filters (after every change in the filters editor).
@@ -111,6 +116,7 @@ private:
     QueryBar* m_queryBar = nullptr;
     WindowState* m_state = nullptr;
     ListMenu* m_menu = nullptr;
+    ThemeService* m_themes = nullptr;
     FrmFilters* m_frmFilters = nullptr;
 
     QLabel* lblAbout = nullptr;

@@ -49,14 +49,8 @@ QString JoinFlow::executable()
     QString path = m_settings.value(Keys::Path);
     if (!path.isEmpty())
         return path;
-#ifdef Q_OS_WIN
-    const QString pattern = QStringLiteral("*.exe");
-#else
-    // Game binaries on Linux have no extension.
-    const QString pattern = QStringLiteral("*");
-#endif
     path = m_desktop.openFileName(m_window, tr("Select your Quake 4 Executable"), QString(),
-                                  tr("Quake 4 Executable (%1)").arg(pattern));
+                                  tr("Quake 4 Executable (%1)").arg(Desktop::executablePattern()));
     if (!path.isEmpty())
         m_settings.set(Keys::Path, path);
     return path;

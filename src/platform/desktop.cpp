@@ -1,5 +1,6 @@
 #include "desktop.h"
 
+#include <QColorDialog>
 #include <QFileDialog>
 #include <QInputDialog>
 #include <QProcess>
@@ -25,6 +26,15 @@ QMessageBox::Icon toQtIcon(Desktop::Icon icon)
 
 } // namespace
 
+QString Desktop::executablePattern()
+{
+#ifdef Q_OS_WIN
+    return QStringLiteral("*.exe");
+#else
+    return QStringLiteral("*");
+#endif
+}
+
 QMessageBox::StandardButton QtDesktop::message(QWidget* parent, Icon icon, const QString& title, const QString& text,
                                                QMessageBox::StandardButtons buttons)
 {
@@ -46,6 +56,15 @@ std::optional<QString> QtDesktop::inputText(QWidget* parent, const QString& titl
 QString QtDesktop::openFileName(QWidget* parent, const QString& title, const QString& folder, const QString& filter)
 {
     return QFileDialog::getOpenFileName(parent, title, folder, filter);
+}
+
+std::optional<QColor> QtDesktop::pickColour(QWidget* parent, const QColor& start)
+{
+    QColorDialog dialog(start, parent);
+    dialog.setObjectName(QStringLiteral("frmColourPicker"));
+    if (dialog.exec() != QDialog::Accepted)
+        return std::nullopt;
+    return dialog.selectedColor();
 }
 
 bool QtDesktop::startDetached(const QString& program, const QStringList& arguments, const QString& workingFolder)

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QColor>
 #include <QMessageBox>
 #include <QString>
 #include <QStringList>
@@ -17,6 +18,10 @@ public:
 
     virtual ~Desktop() = default;
 
+    // What the executable file dialog lists: the game's Windows binary is
+    // an .exe, its Linux binaries have no extension.
+    static QString executablePattern();
+
     // A modal message box; returns the button the user pressed, or
     // QMessageBox::NoButton when the box was closed some other way.
     virtual QMessageBox::StandardButton message(QWidget* parent, Icon icon, const QString& title, const QString& text,
@@ -29,6 +34,10 @@ public:
     // A modal file-open dialog; an empty text when the user cancelled.
     virtual QString openFileName(QWidget* parent, const QString& title, const QString& folder,
                                  const QString& filter) = 0;
+
+    // The colour picker, opened with a colour; nothing when the user
+    // cancelled.
+    virtual std::optional<QColor> pickColour(QWidget* parent, const QColor& start) = 0;
 
     // Starts a program that outlives this one. The arguments are passed as
     // they are, never through a shell.
@@ -43,5 +52,6 @@ public:
     std::optional<QString> inputText(QWidget* parent, const QString& title, const QString& prompt,
                                      const QString& initialText) override;
     QString openFileName(QWidget* parent, const QString& title, const QString& folder, const QString& filter) override;
+    std::optional<QColor> pickColour(QWidget* parent, const QColor& start) override;
     bool startDetached(const QString& program, const QStringList& arguments, const QString& workingFolder) override;
 };

@@ -55,6 +55,9 @@ inline constexpr FlagSetting CloseAfterJoin{u"CloseAfterJoin", true};
 inline constexpr FlagSetting IncludeEmpty{u"IncludeEmpty", true};
 inline constexpr FlagSetting IncludeFull{u"IncludeFull", true};
 inline constexpr FlagSetting IncludePassworded{u"IncludePassworded", true};
+inline constexpr FlagSetting AutoUpdate{u"AutoUpdate", true};
+inline constexpr FlagSetting Proxy{u"Proxy", false};
+inline constexpr TextSetting ProxyAddress{u"ProxyAddress"};
 // Empty: the game maker's master.
 inline constexpr TextSetting MasterServer{u"MasterServer"};
 

@@ -1,7 +1,9 @@
+#include "frmoptions.h"
 #include "historycombobox.h"
 #include "testwindow.h"
 
 #include <QAction>
+#include <QComboBox>
 #include <QHeaderView>
 #include <QLabel>
 #include <QLayout>
@@ -270,6 +272,24 @@ private slots:
         QTRY_COMPARE(run.button("cmdFav")->text(), QStringLiteral("Query Favorites"));
         run.language.apply(0);
         QTRY_COMPARE(run.button("cmdFav")->text(), QStringLiteral("Query Favourites"));
+    }
+
+    void optionsChangeTheLanguageOfTheWindowAndAreSaved()
+    {
+        TestWindow run(*m_settings, m_dir.path());
+        QVERIFY(run.show());
+        QTest::mouseClick(run.button("cmdOptions"), Qt::LeftButton);
+        auto* options = run.window->findChild<FrmOptions*>(QStringLiteral("frmOptions"));
+        QVERIFY(options);
+        QTRY_VERIFY(options->isVisible());
+        auto* language = options->findChild<QComboBox*>(QStringLiteral("cmbLanguage"));
+        language->setFocus(Qt::MouseFocusReason);
+        QTest::keyClick(language, Qt::Key_Down);
+        QTRY_COMPARE(run.button("cmdFav")->text(), QStringLiteral("Query Favorites"));
+        QTest::mouseClick(options->findChild<QPushButton*>(QStringLiteral("cmdOK")), Qt::LeftButton);
+        QCOMPARE(m_settings->get(u"Language"), QStringLiteral("1"));
+        QTRY_VERIFY(!run.window->findChild<FrmOptions*>(QStringLiteral("frmOptions")));
+        run.language.apply(0);
     }
 
     void aboutLabelOpensTheAboutBox()

@@ -31,6 +31,16 @@ QString ScriptedDesktop::openFileName(QWidget*, const QString& title, const QStr
     return fileAnswers.dequeue();
 }
 
+std::optional<QColor> ScriptedDesktop::pickColour(QWidget*, const QColor& start)
+{
+    colourRequests.append(start);
+    if (colourAnswers.isEmpty()) {
+        ++unexpectedCalls;
+        return std::nullopt;
+    }
+    return colourAnswers.dequeue();
+}
+
 bool ScriptedDesktop::startDetached(const QString& program, const QStringList& arguments, const QString& workingFolder)
 {
     starts.append({program, arguments, workingFolder});

@@ -37,11 +37,13 @@ public:
     QQueue<QMessageBox::StandardButton> messageAnswers;
     QQueue<std::optional<QString>> inputAnswers;
     QQueue<QString> fileAnswers;
+    QQueue<std::optional<QColor>> colourAnswers;
     bool startSucceeds = true;
 
     QList<Message> messages;
     QList<Input> inputs;
     QList<FileRequest> fileRequests;
+    QList<QColor> colourRequests;
     QList<Start> starts;
     int unexpectedCalls = 0;
 
@@ -50,5 +52,6 @@ public:
     std::optional<QString> inputText(QWidget* parent, const QString& title, const QString& prompt,
                                      const QString& initialText) override;
     QString openFileName(QWidget* parent, const QString& title, const QString& folder, const QString& filter) override;
+    std::optional<QColor> pickColour(QWidget* parent, const QColor& start) override;
     bool startDetached(const QString& program, const QStringList& arguments, const QString& workingFolder) override;
 };

@@ -1,0 +1,108 @@
+#pragma once
+
+#include "themefile.h"
+
+#include <QDialog>
+
+class ColourSwatch;
+class Desktop;
+class Language;
+class QCheckBox;
+class QComboBox;
+class QLabel;
+class QLineEdit;
+class QPushButton;
+class QTabWidget;
+class SettingsStore;
+class ThemeService;
+
+// The options: the settings a user may change and the colour themes. The
+// values live in the controls until OK or Apply saves them; language and
+// colours are shown at once on every window, and Cancel puts the saved
+// theme back (a language chosen meanwhile stays shown, unsaved).
+class FrmOptions final : public QDialog {
+    Q_OBJECT
+    Q_DISABLE_COPY_MOVE(FrmOptions)
+
+public:
+    enum Tab { SettingsTab = 0, ThemeTab = 1 };
+
+    FrmOptions(SettingsStore& settings, Desktop& desktop, Language& language, ThemeService& themes,
+               QWidget* parent = nullptr);
+
+    // OK and Apply: false, with the port message, when the start port is
+    // refused; nothing is written then.
+    bool save();
+    // The colours and styles the controls show now.
+    ThemeFile::Theme shownTheme(const QString& name) const;
+    const ThemeFile::Themes& themes() const { return m_themes; }
+
+protected:
+    void changeEvent(QEvent* event) override;
+    void reject() override;
+
+private:
+    void buildSettingsTab(QWidget* page);
+    void buildThemeTab(QWidget* page);
+    void retranslateUi();
+    void load();
+    void loadThemes();
+    void runStartPortRule();
+    void showTheme(const ThemeFile::Theme& theme);
+    void applyLive();
+    void pickColour(ColourSwatch* swatch);
+    void chooseTheme(int index);
+    void saveThemeAsked();
+    bool saveTheme(const QString& name);
+    void removeTheme();
+    void resetToDefaults();
+    void browse();
+    bool writeThemes();
+    void say(const QString& text);
+
+    SettingsStore& m_settings;
+    Desktop& m_desktop;
+    Language& m_language;
+    ThemeService& m_themeService;
+    ThemeFile::Themes m_themes;
+    bool m_loaded = false;
+
+    QTabWidget* tabOptions = nullptr;
+    QLabel* lblLanguage = nullptr;
+    QComboBox* cmbLanguage = nullptr;
+    QLabel* lblSpeed = nullptr;
+    QComboBox* cmbSpeed = nullptr;
+    QCheckBox* chkAutoUpdate = nullptr;
+    QCheckBox* chkCloseAfterJoin = nullptr;
+    QLabel* lblPort = nullptr;
+    QLineEdit* txtStartPort = nullptr;
+    QLabel* lblPortTo = nullptr;
+    QLineEdit* txtEndPort = nullptr;
+    QLabel* lblPortDesc = nullptr;
+    QCheckBox* chkProxy = nullptr;
+    QLineEdit* txtProxy = nullptr;
+    QCheckBox* chkRefresh = nullptr;
+    QLabel* lblPath = nullptr;
+    QLineEdit* txtPath = nullptr;
+    QPushButton* cmdBrowse = nullptr;
+
+    struct Swatch {
+        ColourSwatch* swatch;
+        QLabel* label;
+    };
+    Swatch m_swatches[7] = {};
+    QLabel* lblScroll = nullptr;
+    QComboBox* cmbScroll = nullptr;
+    QLabel* lblTab = nullptr;
+    QComboBox* cmbTab = nullptr;
+    QLabel* lblSaved = nullptr;
+    QComboBox* cmbThemes = nullptr;
+    QPushButton* cmdSave = nullptr;
+    QPushButton* cmdRemove = nullptr;
+
+    QLabel* lblMessage = nullptr;
+    QPushButton* cmdOK = nullptr;
+    QPushButton* cmdCancel = nullptr;
+    QPushButton* cmdApply = nullptr;
+    QPushButton* cmdDefaults = nullptr;
+};

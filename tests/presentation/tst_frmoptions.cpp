@@ -1,0 +1,316 @@
+#include "colourswatch.h"
+#include "frmoptions.h"
+#include "language.h"
+#include "scripteddesktop.h"
+#include "settingsstore.h"
+#include "startportrule.h"
+#include "themeservice.h"
+
+#include <QApplication>
+#include <QCheckBox>
+#include <QComboBox>
+#include <QDir>
+#include <QFile>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QTabWidget>
+#include <QTemporaryDir>
+#include <QTest>
+
+// The options dialog as a user works it: its own settings, data folder and
+// scripted desktop; a fresh dialog per test.
+class TestFrmOptions final : public QObject {
+    Q_OBJECT
+
+    std::unique_ptr<QTemporaryDir> m_dir;
+    std::unique_ptr<SettingsStore> m_settings;
+    std::unique_ptr<ScriptedDesktop> m_desktop;
+    std::unique_ptr<Language> m_language;
+    std::unique_ptr<ThemeService> m_themes;
+    std::unique_ptr<FrmOptions> m_form;
+
+    FrmOptions& open()
+    {
+        m_form = std::make_unique<FrmOptions>(*m_settings, *m_desktop, *m_language, *m_themes);
+        m_form->show();
+        if (!QTest::qWaitForWindowExposed(m_form.get()))
+            qFatal("the options dialog did not show");
+        return *m_form;
+    }
+    template <typename T> T* find(const char* name) const
+    {
+        T* child = m_form->findChild<T*>(QLatin1String(name));
+        if (!child)
+            qFatal("no control named %s", name);
+        return child;
+    }
+    void click(const char* name) const { QTest::mouseClick(find<QAbstractButton>(name), Qt::LeftButton); }
+    // Types into a box as a user does: focus it, select all, type.
+    void type(const char* name, const QString& text) const
+    {
+        auto* box = find<QLineEdit>(name);
+        box->setFocus(Qt::MouseFocusReason);
+        QTest::keyClick(box, Qt::Key_A, Qt::ControlModifier);
+        QTest::keyClick(box, Qt::Key_Delete);
+        QTest::keyClicks(box, text);
+    }
+    void choose(const char* combo, int index) const
+    {
+        auto* box = find<QComboBox>(combo);
+        box->setFocus(Qt::MouseFocusReason);
+        // Home, then Down to the entry: the keys a user presses on a closed box.
+        QTest::keyClick(box, Qt::Key_Home);
+        for (int i = 0; i < index; ++i)
+            QTest::keyClick(box, Qt::Key_Down);
+    }
+    QByteArray themesFile() const
+    {
+        QFile file(m_themes->filePath());
+        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    }
+    static QColor listBase() { return QApplication::palette("QAbstractItemView").color(QPalette::Base); }
+
+private slots:
+    void init()
+    {
+        m_dir = std::make_unique<QTemporaryDir>();
+        m_settings = std::make_unique<SettingsStore>(m_dir->filePath(QStringLiteral("settings.ini")));
+        m_desktop = std::make_unique<ScriptedDesktop>();
+        m_language = std::make_unique<Language>();
+        m_themes = std::make_unique<ThemeService>(m_dir->path());
+        m_themes->applyFile();
+    }
+    void cleanup()
+    {
+        m_form.reset();
+        QCOMPARE(m_desktop->unexpectedCalls, 0);
+    }
+
+    void startPortRule_data()
+    {
+        QTest::addColumn<QString>("typed");
+        QTest::addColumn<int>("speed");
+        QTest::addColumn<QString>("start");
+        QTest::addColumn<QString>("end");
+        QTest::newRow("default") << "9000" << 5 << "9000"
+                                 << "9022";
+        QTest::newRow("dial up") << "9000" << 0 << "9000"
+                                 << "9004";
+        QTest::newRow("each speed's step") << "9000" << 3 << "9000"
+                                           << "9014";
+        QTest::newRow("letter typed last") << "9a" << 5 << "9"
+                                           << "31";
+        QTest::newRow("letter inside stays") << "12x4" << 5 << "12x4"
+                                             << "34";
+        QTest::newRow("above the cap") << "70000" << 5 << "65512"
+                                       << "65534";
+        QTest::newRow("empty") << "" << 5 << ""
+                               << "";
+        QTest::newRow("only a letter") << "x" << 5 << ""
+                                       << "";
+    }
+    void startPortRule()
+    {
+        QFETCH(QString, typed);
+        QFETCH(int, speed);
+        QFETCH(QString, start);
+        QFETCH(QString, end);
+        const StartPortRule::Range range = StartPortRule::apply(typed, speed);
+        QCOMPARE(range.start, start);
+        QCOMPARE(range.end, end);
+    }
+
+    void opensWithTheStoredSettingsAndTheirDefaults()
+    {
+        m_settings->save(u"Speed", QStringLiteral("0"));
+        m_settings->save(u"StartPort", QStringLiteral("12000"));
+        m_settings->save(u"Proxy", QStringLiteral("1"));
+        m_settings->save(u"ProxyAddress", QStringLiteral("proxy:3128"));
+        m_settings->save(u"RefreshServers", QStringLiteral("0"));
+        open();
+        QCOMPARE(find<QComboBox>("cmbLanguage")->currentIndex(), 0);
+        QCOMPARE(find<QComboBox>("cmbLanguage")->itemText(2), QStringLiteral("Deustch"));
+        QCOMPARE(find<QComboBox>("cmbSpeed")->currentText(), QStringLiteral("Dial Up (56k)"));
+        QCOMPARE(find<QLineEdit>("txtEndPort")->text(), QStringLiteral("12004"));
+        QVERIFY(find<QCheckBox>("chkAutoUpdate")->isChecked());
+        QVERIFY(find<QCheckBox>("chkCloseAfterJoin")->isChecked());
+        QVERIFY(!find<QCheckBox>("chkRefresh")->isChecked());
+        QVERIFY(find<QLineEdit>("txtProxy")->isEnabled());
+        QCOMPARE(find<QLineEdit>("txtProxy")->text(), QStringLiteral("proxy:3128"));
+        QCOMPARE(find<QLabel>("lblPortDesc")->text(),
+                 QStringLiteral("Note: Port Range is dependant on the query speed."));
+
+        // Typing in the start port follows the rule key by key.
+        type("txtStartPort", QStringLiteral("9a"));
+        QCOMPARE(find<QLineEdit>("txtStartPort")->text(), QStringLiteral("9"));
+        choose("cmbSpeed", 5);
+        QCOMPARE(find<QLineEdit>("txtEndPort")->text(), QStringLiteral("31"));
+        click("chkProxy");
+        QVERIFY(!find<QLineEdit>("txtProxy")->isEnabled());
+    }
+
+    void saveRefusesAStartPortBelow1023()
+    {
+        open();
+        m_desktop->messageAnswers << QMessageBox::Ok << QMessageBox::Ok;
+        type("txtStartPort", QStringLiteral("1022"));
+        click("cmdOK");
+        QVERIFY2(m_form->isVisible(), "a refused port keeps the dialog open");
+        QCOMPARE(m_desktop->messages.size(), 1);
+        QCOMPARE(m_desktop->messages.last().text,
+                 QStringLiteral("You must type a port number between 1024 and 65512! (Default: 9000)"));
+        QVERIFY(!m_settings->contains(u"StartPort"));
+
+        type("txtStartPort", QString());
+        click("cmdApply");
+        QCOMPARE(m_desktop->messages.size(), 2);
+
+        // 1023 passes although the message names 1024.
+        type("txtStartPort", QStringLiteral("1023"));
+        click("cmdOK");
+        QVERIFY(!m_form->isVisible());
+        QCOMPARE(m_settings->get(u"StartPort"), QStringLiteral("1023"));
+        QCOMPARE(m_settings->get(u"Speed"), QStringLiteral("5"));
+        QCOMPARE(m_settings->get(u"AutoUpdate"), QStringLiteral("1"));
+        QCOMPARE(m_settings->get(u"Proxy"), QStringLiteral("0"));
+    }
+
+    void defaultsDependOnTheTabAndTheAnswer()
+    {
+        m_settings->save(u"RefreshServers", QStringLiteral("0"));
+        m_settings->save(u"Path", QStringLiteral("/games/quake4"));
+        open();
+        choose("cmbSpeed", 2);
+        type("txtStartPort", QStringLiteral("12000"));
+        m_desktop->messageAnswers << QMessageBox::No << QMessageBox::Yes;
+        click("cmdDefaults");
+        QCOMPARE(find<QComboBox>("cmbSpeed")->currentIndex(), 2);
+        click("cmdDefaults");
+        QCOMPARE(m_desktop->messages.last().text,
+                 QStringLiteral("Are you sure you want to reset all settings to their default values?"));
+        QCOMPARE(find<QComboBox>("cmbSpeed")->currentIndex(), 5);
+        QCOMPARE(find<QLineEdit>("txtStartPort")->text(), QStringLiteral("9000"));
+        QCOMPARE(find<QLineEdit>("txtPath")->text(), QString());
+        QVERIFY2(!find<QCheckBox>("chkRefresh")->isChecked(), "Refresh is left as it is");
+        QCOMPARE(m_settings->get(u"Path"), QStringLiteral("/games/quake4")); // nothing saved yet
+
+        // On the Theme tab the colours go back even on No.
+        find<QTabWidget>("tabOptions")->setCurrentIndex(FrmOptions::ThemeTab);
+        m_desktop->colourAnswers << QColor(10, 20, 30);
+        click("lstBackColour");
+        QCOMPARE(listBase(), QColor(10, 20, 30));
+        m_desktop->messageAnswers << QMessageBox::No;
+        click("cmdDefaults");
+        QCOMPARE(find<ColourSwatch>("lstBackColour")->value(), ThemeFile::WindowBackground);
+        QCOMPARE(listBase(), m_themes->toColor(ThemeFile::WindowBackground));
+    }
+
+    void cancelKeepsTheLanguageShownButUnsavedAndPutsTheThemeBack()
+    {
+        open();
+        QCOMPARE(ThemeFile::readFile(m_themes->filePath())->list.size(), 1); // "Default", made at first opening
+        choose("cmbLanguage", 1);
+        QCOMPARE(m_language->current(), 1);
+        m_desktop->colourAnswers << QColor(200, 0, 0);
+        find<QTabWidget>("tabOptions")->setCurrentIndex(FrmOptions::ThemeTab);
+        click("lstBackColour");
+        QCOMPARE(listBase(), QColor(200, 0, 0));
+        click("cmdCancel");
+        QVERIFY(!m_form->isVisible());
+        QCOMPARE(m_language->current(), 1);
+        QVERIFY(!m_settings->contains(u"Language"));
+        QCOMPARE(listBase(), m_themes->toColor(ThemeFile::WindowBackground));
+        m_language->apply(0);
+    }
+
+    void themesAreSavedChosenAndRemoved()
+    {
+        open();
+        find<QTabWidget>("tabOptions")->setCurrentIndex(FrmOptions::ThemeTab);
+        m_desktop->colourAnswers << QColor(0, 0, 128);
+        click("frmBackColour");
+        choose("cmbTab", 1);
+        m_desktop->inputAnswers << QString(QStringLiteral("Navy"));
+        click("cmdSave");
+        QCOMPARE(m_desktop->inputs.last().prompt, QStringLiteral("Please enter a name for this theme"));
+        ThemeFile::Themes saved = *ThemeFile::readFile(m_themes->filePath());
+        QCOMPARE(saved.current, QStringLiteral("Navy"));
+        QCOMPARE(saved.list.size(), 2);
+        QCOMPARE(saved.list.at(1).formBack, ThemeFile::rgbColour(0, 0, 128));
+        QCOMPARE(saved.list.at(1).tabStyle, qint16(ThemeFile::LargeTabs));
+
+        // An empty answer saves nothing; the same name again replaces.
+        m_desktop->inputAnswers << QString();
+        click("cmdSave");
+        QCOMPARE(ThemeFile::readFile(m_themes->filePath())->list.size(), 2);
+        m_desktop->colourAnswers << QColor(0, 0, 64);
+        click("frmBackColour");
+        m_desktop->inputAnswers << QString(QStringLiteral("Navy"));
+        click("cmdSave");
+        saved = *ThemeFile::readFile(m_themes->filePath());
+        QCOMPARE(saved.list.size(), 2);
+        QCOMPARE(saved.list.at(1).formBack, ThemeFile::rgbColour(0, 0, 64));
+
+        // Choosing "Default" shows it at once; removing it rewrites the file.
+        auto* themes = find<QComboBox>("cmbThemes");
+        themes->setFocus(Qt::MouseFocusReason);
+        QTest::keyClick(themes, Qt::Key_Up);
+        QCOMPARE(themes->currentText(), QStringLiteral("Default"));
+        QCOMPARE(find<ColourSwatch>("frmBackColour")->value(), ThemeFile::ButtonFace);
+        QCOMPARE(QApplication::palette().color(QPalette::Window), m_themes->toColor(ThemeFile::ButtonFace));
+        click("cmdRemove");
+        saved = *ThemeFile::readFile(m_themes->filePath());
+        QCOMPARE(saved.list.size(), 1);
+        QCOMPARE(saved.list.first().name, QStringLiteral("Navy"));
+        QCOMPARE(themes->count(), 1);
+    }
+
+    void okSavesTheShownThemeUnderItsName()
+    {
+        open();
+        find<QTabWidget>("tabOptions")->setCurrentIndex(FrmOptions::ThemeTab);
+        choose("cmbScroll", 2);
+        click("cmdOK");
+        const ThemeFile::Themes saved = *ThemeFile::readFile(m_themes->filePath());
+        QCOMPARE(saved.current, QStringLiteral("Default"));
+        QCOMPARE(ThemeFile::currentTheme(saved)->progressType, qint16(ThemeFile::Smooth));
+        // The next start shows it.
+        ThemeService again(m_dir->path());
+        again.applyFile();
+        QCOMPARE(again.applied().progressType, qint16(ThemeFile::Smooth));
+    }
+
+    void aThemeFileThatCannotBeWrittenNeverBlocksTheSettings()
+    {
+        QVERIFY(QDir(m_dir->path()).mkdir(ThemeFile::FileName));
+        open();
+        auto* message = find<QLabel>("lblMessage");
+        QVERIFY(message->isVisible());
+        QVERIFY2(message->text().contains(QDir::toNativeSeparators(m_themes->filePath())), qPrintable(message->text()));
+        choose("cmbSpeed", 1);
+        click("cmdOK");
+        QVERIFY(!m_form->isVisible());
+        QCOMPARE(m_settings->get(u"Speed"), QStringLiteral("1"));
+    }
+
+    void browsePutsTheChosenExecutableInTheBox()
+    {
+        open();
+        m_desktop->fileAnswers << QStringLiteral("/opt/quake4/quake4.x86");
+        click("cmdBrowse");
+        QCOMPARE(m_desktop->fileRequests.last().title, QStringLiteral("Select your Quake 4 Executable"));
+        QCOMPARE(m_desktop->fileRequests.last().filter,
+                 QStringLiteral("Quake 4 Executable (%1)").arg(Desktop::executablePattern()));
+        QCOMPARE(find<QLineEdit>("txtPath")->text(), QStringLiteral("/opt/quake4/quake4.x86"));
+        m_desktop->fileAnswers << QString();
+        click("cmdBrowse");
+        QCOMPARE(find<QLineEdit>("txtPath")->text(), QStringLiteral("/opt/quake4/quake4.x86"));
+        click("cmdApply");
+        QVERIFY(m_form->isVisible());
+        QCOMPARE(m_settings->get(u"Path"), QStringLiteral("/opt/quake4/quake4.x86"));
+    }
+};
+
+QTEST_MAIN(TestFrmOptions)
+#include "tst_frmoptions.moc"
