@@ -42,20 +42,30 @@ private slots:
 
     void theGameGetsItsArgumentsAndFolder()
     {
+        // No shell in between: whatever a name or password holds arrives
+        // as one argument each, exactly.
         QTemporaryDir dir;
         const QString record = dir.filePath(QStringLiteral("args.txt"));
         qputenv("Q4V_RECORD_TO", record.toUtf8());
-        const JoinCommand command = JoinCommand::make(QStringLiteral(RECORD_ARGS), QStringLiteral("Name \"x\""),
-                                                      QStringLiteral("127.0.0.1:28004"), QStringLiteral("$HOME pw"));
+        const JoinCommand command = JoinCommand::make(
+            QStringLiteral(RECORD_ARGS), QStringLiteral("Name \"x\" 'y'; $(touch gotcha) `id`\nsecond line"),
+            QStringLiteral("127.0.0.1:28004"), QStringLiteral("$HOME pw;|&>out\r\n"));
         QtDesktop desktop;
         QVERIFY(desktop.startDetached(command.program, command.arguments, command.workingFolder));
         QTRY_VERIFY_WITH_TIMEOUT(QFile::exists(record) && QFile(record).size() > 0, 5000);
         QTest::qWait(100);
         QFile file(record);
         QVERIFY(file.open(QIODevice::ReadOnly));
-        const QStringList lines = QString::fromUtf8(file.readAll()).split(QLatin1Char('\n'), Qt::SkipEmptyParts);
-        QCOMPARE(QDir(lines.first()).canonicalPath(), QDir(command.workingFolder).canonicalPath());
-        QCOMPARE(lines.mid(1), command.arguments);
+        QList<QByteArray> fields = file.readAll().split('\0');
+        QVERIFY(fields.size() >= 2 && fields.last().isEmpty());
+        fields.removeLast();
+        QCOMPARE(QDir(QString::fromUtf8(fields.first())).canonicalPath(), QDir(command.workingFolder).canonicalPath());
+        QStringList arguments;
+        for (const QByteArray& field : fields.mid(1))
+            arguments.append(QString::fromUtf8(field));
+        QCOMPARE(arguments, command.arguments);
+        QVERIFY(!QFile::exists(QDir(command.workingFolder).filePath(QStringLiteral("gotcha"))));
+        QVERIFY(!QFile::exists(QStringLiteral("gotcha")));
     }
 };
 
