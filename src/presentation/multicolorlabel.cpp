@@ -1,5 +1,7 @@
 #include "multicolorlabel.h"
 
+#include "contrast.h"
+
 #include <QEvent>
 #include <QPainter>
 
@@ -79,10 +81,20 @@ void MulticolorLabel::paintEvent(QPaintEvent*)
     painter.setFont(font());
     const QFontMetrics metrics(font());
     const int baseline = (height() - metrics.height()) / 2 + metrics.ascent();
+    const QColor background = palette().color(QPalette::Window);
     int x = 2;
     for (int i = 0; i < m_caption.size(); ++i) {
-        painter.setPen(m_colours.at(i));
-        painter.drawText(x, baseline, QString(m_caption.at(i)));
+        const QString character(m_caption.at(i));
+        const QColor colour = m_colours.at(i);
+        // Each character keeps its colour; one that would vanish into the
+        // background (white on light grey) gets a thin outline that does not.
+        if (Contrast::ratio(colour, background) < Contrast::Legible) {
+            painter.setPen(Contrast::outlineFor(colour));
+            for (const QPoint offset : {QPoint(-1, 0), QPoint(1, 0), QPoint(0, -1), QPoint(0, 1)})
+                painter.drawText(x + offset.x(), baseline + offset.y(), character);
+        }
+        painter.setPen(colour);
+        painter.drawText(x, baseline, character);
         x += metrics.horizontalAdvance(m_caption.at(i));
     }
 }

@@ -1,3 +1,4 @@
+#include "contrast.h"
 #include "multicolorlabel.h"
 
 #include <QImage>
@@ -55,6 +56,47 @@ private slots:
             }
         }
         QVERIFY2(red && green, "red on the left, green on the right");
+    }
+
+    void contrastFollowsTheWcagFormula()
+    {
+        QCOMPARE(qRound(Contrast::ratio(Qt::black, Qt::white)), 21);
+        QCOMPARE(Contrast::ratio(Qt::red, Qt::red), 1.0);
+        // The window grey and white: far below legible.
+        QVERIFY(Contrast::ratio(QColor(239, 239, 239), Qt::white) < 1.2);
+        QVERIFY(Contrast::ratio(QColor(118, 118, 118), Qt::white) >= 4.5); // the web's lightest legible grey
+        QCOMPARE(Contrast::outlineFor(Qt::white), QColor(Qt::black));
+        QCOMPARE(Contrast::outlineFor(Qt::darkBlue), QColor(Qt::white));
+    }
+
+    void lightCharactersOnALightBackgroundGetAnOutline()
+    {
+        // "^7" white on the window's light grey: the white stays, and dark
+        // pixels around it make it readable. Red on the same grey needs none.
+        const auto darkPixels = [](const QString& coded) {
+            MulticolorLabel label;
+            label.setBackColor(QColor(239, 239, 239));
+            QFont big = label.font();
+            big.setPixelSize(24);
+            label.setFont(big);
+            label.setColouredText(ColourCodes::ShowPlayerName(coded));
+            label.resize(label.sizeHint());
+            const QImage image = label.grab().toImage();
+            int dark = 0;
+            int white = 0;
+            for (int y = 0; y < image.height(); ++y) {
+                for (int x = 0; x < image.width(); ++x) {
+                    const QColor pixel = image.pixelColor(x, y);
+                    dark += pixel.lightness() < 80;
+                    white += pixel.red() > 250 && pixel.green() > 250 && pixel.blue() > 250;
+                }
+            }
+            return std::pair{dark, white};
+        };
+        const auto [outlined, white] = darkPixels(QStringLiteral("^7WW"));
+        QVERIFY2(outlined > 20, qPrintable(QString::number(outlined)));
+        QVERIFY(white > 0);
+        QCOMPARE(darkPixels(QStringLiteral("^1WW")).first, 0);
     }
 };
 
