@@ -5,13 +5,43 @@
 #include "settingsstore.h"
 
 #include <QApplication>
+#include <QCommandLineParser>
+
+namespace {
+
+void nameTheProgram()
+{
+    QCoreApplication::setOrganizationName(QStringLiteral("Quake 4 Vantage"));
+    QCoreApplication::setApplicationName(QStringLiteral("Quake 4 Vantage"));
+    QCoreApplication::setApplicationVersion(QStringLiteral(Q4V_VERSION));
+}
+
+// --help and --version answer before anything needs a display, so they
+// work over ssh and in scripts. Other options are left for Qt's own
+// (-platform, -style, ...), which the GUI application reads.
+void answerInformationOptions(int argc, char* argv[])
+{
+    QCoreApplication probe(argc, argv);
+    nameTheProgram();
+    QCommandLineParser parser;
+    parser.setApplicationDescription(QStringLiteral("A server browser for Quake 4: finds servers and players, "
+                                                    "and joins a game with a double click."));
+    parser.addHelpOption();
+    parser.addVersionOption();
+    parser.parse(QCoreApplication::arguments());
+    if (parser.isSet(QStringLiteral("help")))
+        parser.showHelp(0);
+    if (parser.isSet(QStringLiteral("version")))
+        parser.showVersion();
+}
+
+} // namespace
 
 int main(int argc, char* argv[])
 {
+    answerInformationOptions(argc, argv);
     QApplication app(argc, argv);
-    QApplication::setOrganizationName(QStringLiteral("Quake 4 Vantage"));
-    QApplication::setApplicationName(QStringLiteral("Quake 4 Vantage"));
-    QApplication::setApplicationVersion(QStringLiteral(Q4V_VERSION));
+    nameTheProgram();
 
     SettingsStore settings;
     QtDesktop desktop;
