@@ -8,10 +8,9 @@
 MulticolorLabel::MulticolorLabel(QWidget* parent)
     : QWidget(parent)
     , m_defaultColor(palette().color(QPalette::ButtonText))
-    , m_backColor(palette().color(QPalette::Button))
 {
+    // Until a back colour is set, the window's (and its theme's) shows.
     setAutoFillBackground(true);
-    setBackColor(m_backColor);
     setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
 }
 

@@ -30,7 +30,7 @@ public:
 
     QColor defaultColor() const { return m_defaultColor; }
     void setDefaultColor(const QColor& colour);
-    QColor backColor() const { return m_backColor; }
+    QColor backColor() const { return m_backColor.isValid() ? m_backColor : palette().color(QPalette::Window); }
     void setBackColor(const QColor& colour);
 
     // Caption and colours at once, as the renderers produce them.

@@ -65,24 +65,42 @@ ThemeFile::Colour ThemeService::fromColor(const QColor& color)
     return ThemeFile::rgbColour(color.red(), color.green(), color.blue());
 }
 
-QString ThemeService::styleSheet(const ThemeFile::Theme& theme, const QColor& progressBack, const QColor& progressBar)
+QString ThemeService::styleSheet(const ThemeFile::Theme& theme, const QPalette& system,
+                                 const std::function<QColor(ThemeFile::Colour)>& colourOf)
 {
-    QString sheet = QStringLiteral("QProgressBar { background-color: %1; border: 1px solid palette(dark); }")
-                        .arg(progressBack.name());
+    const QString listBack = colourOf(theme.listBack).name();
+    const QString listText = colourOf(theme.listText).name();
+    const QString textBack = colourOf(theme.textBack).name();
+    const QString textText = colourOf(theme.textText).name();
+    const QString selected = system.color(QPalette::Highlight).name();
+    const QString onSelected = system.color(QPalette::HighlightedText).name();
+    QString sheet = QStringLiteral("QTableView, QTreeView, QListView { background-color: %1; color: %2; "
+                                   "alternate-background-color: %1; selection-background-color: %3; "
+                                   "selection-color: %4; }")
+                        .arg(listBack, listText, selected, onSelected);
+    sheet += QStringLiteral("QLineEdit, QComboBox, QComboBox QAbstractItemView { background-color: %1; color: %2; "
+                            "selection-background-color: %3; selection-color: %4; }")
+                 .arg(textBack, textText, selected, onSelected);
+
+    const QString progressBack = colourOf(theme.progressBack).name();
+    const QString progressBar = colourOf(theme.progressBar).name();
+    sheet +=
+        QStringLiteral("QProgressBar { background-color: %1; border: 1px solid palette(dark); }").arg(progressBack);
     switch (theme.progressType) {
     case ThemeFile::Standard:
         // The percentage in the middle over a plain bar.
-        sheet += QStringLiteral("QProgressBar { text-align: center; } QProgressBar::chunk { background-color: %1; }")
-                     .arg(progressBar.name());
+        sheet += QStringLiteral("QProgressBar { text-align: center; color: %2; } "
+                                "QProgressBar::chunk { background-color: %1; }")
+                     .arg(progressBar, textText);
         break;
     case ThemeFile::Smooth:
         sheet += QStringLiteral("QProgressBar { color: transparent; } QProgressBar::chunk { background-color: %1; }")
-                     .arg(progressBar.name());
+                     .arg(progressBar);
         break;
     default: // Segmented, also for an index the list does not have
         sheet += QStringLiteral("QProgressBar { color: transparent; } QProgressBar::chunk { background-color: %1; "
                                 "width: 8px; margin: 1px; }")
-                     .arg(progressBar.name());
+                     .arg(progressBar);
         break;
     }
     if (theme.tabStyle == ThemeFile::LargeTabs)
@@ -106,19 +124,8 @@ void ThemeService::apply(const ThemeFile::Theme& theme)
     windows.setColor(QPalette::ButtonText, onForm);
     QApplication::setPalette(windows);
 
-    QPalette lists = windows;
-    lists.setColor(QPalette::Base, toColor(theme.listBack));
-    lists.setColor(QPalette::AlternateBase, toColor(theme.listBack));
-    lists.setColor(QPalette::Text, toColor(theme.listText));
-    QApplication::setPalette(lists, "QAbstractItemView");
-
-    QPalette boxes = windows;
-    boxes.setColor(QPalette::Base, toColor(theme.textBack));
-    boxes.setColor(QPalette::Text, toColor(theme.textText));
-    boxes.setColor(QPalette::ButtonText, toColor(theme.textText));
-    QApplication::setPalette(boxes, "QLineEdit");
-    QApplication::setPalette(boxes, "QComboBox");
-
-    qApp->setStyleSheet(styleSheet(theme, toColor(theme.progressBack), toColor(theme.progressBar)));
+    // Lists and boxes by style sheet: a palette set for a class reaches
+    // neither a view's viewport nor a box that set its own.
+    qApp->setStyleSheet(styleSheet(theme, m_system, [this](ThemeFile::Colour colour) { return toColor(colour); }));
     emit applied(theme);
 }

@@ -6,10 +6,12 @@
 #include <QObject>
 #include <QPalette>
 
+#include <functional>
+
 // Applies a theme to every window of the program, in one place: the
-// application's palettes (windows, lists, text and combo boxes) and one
-// style sheet for what palettes cannot say (the progress bar's look and
-// the tab size). Windows never colour themselves.
+// application's palette for the windows and one style sheet for lists,
+// text and combo boxes, the progress bar's look and the tab size. Windows
+// never colour themselves.
 class ThemeService final : public QObject {
     Q_OBJECT
     Q_DISABLE_COPY_MOVE(ThemeService)
@@ -28,8 +30,10 @@ public:
     // A stored colour as shown here: system colours follow the platform.
     QColor toColor(ThemeFile::Colour colour) const;
     static ThemeFile::Colour fromColor(const QColor& color);
-    // The style sheet for a progress bar type and tab style.
-    static QString styleSheet(const ThemeFile::Theme& theme, const QColor& progressBack, const QColor& progressBar);
+    // The style sheet of a theme: list and box colours, the progress bar's
+    // look and the tab size.
+    static QString styleSheet(const ThemeFile::Theme& theme, const QPalette& system,
+                              const std::function<QColor(ThemeFile::Colour)>& colourOf);
 
 signals:
     void applied(const ThemeFile::Theme& theme);

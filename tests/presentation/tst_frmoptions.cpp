@@ -14,6 +14,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QTableView>
 #include <QTabWidget>
 #include <QTemporaryDir>
 #include <QTest>
@@ -69,7 +70,13 @@ class TestFrmOptions final : public QObject {
         QFile file(m_themes->filePath());
         return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
     }
-    static QColor listBase() { return QApplication::palette("QAbstractItemView").color(QPalette::Base); }
+    // What a list shows as its background under the theme now applied.
+    static QColor listBase()
+    {
+        QTableView list;
+        list.ensurePolished();
+        return list.viewport()->palette().color(list.viewport()->backgroundRole());
+    }
 
 private slots:
     void init()
