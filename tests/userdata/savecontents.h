@@ -3,6 +3,7 @@
 #include "favourites.h"
 #include "filters.h"
 #include "settingsstore.h"
+#include "themefile.h"
 
 #include <QFile>
 
@@ -11,7 +12,7 @@
 // Two different contents of each data file, written the program's way.
 namespace SaveContents {
 
-enum class Kind { Favourites, Filters, Settings };
+enum class Kind { Favourites, Filters, Settings, Themes };
 
 inline std::optional<Kind> kindNamed(const QString& name)
 {
@@ -21,6 +22,8 @@ inline std::optional<Kind> kindNamed(const QString& name)
         return Kind::Filters;
     if (name == QLatin1String("settings"))
         return Kind::Settings;
+    if (name == QLatin1String("themes"))
+        return Kind::Themes;
     return std::nullopt;
 }
 
@@ -45,6 +48,12 @@ inline bool save(Kind kind, const QString& path, bool second)
     }
     case Kind::Settings:
         return SettingsStore(path).save(u"PlayerNameBox", QString(rows * 20, QLatin1Char(fill)));
+    case Kind::Themes: {
+        ThemeFile::Themes themes;
+        for (int i = 0; i < rows / 10; ++i)
+            ThemeFile::saveTheme(themes, ThemeFile::systemTheme(QString(8, QLatin1Char(fill)) + QString::number(i)));
+        return ThemeFile::writeFile(path, themes);
+    }
     }
     return false;
 }

@@ -19,6 +19,7 @@ private slots:
         QTest::newRow("favourites.dat") << QStringLiteral("favourites");
         QTest::newRow("filters.dat") << QStringLiteral("filters");
         QTest::newRow("Settings.ini") << QStringLiteral("settings");
+        QTest::newRow("Themes.ini") << QStringLiteral("themes");
     }
 
     void killedWhileSavingLeavesAWholeFile()
