@@ -153,6 +153,7 @@ void FrmMain::createControls()
     state.tabs = tabSelect;
     state.serverList = rzrPSI;
     state.panes = m_details->splitter();
+    state.firstPaneDefault = [this] { return m_details->playersPaneWidth(); };
     state.lists = {{m_playerPane->view(), Keys::PlayerList.columns},
                    {m_serverPane->view(), Keys::ServerList.columns},
                    {m_details->players(), Keys::ServerPlayers.columns},

@@ -8,6 +8,7 @@
 
 #include <QHeaderView>
 #include <QMenu>
+#include <QScrollBar>
 #include <QSplitter>
 
 ServerDetails::ServerDetails(SettingsStore& settings, QWidget* parent)
@@ -37,6 +38,15 @@ ServerDetails::ServerDetails(SettingsStore& settings, QWidget* parent)
     setUp(m_playersPane, QStringLiteral("mPopupAltPlayers"), QStringLiteral("P"));
     setUp(m_rulesPane, QStringLiteral("mPopupAltServerInfo"), QStringLiteral("SI"));
     retranslate();
+}
+
+int ServerDetails::playersPaneWidth() const
+{
+    const QHeaderView* header = m_players->header();
+    int width = 0;
+    for (int column = 0; column < header->count(); ++column)
+        width += header->isSectionHidden(column) ? 0 : header->sectionSize(column);
+    return width + 2 * m_players->frameWidth() + m_players->verticalScrollBar()->sizeHint().width();
 }
 
 void ServerDetails::setUp(Pane& pane, const QString& menuName, const QString& suffix)

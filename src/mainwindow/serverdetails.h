@@ -21,6 +21,9 @@ class ServerDetails final : public QObject {
     Q_DISABLE_COPY_MOVE(ServerDetails)
 
 public:
+    // Wide enough for every column of the players pane as they are sized
+    // now, so a first start shows Ping and Rate without scrolling.
+    int playersPaneWidth() const;
     ServerDetails(SettingsStore& settings, QWidget* parent);
 
     QSplitter* splitter() const { return m_splitter; }

@@ -55,7 +55,9 @@ void WindowState::restore()
 
 void WindowState::restoreSplitters()
 {
-    setFirstPaneSize(*m_controls.panes, m_settings.value(Keys::SplitterPanes, firstPaneSize(*m_controls.panes)));
+    const int panesDefault =
+        m_controls.firstPaneDefault ? m_controls.firstPaneDefault() : firstPaneSize(*m_controls.panes);
+    setFirstPaneSize(*m_controls.panes, m_settings.value(Keys::SplitterPanes, panesDefault));
     setFirstPaneSize(*m_controls.serverList,
                      m_settings.value(Keys::SplitterServerList, firstPaneSize(*m_controls.serverList)));
 }

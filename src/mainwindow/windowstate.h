@@ -5,6 +5,8 @@
 #include <QList>
 #include <QObject>
 
+#include <functional>
+
 class HistoryComboBox;
 class QSplitter;
 class QTabBar;
@@ -33,6 +35,8 @@ public:
         QTabBar* tabs = nullptr;
         QSplitter* serverList = nullptr; // the list above the panes
         QSplitter* panes = nullptr;      // the two panes side by side
+        // The first pane's width before the user ever moved the splitter.
+        std::function<int()> firstPaneDefault;
         QList<List> lists;
         QList<Box> boxes;
         HistoryComboBox* playerName = nullptr;
