@@ -3,6 +3,7 @@
 #include "desktop.h"
 #include "favourites.h"
 #include "findbar.h"
+#include "frmabout.h"
 #include "frmfavourites.h"
 #include "frmfilters.h"
 #include "frmoptions.h"
@@ -362,9 +363,10 @@ void FrmMain::changeEvent(QEvent* event)
 bool FrmMain::eventFilter(QObject* watched, QEvent* event)
 {
     if (watched == lblAbout && event->type() == QEvent::MouseButtonRelease) {
-        m_desktop.message(this, Desktop::Icon::Information, tr("About Quake 4 Vantage"),
-                          tr("Quake 4 Vantage %1\nA server browser for Quake 4.").arg(QStringLiteral(Q4V_VERSION)),
-                          QMessageBox::Ok);
+        auto* about = new FrmAbout(m_desktop, QUrl(QStringLiteral(Q4V_HOME_PAGE)), this);
+        about->setAttribute(Qt::WA_DeleteOnClose);
+        about->setWindowModality(Qt::WindowModal);
+        about->open();
         return true;
     }
     return QWidget::eventFilter(watched, event);

@@ -1,6 +1,7 @@
 #include "desktop.h"
 
 #include <QColorDialog>
+#include <QDesktopServices>
 #include <QFileDialog>
 #include <QInputDialog>
 #include <QProcess>
@@ -56,6 +57,11 @@ std::optional<QString> QtDesktop::inputText(QWidget* parent, const QString& titl
 QString QtDesktop::openFileName(QWidget* parent, const QString& title, const QString& folder, const QString& filter)
 {
     return QFileDialog::getOpenFileName(parent, title, folder, filter);
+}
+
+bool QtDesktop::openUrl(const QUrl& url)
+{
+    return QDesktopServices::openUrl(url);
 }
 
 std::optional<QColor> QtDesktop::pickColour(QWidget* parent, const QColor& start)

@@ -4,6 +4,7 @@
 #include <QMessageBox>
 #include <QString>
 #include <QStringList>
+#include <QUrl>
 
 #include <optional>
 
@@ -39,6 +40,9 @@ public:
     // cancelled.
     virtual std::optional<QColor> pickColour(QWidget* parent, const QColor& start) = 0;
 
+    // Opens a web page in the user's browser.
+    virtual bool openUrl(const QUrl& url) = 0;
+
     // Starts a program that outlives this one. The arguments are passed as
     // they are, never through a shell.
     virtual bool startDetached(const QString& program, const QStringList& arguments, const QString& workingFolder) = 0;
@@ -53,5 +57,6 @@ public:
                                      const QString& initialText) override;
     QString openFileName(QWidget* parent, const QString& title, const QString& folder, const QString& filter) override;
     std::optional<QColor> pickColour(QWidget* parent, const QColor& start) override;
+    bool openUrl(const QUrl& url) override;
     bool startDetached(const QString& program, const QStringList& arguments, const QString& workingFolder) override;
 };

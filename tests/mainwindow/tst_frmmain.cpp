@@ -1,3 +1,4 @@
+#include "frmabout.h"
 #include "frmoptions.h"
 #include "historycombobox.h"
 #include "testwindow.h"
@@ -299,11 +300,30 @@ private slots:
     {
         TestWindow run(*m_settings);
         QVERIFY(run.show());
-        run.desktop.messageAnswers.enqueue(QMessageBox::Ok);
         QTest::mouseClick(run.find<QLabel>("lblAbout"), Qt::LeftButton);
-        QCOMPARE(run.desktop.messages.size(), 1);
-        QVERIFY(run.desktop.messages.first().text.startsWith(QStringLiteral("Quake 4 Vantage")));
+        auto* about = run.window->findChild<FrmAbout*>(QStringLiteral("frmAbout"));
+        QVERIFY(about);
+        QTRY_VERIFY(about->isVisible());
+        QCOMPARE(about->findChild<QLabel*>(QStringLiteral("lblVersion"))->text(),
+                 QStringLiteral("Version " Q4V_VERSION));
+        QVERIFY(about->findChild<QLabel*>(QStringLiteral("lblQt"))->text().contains(QString::fromLatin1(qVersion())));
+        QTest::mouseClick(about->findChild<QPushButton*>(QStringLiteral("cmdOK")), Qt::LeftButton);
+        QTRY_VERIFY(!run.window->findChild<FrmAbout*>(QStringLiteral("frmAbout")));
         QCOMPARE(run.desktop.unexpectedCalls, 0);
+    }
+
+    void theHomePageOpensInTheBrowser()
+    {
+        ScriptedDesktop desktop;
+        FrmAbout about(desktop, QUrl(QStringLiteral("https://example.org/q4vantage")));
+        about.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&about));
+        auto* link = about.findChild<QLabel*>(QStringLiteral("lblHomePage"));
+        QVERIFY(link->isVisible());
+        QTest::mouseClick(link, Qt::LeftButton, {}, QPoint(8, link->height() / 2));
+        QCOMPARE(desktop.openedUrls, QList<QUrl>{QUrl(QStringLiteral("https://example.org/q4vantage"))});
+        FrmAbout plain(desktop, QUrl());
+        QVERIFY(plain.findChild<QLabel*>(QStringLiteral("lblHomePage"))->isHidden());
     }
 
     // Keys go where a user's keys go: to the widget with the focus, which

@@ -41,6 +41,12 @@ std::optional<QColor> ScriptedDesktop::pickColour(QWidget*, const QColor& start)
     return colourAnswers.dequeue();
 }
 
+bool ScriptedDesktop::openUrl(const QUrl& url)
+{
+    openedUrls.append(url);
+    return true;
+}
+
 bool ScriptedDesktop::startDetached(const QString& program, const QStringList& arguments, const QString& workingFolder)
 {
     starts.append({program, arguments, workingFolder});

@@ -44,6 +44,7 @@ public:
     QList<Input> inputs;
     QList<FileRequest> fileRequests;
     QList<QColor> colourRequests;
+    QList<QUrl> openedUrls;
     QList<Start> starts;
     int unexpectedCalls = 0;
 
@@ -53,5 +54,6 @@ public:
                                      const QString& initialText) override;
     QString openFileName(QWidget* parent, const QString& title, const QString& folder, const QString& filter) override;
     std::optional<QColor> pickColour(QWidget* parent, const QColor& start) override;
+    bool openUrl(const QUrl& url) override;
     bool startDetached(const QString& program, const QStringList& arguments, const QString& workingFolder) override;
 };

@@ -1,0 +1,71 @@
+#include "frmabout.h"
+
+#include "desktop.h"
+
+#include <QEvent>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QPushButton>
+#include <QtGlobal>
+#include <QVBoxLayout>
+
+FrmAbout::FrmAbout(Desktop& desktop, QUrl homePage, QWidget* parent)
+    : QDialog(parent)
+    , m_desktop(desktop)
+    , m_homePage(std::move(homePage))
+{
+    setObjectName(QStringLiteral("frmAbout"));
+    lblTitle = new QLabel(this);
+    lblTitle->setObjectName(QStringLiteral("lblTitle"));
+    QFont title = lblTitle->font();
+    title.setBold(true);
+    title.setPointSizeF(title.pointSizeF() * 1.5);
+    lblTitle->setFont(title);
+    lblVersion = new QLabel(this);
+    lblVersion->setObjectName(QStringLiteral("lblVersion"));
+    lblDescription = new QLabel(this);
+    lblDescription->setObjectName(QStringLiteral("lblDescription"));
+    lblDescription->setWordWrap(true);
+    lblQt = new QLabel(this);
+    lblQt->setObjectName(QStringLiteral("lblQt"));
+    lblHomePage = new QLabel(this);
+    lblHomePage->setObjectName(QStringLiteral("lblHomePage"));
+    lblHomePage->setTextInteractionFlags(Qt::LinksAccessibleByMouse | Qt::LinksAccessibleByKeyboard);
+    lblHomePage->setVisible(m_homePage.isValid() && !m_homePage.isEmpty());
+    // The browser is started through the desktop, like every other program.
+    connect(lblHomePage, &QLabel::linkActivated, this, [this](const QString& link) { m_desktop.openUrl(QUrl(link)); });
+    cmdOK = new QPushButton(this);
+    cmdOK->setObjectName(QStringLiteral("cmdOK"));
+    cmdOK->setDefault(true);
+    connect(cmdOK, &QPushButton::clicked, this, &QDialog::accept);
+
+    auto* buttons = new QHBoxLayout;
+    buttons->addStretch();
+    buttons->addWidget(cmdOK);
+    auto* layout = new QVBoxLayout(this);
+    for (QLabel* label : {lblTitle, lblVersion, lblDescription, lblQt, lblHomePage})
+        layout->addWidget(label);
+    layout->addLayout(buttons);
+    retranslateUi();
+}
+
+void FrmAbout::retranslateUi()
+{
+    setWindowTitle(tr("About Quake 4 Vantage"));
+    lblTitle->setText(tr("Quake 4 Vantage"));
+    lblVersion->setText(tr("Version %1").arg(QStringLiteral(Q4V_VERSION)));
+    lblDescription->setText(tr("A server browser for Quake 4: finds servers and players, and joins a game with a "
+                               "double click."));
+    lblQt->setText(
+        tr("Built with Qt %1, running on Qt %2.").arg(QStringLiteral(QT_VERSION_STR), QString::fromLatin1(qVersion())));
+    const QString address = m_homePage.toString();
+    lblHomePage->setText(QStringLiteral("<a href=\"%1\">%2</a>").arg(address.toHtmlEscaped(), tr("Home page")));
+    cmdOK->setText(tr("OK"));
+}
+
+void FrmAbout::changeEvent(QEvent* event)
+{
+    QDialog::changeEvent(event);
+    if (event->type() == QEvent::LanguageChange)
+        retranslateUi();
+}

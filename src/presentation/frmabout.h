@@ -1,0 +1,33 @@
+#pragma once
+
+#include <QDialog>
+#include <QUrl>
+
+class Desktop;
+class QLabel;
+class QPushButton;
+
+// What the program is: its name and version, the Qt it runs on, and its
+// home page when the build names one.
+class FrmAbout final : public QDialog {
+    Q_OBJECT
+    Q_DISABLE_COPY_MOVE(FrmAbout)
+
+public:
+    FrmAbout(Desktop& desktop, QUrl homePage, QWidget* parent = nullptr);
+
+protected:
+    void changeEvent(QEvent* event) override;
+
+private:
+    void retranslateUi();
+
+    Desktop& m_desktop;
+    QUrl m_homePage;
+    QLabel* lblTitle = nullptr;
+    QLabel* lblVersion = nullptr;
+    QLabel* lblDescription = nullptr;
+    QLabel* lblQt = nullptr;
+    QLabel* lblHomePage = nullptr;
+    QPushButton* cmdOK = nullptr;
+};
