@@ -1,0 +1,190 @@
+// Takes a picture of every window of the program in every language: the
+// main window listing a simulated fleet (both views), the options dialog
+// (both tabs), the favourites and filters editors and the About box.
+//   q4vantage-shots OUTPUT_FOLDER [LANGUAGE_INDEX...]
+// Run it on a real display server (scripts/screenshots.sh uses Xvfb) to
+// see the fonts and style a user sees.
+#include "desktop.h"
+#include "frmmain.h"
+#include "language.h"
+#include "querycontroller.h"
+#include "reportview.h"
+#include "settingsstore.h"
+#include "simfleet.h"
+
+#include <QApplication>
+#include <QDialog>
+#include <QDir>
+#include <QEventLoop>
+#include <QLabel>
+#include <QMouseEvent>
+#include <QPushButton>
+#include <QTabBar>
+#include <QTabWidget>
+#include <QTemporaryDir>
+#include <QTimer>
+
+#include <cstdio>
+#include <functional>
+
+namespace {
+
+// Runs the event loop until the condition holds or the time is up.
+bool waitFor(const std::function<bool()>& condition, int timeoutMs)
+{
+    QEventLoop loop;
+    QTimer poll;
+    QObject::connect(&poll, &QTimer::timeout, &loop, [&] {
+        if (condition())
+            loop.quit();
+    });
+    QTimer::singleShot(timeoutMs, &loop, &QEventLoop::quit);
+    poll.start(20);
+    loop.exec();
+    return condition();
+}
+
+void settle()
+{
+    waitFor([] { return false; }, 300);
+}
+
+bool save(QWidget* window, const QDir& folder, const QString& name)
+{
+    settle();
+    const QString path = folder.filePath(name + QStringLiteral(".png"));
+    const bool saved = window->grab().save(path);
+    std::printf("%s %s\n", saved ? "wrote" : "could not write", qPrintable(path));
+    return saved;
+}
+
+template <typename T> T* child(QObject* parent, const char* name)
+{
+    T* found = parent->findChild<T*>(QLatin1String(name));
+    if (!found)
+        qFatal("no control named %s", name);
+    return found;
+}
+
+template <typename T> T* openedBy(QWidget& main, const char* button, const char* name)
+{
+    child<QPushButton>(&main, button)->click();
+    T* window = nullptr;
+    waitFor(
+        [&] {
+            window = main.findChild<T*>(QLatin1String(name));
+            return window && window->isVisible();
+        },
+        3000);
+    if (!window)
+        qFatal("%s did not open %s", button, name);
+    return window;
+}
+
+bool shootLanguage(int language, const QDir& out)
+{
+    QTemporaryDir data;
+    SettingsStore settings(data.filePath(QStringLiteral("settings.ini")));
+    settings.save(u"Language", QString::number(language));
+    settings.save(u"MasterServer", QStringLiteral("127.0.0.1:27990"));
+    settings.save(u"StartPort", QStringLiteral("41900"));
+    QtDesktop desktop;
+    Language languages;
+    FrmMain main(settings, desktop, languages, data.path());
+    main.show();
+    settle();
+
+    child<QPushButton>(&main, "cmdGet")->click();
+    const QueryController& queries = main.queries();
+    waitFor([&queries] { return queries.isRunning(); }, 2000);
+    if (!waitFor([&queries] { return !queries.isRunning(); }, 20000))
+        return false;
+    // A server chosen, as a user's click chooses it, fills the panes.
+    auto* servers = child<ReportView>(&main, "lstServerList");
+    const QPoint firstRow = servers->visualRect(servers->model()->index(0, 0)).center();
+    for (const QEvent::Type type : {QEvent::MouseButtonPress, QEvent::MouseButtonRelease}) {
+        QMouseEvent click(type, firstRow, servers->viewport()->mapToGlobal(firstRow), Qt::LeftButton,
+                          type == QEvent::MouseButtonPress ? Qt::LeftButton : Qt::NoButton, Qt::NoModifier);
+        QApplication::sendEvent(servers->viewport(), &click);
+    }
+    waitFor([&queries] { return !queries.isRunning(); }, 3000);
+
+    bool ok = save(&main, out, QStringLiteral("main-servers"));
+    child<QTabBar>(&main, "tabSelect")->setCurrentIndex(FrmMain::PlayersTab);
+    ok = save(&main, out, QStringLiteral("main-players")) && ok;
+    child<QTabBar>(&main, "tabSelect")->setCurrentIndex(FrmMain::ServersTab);
+
+    auto* options = openedBy<QDialog>(main, "cmdOptions", "frmOptions");
+    auto* tabs = child<QTabWidget>(options, "tabOptions");
+    ok = save(options, out, QStringLiteral("options-settings")) && ok;
+    tabs->setCurrentIndex(1);
+    ok = save(options, out, QStringLiteral("options-theme")) && ok;
+    child<QPushButton>(options, "cmdCancel")->click();
+
+    auto* favourites = openedBy<QDialog>(main, "cmdOrganise", "frmFavourites");
+    ok = save(favourites, out, QStringLiteral("favourites")) && ok;
+    favourites->close();
+    auto* filters = openedBy<QDialog>(main, "cmdFilters", "frmFilters");
+    ok = save(filters, out, QStringLiteral("filters")) && ok;
+    filters->hide();
+
+    // The About box opens from a click on the title.
+    auto* title = child<QLabel>(&main, "lblAbout");
+    for (const QEvent::Type type : {QEvent::MouseButtonPress, QEvent::MouseButtonRelease}) {
+        QMouseEvent click(type, QPointF(4, 4), title->mapToGlobal(QPointF(4, 4)), Qt::LeftButton,
+                          type == QEvent::MouseButtonPress ? Qt::LeftButton : Qt::NoButton, Qt::NoModifier);
+        QApplication::sendEvent(title, &click);
+    }
+    QDialog* about = nullptr;
+    waitFor(
+        [&] {
+            about = main.findChild<QDialog*>(QStringLiteral("frmAbout"));
+            return about && about->isVisible();
+        },
+        3000);
+    if (about) {
+        ok = save(about, out, QStringLiteral("about")) && ok;
+        about->close();
+    }
+    main.close();
+    return ok;
+}
+
+} // namespace
+
+int main(int argc, char* argv[])
+{
+    QApplication app(argc, argv);
+    const QStringList arguments = QCoreApplication::arguments();
+    if (arguments.size() < 2) {
+        std::fprintf(stderr, "usage: q4vantage-shots OUTPUT_FOLDER [LANGUAGE_INDEX...]\n");
+        return 2;
+    }
+    QList<int> languages;
+    for (const QString& index : arguments.mid(2))
+        languages.append(index.toInt());
+    if (languages.isEmpty())
+        languages = {0, 1, 2, 3, 4, 5, 6};
+
+    FleetOptions fleet;
+    fleet.servers = 40;
+    fleet.masterPort = 27990;
+    fleet.firstServerPort = 27991;
+    fleet.playersPerServer = 12;
+    fleet.seed = 7;
+    SimFleet simulated(fleet);
+    if (const auto error = simulated.start()) {
+        std::fprintf(stderr, "simulated fleet: %s\n", qPrintable(*error));
+        return 1;
+    }
+    bool ok = true;
+    for (const int language : std::as_const(languages)) {
+        const QDir out(QDir(arguments.at(1)).filePath(Language::localeName(language)));
+        if (!QDir().mkpath(out.path())) {
+            std::fprintf(stderr, "cannot create %s\n", qPrintable(out.path()));
+            return 1;
+        }
+        ok = shootLanguage(language, out) && ok;
+    }
+    return ok ? 0 : 1;
+}
