@@ -1,0 +1,157 @@
+#include "frmabout.h"
+#include "frmfavourites.h"
+#include "frmfilters.h"
+#include "frmmain.h"
+#include "frmoptions.h"
+#include "language.h"
+#include "scripteddesktop.h"
+#include "settingsstore.h"
+#include "themeservice.h"
+
+#include <QAbstractButton>
+#include <QComboBox>
+#include <QGroupBox>
+#include <QHeaderView>
+#include <QLabel>
+#include <QSet>
+#include <QTabBar>
+#include <QTabWidget>
+#include <QTemporaryDir>
+#include <QTest>
+
+namespace {
+
+// Every text a window shows, by the control that shows it.
+QMap<QString, QString> textsOf(QWidget* window)
+{
+    QMap<QString, QString> texts;
+    const auto add = [&texts](const QObject* control, const QString& part, const QString& text) {
+        texts.insert(control->objectName() + part, text);
+    };
+    if (!window->windowTitle().isEmpty())
+        add(window, QStringLiteral(":title"), window->windowTitle());
+    for (const QLabel* label : window->findChildren<QLabel*>()) {
+        if (!label->objectName().isEmpty() && !label->text().isEmpty())
+            add(label, QString(), label->text());
+    }
+    for (const QAbstractButton* button : window->findChildren<QAbstractButton*>()) {
+        if (!button->objectName().isEmpty() && !button->text().isEmpty())
+            add(button, QString(), button->text());
+    }
+    for (const QTabBar* tabs : window->findChildren<QTabBar*>()) {
+        for (int i = 0; i < tabs->count(); ++i)
+            add(tabs->parent() ? tabs->parent() : tabs, QStringLiteral(":tab%1").arg(i), tabs->tabText(i));
+    }
+    for (const QComboBox* box : window->findChildren<QComboBox*>()) {
+        if (box->isEditable() || box->objectName() == QLatin1String("cmbLanguage") ||
+            box->objectName() == QLatin1String("cmbThemes"))
+            continue;
+        for (int i = 0; i < box->count(); ++i)
+            add(box, QStringLiteral(":%1").arg(i), box->itemText(i));
+    }
+    for (const QHeaderView* header : window->findChildren<QHeaderView*>()) {
+        if (header->orientation() != Qt::Horizontal || !header->model())
+            continue;
+        for (int i = 0; i < header->count(); ++i)
+            add(header->parent(), QStringLiteral(":column%1").arg(i),
+                header->model()->headerData(i, Qt::Horizontal).toString());
+    }
+    return texts;
+}
+
+// Words that are the same in the language and in English.
+const QSet<QString> SameEverywhere{QStringLiteral("Quake 4 Vantage"),
+                                   QStringLiteral("OK"),
+                                   QStringLiteral("Ping"),
+                                   QStringLiteral("Clan"),
+                                   QStringLiteral("Rate"),
+                                   QStringLiteral("Variable"),
+                                   QStringLiteral("Server"),
+                                   QStringLiteral("Standard"),
+                                   QStringLiteral("ISDN (64k)"),
+                                   QStringLiteral("ISDN (128k)"),
+                                   QStringLiteral("DSL (256k)"),
+                                   QStringLiteral("DSL (512k)"),
+                                   QStringLiteral("Mod"),
+                                   QStringLiteral("Name:"),
+                                   QStringLiteral("-"),
+                                   QStringLiteral("Filter"),
+                                   QStringLiteral("Version " Q4V_VERSION)};
+
+} // namespace
+
+// Every window in a finished language: no empty text and nothing left in
+// English. A language joins the table when its translation is complete.
+class TestTranslations final : public QObject {
+    Q_OBJECT
+
+    struct Windows {
+        QTemporaryDir dir;
+        SettingsStore settings{dir.filePath(QStringLiteral("settings.ini"))};
+        ScriptedDesktop desktop;
+        Language language;
+        FrmMain main{settings, desktop, language, dir.path()};
+        ThemeService themes{dir.path()};
+        FrmOptions options{settings, desktop, language, themes};
+        FrmFavourites favourites{settings, dir.path()};
+        FrmFilters filters{settings, dir.path()};
+        FrmAbout about{desktop, QUrl()};
+
+        QMap<QString, QString> texts()
+        {
+            QMap<QString, QString> all;
+            for (QWidget* window : std::initializer_list<QWidget*>{&main, &options, &favourites, &filters, &about}) {
+                const QMap<QString, QString> own = textsOf(window);
+                for (auto it = own.cbegin(); it != own.cend(); ++it)
+                    all.insert(window->objectName() + QLatin1Char('/') + it.key(), it.value());
+            }
+            return all;
+        }
+    };
+
+private slots:
+    void everyWindowIsTranslated_data()
+    {
+        QTest::addColumn<int>("index");
+        QTest::newRow("Deustch") << 2;
+    }
+
+    void everyWindowIsTranslated()
+    {
+        QFETCH(int, index);
+        Windows windows;
+        const QMap<QString, QString> english = windows.texts();
+        QVERIFY(english.size() > 100);
+        QVERIFY(windows.language.apply(index));
+        QTest::qWait(0); // the LanguageChange events
+        const QMap<QString, QString> translated = windows.texts();
+        QCOMPARE(translated.keys(), english.keys());
+        QStringList left;
+        for (auto it = translated.cbegin(); it != translated.cend(); ++it) {
+            if (it.value().isEmpty() || (it.value() == english.value(it.key()) && !SameEverywhere.contains(it.value())))
+                left.append(it.key() + QStringLiteral(" = \"") + it.value() + QLatin1Char('"'));
+        }
+        QVERIFY2(left.isEmpty(), qPrintable(left.join(QLatin1Char('\n'))));
+        windows.language.apply(0);
+    }
+
+    void theQuotedRowsAreExact()
+    {
+        Windows windows;
+        windows.language.apply(2);
+        QTest::qWait(0);
+        const QMap<QString, QString> texts = windows.texts();
+        QCOMPARE(texts.value(QStringLiteral("frmMain/cmdCancel")), QStringLiteral("Anfrage abbrechen"));
+        QCOMPARE(texts.value(QStringLiteral("frmMain/cmdGet")), QStringLiteral("Master anfragen"));
+        QCOMPARE(texts.value(QStringLiteral("frmMain/cmdFav")), QStringLiteral("Favoriten anfragen"));
+        QCOMPARE(texts.value(QStringLiteral("frmOptions/frmOptions:title")), QStringLiteral("Optionen"));
+        QCOMPARE(texts.value(QStringLiteral("frmOptions/lblSpeed")), QStringLiteral("Anforderungs geschwindigkeit:"));
+        QCOMPARE(texts.value(QStringLiteral("frmOptions/cmbSpeed:0")), QStringLiteral("Modem (56k)"));
+        QCOMPARE(QCoreApplication::translate("QueryController", "Cancelled"), QStringLiteral("Abgebrochen"));
+        QCOMPARE(QCoreApplication::translate("FindBar", "Text Not Found"), QStringLiteral("Text nicht gefunden"));
+        windows.language.apply(0);
+    }
+};
+
+QTEST_MAIN(TestTranslations)
+#include "tst_translations.moc"

@@ -1,0 +1,687 @@
+<?xml version='1.0' encoding='utf-8'?>
+<TS version="2.1" language="de">
+<context>
+    <name>CopyCommands</name>
+    <message>
+        <source>Copy Cell</source>
+        <translation>Zelle kopieren</translation>
+    </message>
+    <message>
+        <source>Copy Column</source>
+        <translation>Spalte kopieren</translation>
+    </message>
+    <message>
+        <source>Copy Row</source>
+        <translation>Zeile kopieren</translation>
+    </message>
+    <message>
+        <source>Copy All</source>
+        <translation>Alles kopieren</translation>
+    </message>
+</context>
+<context>
+    <name>EditableListDialog</name>
+    <message>
+        <source>Edit Cell</source>
+        <translation>Zelle bearbeiten</translation>
+    </message>
+    <message>
+        <source>New</source>
+        <translation>Neu</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Entfernen</translation>
+    </message>
+</context>
+<context>
+    <name>FavouritesModel</name>
+    <message>
+        <source>Server Name</source>
+        <translation>Servername</translation>
+    </message>
+    <message>
+        <source>Server IP Address</source>
+        <translation>Server-IP-Adresse</translation>
+    </message>
+    <message>
+        <source>Password</source>
+        <translation>Passwort</translation>
+    </message>
+</context>
+<context>
+    <name>FiltersModel</name>
+    <message>
+        <source>Variable</source>
+        <translation>Variable</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>Wert</translation>
+    </message>
+</context>
+<context>
+    <name>FindBar</name>
+    <message>
+        <source>Find</source>
+        <translation>Suchen</translation>
+    </message>
+    <message>
+        <source>Text Not Found</source>
+        <translation>Text nicht gefunden</translation>
+    </message>
+</context>
+<context>
+    <name>FrmAbout</name>
+    <message>
+        <source>About Quake 4 Vantage</source>
+        <translation>Über Quake 4 Vantage</translation>
+    </message>
+    <message>
+        <source>Quake 4 Vantage</source>
+        <translation>Quake 4 Vantage</translation>
+    </message>
+    <message>
+        <source>Version %1</source>
+        <translation>Version %1</translation>
+    </message>
+    <message>
+        <source>A server browser for Quake 4: finds servers and players, and joins a game with a double click.</source>
+        <translation>Ein Server-Browser für Quake 4: findet Server und Spieler und tritt mit einem Doppelklick einem Spiel bei.</translation>
+    </message>
+    <message>
+        <source>Built with Qt %1, running on Qt %2.</source>
+        <translation>Erstellt mit Qt %1, läuft mit Qt %2.</translation>
+    </message>
+    <message>
+        <source>Home page</source>
+        <translation>Homepage</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+</context>
+<context>
+    <name>FrmFavourites</name>
+    <message>
+        <source>This favourites file is larger than the editor reads (%1 servers or %2 MB). It is shown in part and not saved, so that no server is lost.</source>
+        <translation>Diese Favoritendatei ist größer, als der Editor liest (%1 Server oder %2 MB). Sie wird nur teilweise angezeigt und nicht gespeichert, damit kein Server verloren geht.</translation>
+    </message>
+    <message>
+        <source>The favourites could not be saved to %1. Your changes are still here.</source>
+        <translation>Die Favoriten konnten nicht in %1 gespeichert werden. Ihre Änderungen sind noch da.</translation>
+    </message>
+    <message>
+        <source>Favourites</source>
+        <translation>Favoriten</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>Apply</source>
+        <translation>Übernehmen</translation>
+    </message>
+    <message>
+        <source>New</source>
+        <translation>Neu</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Entfernen</translation>
+    </message>
+    <message>
+        <source>New Server</source>
+        <translation>Neuer Server</translation>
+    </message>
+</context>
+<context>
+    <name>FrmFilters</name>
+    <message>
+        <source>Filters</source>
+        <translation>Filter</translation>
+    </message>
+    <message>
+        <source>New</source>
+        <translation>Neu</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Entfernen</translation>
+    </message>
+    <message>
+        <source>Built in filters:</source>
+        <translation>Eingebaute Filter:</translation>
+    </message>
+    <message>
+        <source>Empty</source>
+        <translation>Leer</translation>
+    </message>
+    <message>
+        <source>Full</source>
+        <translation>Voll</translation>
+    </message>
+    <message>
+        <source>Passworded</source>
+        <translation>Mit Passwort</translation>
+    </message>
+    <message>
+        <source>Example 1: si_map                 mp/q4dm5</source>
+        <translation>Beispiel 1: si_map                 mp/q4dm5</translation>
+    </message>
+    <message>
+        <source>Example 2: sv_punkbuster     1</source>
+        <translation>Beispiel 2: sv_punkbuster     1</translation>
+    </message>
+    <message>
+        <source>The filters could not be saved to %1; this change lasts until the program ends.</source>
+        <translation>Die Filter konnten nicht in %1 gespeichert werden; diese Änderung gilt nur bis zum Programmende.</translation>
+    </message>
+</context>
+<context>
+    <name>FrmMain</name>
+    <message>
+        <source>Quake 4 Vantage</source>
+        <translation>Quake 4 Vantage</translation>
+    </message>
+    <message>
+        <source>Master Servers Timed Out</source>
+        <translation>Zeitüberschreitung bei den Master-Servern</translation>
+    </message>
+    <message>
+        <source>About Quake 4 Vantage</source>
+        <translation>Über Quake 4 Vantage</translation>
+    </message>
+    <message>
+        <source>Players</source>
+        <translation>Spieler</translation>
+    </message>
+    <message>
+        <source>Servers</source>
+        <translation>Server</translation>
+    </message>
+    <message>
+        <source>Favourites</source>
+        <translation>Favoriten</translation>
+    </message>
+    <message>
+        <source>Filters</source>
+        <translation>Filter</translation>
+    </message>
+    <message>
+        <source>Options</source>
+        <translation>Optionen</translation>
+    </message>
+    <message>
+        <source>Exit</source>
+        <translation>Beenden</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n servers found</source>
+        <translation>
+            <numerusform>%n Server gefunden</numerusform><numerusform>%n Server gefunden</numerusform></translation>
+    </message>
+    <message numerus="yes">
+        <source>%n players found</source>
+        <translation>
+            <numerusform>%n Spieler gefunden</numerusform><numerusform>%n Spieler gefunden</numerusform></translation>
+    </message>
+</context>
+<context>
+    <name>FrmOptions</name>
+    <message>
+        <source>Options</source>
+        <translation>Optionen</translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation>Einstellungen</translation>
+    </message>
+    <message>
+        <source>Theme</source>
+        <translation>Farbschema</translation>
+    </message>
+    <message>
+        <source>Language:</source>
+        <translation>Sprache:</translation>
+    </message>
+    <message>
+        <source>Query Speed:</source>
+        <translation>Anforderungs geschwindigkeit:</translation>
+    </message>
+    <message>
+        <source>Dial Up (56k)</source>
+        <translation>Modem (56k)</translation>
+    </message>
+    <message>
+        <source>ISDN (64k)</source>
+        <translation>ISDN (64k)</translation>
+    </message>
+    <message>
+        <source>ISDN (128k)</source>
+        <translation>ISDN (128k)</translation>
+    </message>
+    <message>
+        <source>DSL (256k)</source>
+        <translation>DSL (256k)</translation>
+    </message>
+    <message>
+        <source>DSL (512k)</source>
+        <translation>DSL (512k)</translation>
+    </message>
+    <message>
+        <source>Maximum</source>
+        <translation>Maximal</translation>
+    </message>
+    <message>
+        <source>Automatically Check For Updates</source>
+        <translation>Automatisch nach Updates suchen</translation>
+    </message>
+    <message>
+        <source>Close After Joining</source>
+        <translation>Nach dem Beitreten schließen</translation>
+    </message>
+    <message>
+        <source>Refresh Server On Selection</source>
+        <translation>Server bei Auswahl aktualisieren</translation>
+    </message>
+    <message>
+        <source>Port Range:</source>
+        <translation>Portbereich:</translation>
+    </message>
+    <message>
+        <source>Note: Port Range is dependant on the query speed.</source>
+        <translation>Hinweis: Der Portbereich hängt von der Anforderungsgeschwindigkeit ab.</translation>
+    </message>
+    <message>
+        <source>Use Proxy Server for updates</source>
+        <translation>Proxyserver für Updates verwenden</translation>
+    </message>
+    <message>
+        <source>Quake 4 Executable:</source>
+        <translation>Quake 4 Programmdatei:</translation>
+    </message>
+    <message>
+        <source>Browse</source>
+        <translation>Durchsuchen</translation>
+    </message>
+    <message>
+        <source>Form Back Colour</source>
+        <translation>Fensterhintergrund</translation>
+    </message>
+    <message>
+        <source>List Back Colour</source>
+        <translation>Listenhintergrund</translation>
+    </message>
+    <message>
+        <source>List Text Colour</source>
+        <translation>Listentext</translation>
+    </message>
+    <message>
+        <source>Text Box Back Colour</source>
+        <translation>Eingabefeld-Hintergrund</translation>
+    </message>
+    <message>
+        <source>Text Box Text Colour</source>
+        <translation>Eingabefeld-Text</translation>
+    </message>
+    <message>
+        <source>Progress Bar Back Colour</source>
+        <translation>Fortschrittsbalken-Hintergrund</translation>
+    </message>
+    <message>
+        <source>Progress Bar Bar Colour</source>
+        <translation>Fortschrittsbalken-Farbe</translation>
+    </message>
+    <message>
+        <source>Progress Bar Type:</source>
+        <translation>Fortschrittsbalken-Art:</translation>
+    </message>
+    <message>
+        <source>Standard</source>
+        <translation>Standard</translation>
+    </message>
+    <message>
+        <source>Segmented</source>
+        <translation>Segmentiert</translation>
+    </message>
+    <message>
+        <source>Smooth</source>
+        <translation>Glatt</translation>
+    </message>
+    <message>
+        <source>Tab Style:</source>
+        <translation>Registerkarten:</translation>
+    </message>
+    <message>
+        <source>Small Tabs</source>
+        <translation>Kleine Registerkarten</translation>
+    </message>
+    <message>
+        <source>Large Tabs</source>
+        <translation>Große Registerkarten</translation>
+    </message>
+    <message>
+        <source>Saved Themes:</source>
+        <translation>Gespeicherte Farbschemata:</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Speichern</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Entfernen</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>Apply</source>
+        <translation>Übernehmen</translation>
+    </message>
+    <message>
+        <source>Defaults</source>
+        <translation>Standardwerte</translation>
+    </message>
+    <message>
+        <source>Save Theme</source>
+        <translation>Farbschema speichern</translation>
+    </message>
+    <message>
+        <source>Please enter a name for this theme</source>
+        <translation>Bitte geben Sie einen Namen für dieses Farbschema ein</translation>
+    </message>
+    <message>
+        <source>The themes could not be saved to %1; the other settings are not affected.</source>
+        <translation>Die Farbschemata konnten nicht in %1 gespeichert werden; die übrigen Einstellungen sind davon nicht betroffen.</translation>
+    </message>
+    <message>
+        <source>Are you sure you want to reset all settings to their default values?</source>
+        <translation>Möchten Sie wirklich alle Einstellungen auf ihre Standardwerte zurücksetzen?</translation>
+    </message>
+    <message>
+        <source>Select your Quake 4 Executable</source>
+        <translation>Wählen Sie Ihre Quake 4 Programmdatei</translation>
+    </message>
+    <message>
+        <source>Quake 4 Executable (%1)</source>
+        <translation>Quake 4 Programmdatei (%1)</translation>
+    </message>
+    <message>
+        <source>You must type a port number between 1024 and 65512! (Default: 9000)</source>
+        <translation>Sie müssen eine Portnummer zwischen 1024 und 65512 eingeben! (Standard: 9000)</translation>
+    </message>
+</context>
+<context>
+    <name>JoinFlow</name>
+    <message>
+        <source>Join server by IP Address</source>
+        <translation>Server über IP-Adresse beitreten</translation>
+    </message>
+    <message>
+        <source>Please enter the IP address/hostname and port of the server you wish to join</source>
+        <translation>Bitte geben Sie die IP-Adresse bzw. den Hostnamen und den Port des Servers ein, dem Sie beitreten möchten</translation>
+    </message>
+    <message>
+        <source>Select your Quake 4 Executable</source>
+        <translation>Wählen Sie Ihre Quake 4 Programmdatei</translation>
+    </message>
+    <message>
+        <source>Quake 4 Executable (%1)</source>
+        <translation>Quake 4 Programmdatei (%1)</translation>
+    </message>
+    <message>
+        <source>Please enter the password for this server</source>
+        <translation>Bitte geben Sie das Passwort für diesen Server ein</translation>
+    </message>
+    <message>
+        <source>No Password Provided</source>
+        <translation>Kein Passwort angegeben</translation>
+    </message>
+    <message>
+        <source>Join Server Anyway?</source>
+        <translation>Dem Server trotzdem beitreten?</translation>
+    </message>
+    <message>
+        <source>Connecting to %1</source>
+        <translation>Verbinde mit %1</translation>
+    </message>
+    <message>
+        <source>The game could not be started: %1 does not exist.</source>
+        <translation>Das Spiel konnte nicht gestartet werden: %1 existiert nicht.</translation>
+    </message>
+    <message>
+        <source>The game could not be started: %1 is not a program.</source>
+        <translation>Das Spiel konnte nicht gestartet werden: %1 ist kein Programm.</translation>
+    </message>
+    <message>
+        <source>The game could not be started: %1.</source>
+        <translation>Das Spiel konnte nicht gestartet werden: %1.</translation>
+    </message>
+</context>
+<context>
+    <name>JoinPanel</name>
+    <message>
+        <source>Player Name:</source>
+        <translation>Spielername:</translation>
+    </message>
+    <message>
+        <source>Join</source>
+        <translation>Beitreten</translation>
+    </message>
+    <message>
+        <source>Join IP</source>
+        <translation>IP beitreten</translation>
+    </message>
+    <message>
+        <source>Name:</source>
+        <translation>Name:</translation>
+    </message>
+    <message>
+        <source>Password:</source>
+        <translation>Passwort:</translation>
+    </message>
+</context>
+<context>
+    <name>ListColumns</name>
+    <message>
+        <source>Num</source>
+        <translation>Nr.</translation>
+    </message>
+    <message>
+        <source>Player</source>
+        <translation>Spieler</translation>
+    </message>
+    <message>
+        <source>Clan</source>
+        <translation>Clan</translation>
+    </message>
+    <message>
+        <source>Ping</source>
+        <translation>Ping</translation>
+    </message>
+    <message>
+        <source>Rate</source>
+        <translation>Rate</translation>
+    </message>
+    <message>
+        <source>Variable</source>
+        <translation>Variable</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>Wert</translation>
+    </message>
+    <message>
+        <source>Server</source>
+        <translation>Server</translation>
+    </message>
+    <message>
+        <source>Map</source>
+        <translation>Karte</translation>
+    </message>
+    <message>
+        <source>Players</source>
+        <translation>Spieler</translation>
+    </message>
+    <message>
+        <source>Pw</source>
+        <translation>PW</translation>
+    </message>
+    <message>
+        <source>Type</source>
+        <translation>Typ</translation>
+    </message>
+    <message>
+        <source>Game</source>
+        <translation>Spiel</translation>
+    </message>
+    <message>
+        <source>Server IP Address</source>
+        <translation>Server-IP-Adresse</translation>
+    </message>
+    <message>
+        <source>Svr Ping</source>
+        <translation>Svr-Ping</translation>
+    </message>
+    <message>
+        <source>Mod</source>
+        <translation>Mod</translation>
+    </message>
+</context>
+<context>
+    <name>ListMenu</name>
+    <message>
+        <source>&amp;Add To Favourites</source>
+        <translation>Zu &amp;Favoriten hinzufügen</translation>
+    </message>
+    <message>
+        <source>&amp;Select Server</source>
+        <translation>&amp;Server auswählen</translation>
+    </message>
+    <message>
+        <source>The favourites file could not be written.</source>
+        <translation>Die Favoritendatei konnte nicht geschrieben werden.</translation>
+    </message>
+</context>
+<context>
+    <name>QueryBar</name>
+    <message>
+        <source>Cancel Query</source>
+        <translation>Anfrage abbrechen</translation>
+    </message>
+    <message>
+        <source>Query Masters</source>
+        <translation>Master anfragen</translation>
+    </message>
+    <message>
+        <source>Query Favourites</source>
+        <translation>Favoriten anfragen</translation>
+    </message>
+</context>
+<context>
+    <name>QueryController</name>
+    <message>
+        <source>Done</source>
+        <translation>Fertig</translation>
+    </message>
+    <message>
+        <source>Master Servers Timed Out</source>
+        <translation>Zeitüberschreitung bei den Master-Servern</translation>
+    </message>
+    <message>
+        <source>The start port %1 is not valid. Choose another in the options.</source>
+        <translation>Der Startport %1 ist ungültig. Wählen Sie in den Optionen einen anderen.</translation>
+    </message>
+    <message>
+        <source>No favourites yet: right-click a server and choose "Add To Favourites".</source>
+        <translation>Noch keine Favoriten: Klicken Sie mit der rechten Maustaste auf einen Server und wählen Sie „Zu Favoriten hinzufügen“.</translation>
+    </message>
+    <message>
+        <source>Cancelled</source>
+        <translation>Abgebrochen</translation>
+    </message>
+    <message>
+        <source>Requesting Server List from
+%1</source>
+        <translation>Fordere Serverliste an von
+%1</translation>
+    </message>
+    <message>
+        <source>Receiving Server List from
+%1</source>
+        <translation>Empfange Serverliste von
+%1</translation>
+    </message>
+    <message>
+        <source>Sorting IP Address Lists
+%1</source>
+        <translation>Sortiere IP-Adresslisten
+%1</translation>
+    </message>
+    <message>
+        <source>Querying %1 Servers...</source>
+        <translation>Frage %1 Server ab...</translation>
+    </message>
+</context>
+<context>
+    <name>QueryError</name>
+    <message>
+        <source>Local port %1 cannot be used (%2). Choose another start port in the options.</source>
+        <translation>Der lokale Port %1 kann nicht verwendet werden (%2). Wählen Sie in den Optionen einen anderen Startport.</translation>
+    </message>
+    <message>
+        <source>The master server listed more than %1 servers; the list was not used.</source>
+        <translation>Der Master-Server hat mehr als %1 Server gemeldet; die Liste wurde nicht verwendet.</translation>
+    </message>
+    <message>
+        <source>Master server %1 not found (%2).</source>
+        <translation>Master-Server %1 nicht gefunden (%2).</translation>
+    </message>
+    <message>
+        <source>The master server address "%1" is not valid.</source>
+        <translation>Die Master-Server-Adresse „%1“ ist ungültig.</translation>
+    </message>
+</context>
+<context>
+    <name>ServerDetails</name>
+    <message>
+        <source>Players of the selected server</source>
+        <translation>Spieler des ausgewählten Servers</translation>
+    </message>
+    <message>
+        <source>Rules of the selected server</source>
+        <translation>Regeln des ausgewählten Servers</translation>
+    </message>
+</context>
+<context>
+    <name>ServerRulesModel</name>
+    <message>
+        <source>True</source>
+        <translation>Wahr</translation>
+    </message>
+    <message>
+        <source>False</source>
+        <translation>Falsch</translation>
+    </message>
+</context>
+<context>
+    <name>ServerSelection</name>
+    <message>
+        <source>Server Name:</source>
+        <translation>Servername:</translation>
+    </message>
+</context>
+</TS>
