@@ -1,0 +1,687 @@
+<?xml version='1.0' encoding='utf-8'?>
+<TS version="2.1" language="fr">
+<context>
+    <name>CopyCommands</name>
+    <message>
+        <source>Copy Cell</source>
+        <translation>Copier la cellule</translation>
+    </message>
+    <message>
+        <source>Copy Column</source>
+        <translation>Copier la colonne</translation>
+    </message>
+    <message>
+        <source>Copy Row</source>
+        <translation>Copier la ligne</translation>
+    </message>
+    <message>
+        <source>Copy All</source>
+        <translation>Tout copier</translation>
+    </message>
+</context>
+<context>
+    <name>EditableListDialog</name>
+    <message>
+        <source>Edit Cell</source>
+        <translation>Modifier la cellule</translation>
+    </message>
+    <message>
+        <source>New</source>
+        <translation>Nouveau</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Supprimer</translation>
+    </message>
+</context>
+<context>
+    <name>FavouritesModel</name>
+    <message>
+        <source>Server Name</source>
+        <translation>Nom du serveur</translation>
+    </message>
+    <message>
+        <source>Server IP Address</source>
+        <translation>Adresse IP du serveur</translation>
+    </message>
+    <message>
+        <source>Password</source>
+        <translation>Mot de passe</translation>
+    </message>
+</context>
+<context>
+    <name>FiltersModel</name>
+    <message>
+        <source>Variable</source>
+        <translation>Variable</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>Valeur</translation>
+    </message>
+</context>
+<context>
+    <name>FindBar</name>
+    <message>
+        <source>Find</source>
+        <translation>Chercher</translation>
+    </message>
+    <message>
+        <source>Text Not Found</source>
+        <translation>Texte Non trouvé</translation>
+    </message>
+</context>
+<context>
+    <name>FrmAbout</name>
+    <message>
+        <source>About Quake 4 Vantage</source>
+        <translation>À propos de Quake 4 Vantage</translation>
+    </message>
+    <message>
+        <source>Quake 4 Vantage</source>
+        <translation>Quake 4 Vantage</translation>
+    </message>
+    <message>
+        <source>Version %1</source>
+        <translation>Version %1</translation>
+    </message>
+    <message>
+        <source>A server browser for Quake 4: finds servers and players, and joins a game with a double click.</source>
+        <translation>Un navigateur de serveurs pour Quake 4 : il trouve les serveurs et les joueurs, et rejoint une partie d'un double clic.</translation>
+    </message>
+    <message>
+        <source>Built with Qt %1, running on Qt %2.</source>
+        <translation>Compilé avec Qt %1, fonctionne avec Qt %2.</translation>
+    </message>
+    <message>
+        <source>Home page</source>
+        <translation>Page d'accueil</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+</context>
+<context>
+    <name>FrmFavourites</name>
+    <message>
+        <source>This favourites file is larger than the editor reads (%1 servers or %2 MB). It is shown in part and not saved, so that no server is lost.</source>
+        <translation>Ce fichier de favoris dépasse ce que l'éditeur lit (%1 serveurs ou %2 Mo). Il n'est affiché qu'en partie et n'est pas enregistré, pour qu'aucun serveur ne soit perdu.</translation>
+    </message>
+    <message>
+        <source>The favourites could not be saved to %1. Your changes are still here.</source>
+        <translation>Les favoris n'ont pas pu être enregistrés dans %1. Vos modifications sont toujours là.</translation>
+    </message>
+    <message>
+        <source>Favourites</source>
+        <translation>Favoris</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuler</translation>
+    </message>
+    <message>
+        <source>Apply</source>
+        <translation>Appliquer</translation>
+    </message>
+    <message>
+        <source>New</source>
+        <translation>Nouveau</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Supprimer</translation>
+    </message>
+    <message>
+        <source>New Server</source>
+        <translation>Nouveau serveur</translation>
+    </message>
+</context>
+<context>
+    <name>FrmFilters</name>
+    <message>
+        <source>Filters</source>
+        <translation>Filtres</translation>
+    </message>
+    <message>
+        <source>New</source>
+        <translation>Nouveau</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Supprimer</translation>
+    </message>
+    <message>
+        <source>Built in filters:</source>
+        <translation>Filtres intégrés :</translation>
+    </message>
+    <message>
+        <source>Empty</source>
+        <translation>Vides</translation>
+    </message>
+    <message>
+        <source>Full</source>
+        <translation>Pleins</translation>
+    </message>
+    <message>
+        <source>Passworded</source>
+        <translation>Avec mot de passe</translation>
+    </message>
+    <message>
+        <source>Example 1: si_map                 mp/q4dm5</source>
+        <translation>Exemple 1 : si_map                 mp/q4dm5</translation>
+    </message>
+    <message>
+        <source>Example 2: sv_punkbuster     1</source>
+        <translation>Exemple 2 : sv_punkbuster     1</translation>
+    </message>
+    <message>
+        <source>The filters could not be saved to %1; this change lasts until the program ends.</source>
+        <translation>Les filtres n'ont pas pu être enregistrés dans %1 ; cette modification ne dure que jusqu'à la fermeture du programme.</translation>
+    </message>
+</context>
+<context>
+    <name>FrmMain</name>
+    <message>
+        <source>Quake 4 Vantage</source>
+        <translation>Quake 4 Vantage</translation>
+    </message>
+    <message>
+        <source>Master Servers Timed Out</source>
+        <translation>Délai dépassé pour les serveurs principaux</translation>
+    </message>
+    <message>
+        <source>About Quake 4 Vantage</source>
+        <translation>À propos de Quake 4 Vantage</translation>
+    </message>
+    <message>
+        <source>Players</source>
+        <translation>Joueurs</translation>
+    </message>
+    <message>
+        <source>Servers</source>
+        <translation>Serveurs</translation>
+    </message>
+    <message>
+        <source>Favourites</source>
+        <translation>Favoris</translation>
+    </message>
+    <message>
+        <source>Filters</source>
+        <translation>Filtres</translation>
+    </message>
+    <message>
+        <source>Options</source>
+        <translation>Options</translation>
+    </message>
+    <message>
+        <source>Exit</source>
+        <translation>Quitter</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n servers found</source>
+        <translation>
+            <numerusform>%n serveur trouvé</numerusform><numerusform>%n serveurs trouvés</numerusform></translation>
+    </message>
+    <message numerus="yes">
+        <source>%n players found</source>
+        <translation>
+            <numerusform>%n joueur trouvé</numerusform><numerusform>%n joueurs trouvés</numerusform></translation>
+    </message>
+</context>
+<context>
+    <name>FrmOptions</name>
+    <message>
+        <source>Options</source>
+        <translation>Options</translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation>Réglages</translation>
+    </message>
+    <message>
+        <source>Theme</source>
+        <translation>Thème</translation>
+    </message>
+    <message>
+        <source>Language:</source>
+        <translation>Langue :</translation>
+    </message>
+    <message>
+        <source>Query Speed:</source>
+        <translation>Vitesse de recherche :</translation>
+    </message>
+    <message>
+        <source>Dial Up (56k)</source>
+        <translation>Modem (56k)</translation>
+    </message>
+    <message>
+        <source>ISDN (64k)</source>
+        <translation>RNIS (64k)</translation>
+    </message>
+    <message>
+        <source>ISDN (128k)</source>
+        <translation>RNIS (128k)</translation>
+    </message>
+    <message>
+        <source>DSL (256k)</source>
+        <translation>ADSL (256k)</translation>
+    </message>
+    <message>
+        <source>DSL (512k)</source>
+        <translation>ADSL (512k)</translation>
+    </message>
+    <message>
+        <source>Maximum</source>
+        <translation>Maximale</translation>
+    </message>
+    <message>
+        <source>Automatically Check For Updates</source>
+        <translation>Rechercher automatiquement les mises à jour</translation>
+    </message>
+    <message>
+        <source>Close After Joining</source>
+        <translation>Fermer après avoir rejoint</translation>
+    </message>
+    <message>
+        <source>Refresh Server On Selection</source>
+        <translation>Actualiser le serveur sélectionné</translation>
+    </message>
+    <message>
+        <source>Port Range:</source>
+        <translation>Plage de ports :</translation>
+    </message>
+    <message>
+        <source>Note: Port Range is dependant on the query speed.</source>
+        <translation>Remarque : la plage de ports dépend de la vitesse de recherche.</translation>
+    </message>
+    <message>
+        <source>Use Proxy Server for updates</source>
+        <translation>Utiliser un proxy pour les mises à jour</translation>
+    </message>
+    <message>
+        <source>Quake 4 Executable:</source>
+        <translation>Exécutable de Quake 4 :</translation>
+    </message>
+    <message>
+        <source>Browse</source>
+        <translation>Parcourir</translation>
+    </message>
+    <message>
+        <source>Form Back Colour</source>
+        <translation>Fond des fenêtres</translation>
+    </message>
+    <message>
+        <source>List Back Colour</source>
+        <translation>Fond des listes</translation>
+    </message>
+    <message>
+        <source>List Text Colour</source>
+        <translation>Texte des listes</translation>
+    </message>
+    <message>
+        <source>Text Box Back Colour</source>
+        <translation>Fond des zones de texte</translation>
+    </message>
+    <message>
+        <source>Text Box Text Colour</source>
+        <translation>Texte des zones de texte</translation>
+    </message>
+    <message>
+        <source>Progress Bar Back Colour</source>
+        <translation>Fond de la barre de progression</translation>
+    </message>
+    <message>
+        <source>Progress Bar Bar Colour</source>
+        <translation>Couleur de la barre de progression</translation>
+    </message>
+    <message>
+        <source>Progress Bar Type:</source>
+        <translation>Type de barre de progression :</translation>
+    </message>
+    <message>
+        <source>Standard</source>
+        <translation>Classique</translation>
+    </message>
+    <message>
+        <source>Segmented</source>
+        <translation>Segmentée</translation>
+    </message>
+    <message>
+        <source>Smooth</source>
+        <translation>Continue</translation>
+    </message>
+    <message>
+        <source>Tab Style:</source>
+        <translation>Style des onglets :</translation>
+    </message>
+    <message>
+        <source>Small Tabs</source>
+        <translation>Petits onglets</translation>
+    </message>
+    <message>
+        <source>Large Tabs</source>
+        <translation>Grands onglets</translation>
+    </message>
+    <message>
+        <source>Saved Themes:</source>
+        <translation>Thèmes enregistrés :</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Enregistrer</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Supprimer</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuler</translation>
+    </message>
+    <message>
+        <source>Apply</source>
+        <translation>Appliquer</translation>
+    </message>
+    <message>
+        <source>Defaults</source>
+        <translation>Par défaut</translation>
+    </message>
+    <message>
+        <source>Save Theme</source>
+        <translation>Enregistrer le thème</translation>
+    </message>
+    <message>
+        <source>Please enter a name for this theme</source>
+        <translation>Veuillez saisir un nom pour ce thème</translation>
+    </message>
+    <message>
+        <source>The themes could not be saved to %1; the other settings are not affected.</source>
+        <translation>Les thèmes n'ont pas pu être enregistrés dans %1 ; les autres réglages ne sont pas concernés.</translation>
+    </message>
+    <message>
+        <source>Are you sure you want to reset all settings to their default values?</source>
+        <translation>Voulez-vous vraiment remettre tous les réglages à leurs valeurs par défaut ?</translation>
+    </message>
+    <message>
+        <source>Select your Quake 4 Executable</source>
+        <translation>Choisissez l'exécutable de Quake 4</translation>
+    </message>
+    <message>
+        <source>Quake 4 Executable (%1)</source>
+        <translation>Exécutable de Quake 4 (%1)</translation>
+    </message>
+    <message>
+        <source>You must type a port number between 1024 and 65512! (Default: 9000)</source>
+        <translation>Vous devez saisir un numéro de port entre 1024 et 65512 ! (Par défaut : 9000)</translation>
+    </message>
+</context>
+<context>
+    <name>JoinFlow</name>
+    <message>
+        <source>Join server by IP Address</source>
+        <translation>Rejoindre un serveur par son adresse IP</translation>
+    </message>
+    <message>
+        <source>Please enter the IP address/hostname and port of the server you wish to join</source>
+        <translation>Veuillez saisir l'adresse IP ou le nom d'hôte et le port du serveur que vous voulez rejoindre</translation>
+    </message>
+    <message>
+        <source>Select your Quake 4 Executable</source>
+        <translation>Choisissez l'exécutable de Quake 4</translation>
+    </message>
+    <message>
+        <source>Quake 4 Executable (%1)</source>
+        <translation>Exécutable de Quake 4 (%1)</translation>
+    </message>
+    <message>
+        <source>Please enter the password for this server</source>
+        <translation>Veuillez saisir le mot de passe de ce serveur</translation>
+    </message>
+    <message>
+        <source>No Password Provided</source>
+        <translation>Aucun mot de passe fourni</translation>
+    </message>
+    <message>
+        <source>Join Server Anyway?</source>
+        <translation>Rejoindre le serveur quand même ?</translation>
+    </message>
+    <message>
+        <source>Connecting to %1</source>
+        <translation>Connexion à %1</translation>
+    </message>
+    <message>
+        <source>The game could not be started: %1 does not exist.</source>
+        <translation>Le jeu n'a pas pu être lancé : %1 n'existe pas.</translation>
+    </message>
+    <message>
+        <source>The game could not be started: %1 is not a program.</source>
+        <translation>Le jeu n'a pas pu être lancé : %1 n'est pas un programme.</translation>
+    </message>
+    <message>
+        <source>The game could not be started: %1.</source>
+        <translation>Le jeu n'a pas pu être lancé : %1.</translation>
+    </message>
+</context>
+<context>
+    <name>JoinPanel</name>
+    <message>
+        <source>Player Name:</source>
+        <translation>Nom du joueur :</translation>
+    </message>
+    <message>
+        <source>Join</source>
+        <translation>Rejoindre</translation>
+    </message>
+    <message>
+        <source>Join IP</source>
+        <translation>Rejoindre l'IP</translation>
+    </message>
+    <message>
+        <source>Name:</source>
+        <translation>Nom :</translation>
+    </message>
+    <message>
+        <source>Password:</source>
+        <translation>Mot de passe :</translation>
+    </message>
+</context>
+<context>
+    <name>ListColumns</name>
+    <message>
+        <source>Num</source>
+        <translation>N°</translation>
+    </message>
+    <message>
+        <source>Player</source>
+        <translation>Joueur</translation>
+    </message>
+    <message>
+        <source>Clan</source>
+        <translation>Clan</translation>
+    </message>
+    <message>
+        <source>Ping</source>
+        <translation>Ping</translation>
+    </message>
+    <message>
+        <source>Rate</source>
+        <translation>Débit</translation>
+    </message>
+    <message>
+        <source>Variable</source>
+        <translation>Variable</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>Valeur</translation>
+    </message>
+    <message>
+        <source>Server</source>
+        <translation>Serveur</translation>
+    </message>
+    <message>
+        <source>Map</source>
+        <translation>Carte</translation>
+    </message>
+    <message>
+        <source>Players</source>
+        <translation>Joueurs</translation>
+    </message>
+    <message>
+        <source>Pw</source>
+        <translation>MdP</translation>
+    </message>
+    <message>
+        <source>Type</source>
+        <translation>Type</translation>
+    </message>
+    <message>
+        <source>Game</source>
+        <translation>Jeu</translation>
+    </message>
+    <message>
+        <source>Server IP Address</source>
+        <translation>Adresse IP du serveur</translation>
+    </message>
+    <message>
+        <source>Svr Ping</source>
+        <translation>Ping serv.</translation>
+    </message>
+    <message>
+        <source>Mod</source>
+        <translation>Mod</translation>
+    </message>
+</context>
+<context>
+    <name>ListMenu</name>
+    <message>
+        <source>&amp;Add To Favourites</source>
+        <translation>&amp;Ajouter aux favoris</translation>
+    </message>
+    <message>
+        <source>&amp;Select Server</source>
+        <translation>&amp;Sélectionner le serveur</translation>
+    </message>
+    <message>
+        <source>The favourites file could not be written.</source>
+        <translation>Le fichier des favoris n'a pas pu être écrit.</translation>
+    </message>
+</context>
+<context>
+    <name>QueryBar</name>
+    <message>
+        <source>Cancel Query</source>
+        <translation>Annuler la recherche</translation>
+    </message>
+    <message>
+        <source>Query Masters</source>
+        <translation>Recherche Principales</translation>
+    </message>
+    <message>
+        <source>Query Favourites</source>
+        <translation>Rechercher Favoris</translation>
+    </message>
+</context>
+<context>
+    <name>QueryController</name>
+    <message>
+        <source>Done</source>
+        <translation>Terminé</translation>
+    </message>
+    <message>
+        <source>Master Servers Timed Out</source>
+        <translation>Délai dépassé pour les serveurs principaux</translation>
+    </message>
+    <message>
+        <source>The start port %1 is not valid. Choose another in the options.</source>
+        <translation>Le port de départ %1 n'est pas valable. Choisissez-en un autre dans les options.</translation>
+    </message>
+    <message>
+        <source>No favourites yet: right-click a server and choose "Add To Favourites".</source>
+        <translation>Pas encore de favoris : faites un clic droit sur un serveur et choisissez « Ajouter aux favoris ».</translation>
+    </message>
+    <message>
+        <source>Cancelled</source>
+        <translation>Annuler</translation>
+    </message>
+    <message>
+        <source>Requesting Server List from
+%1</source>
+        <translation>Demande de la liste des serveurs à
+%1</translation>
+    </message>
+    <message>
+        <source>Receiving Server List from
+%1</source>
+        <translation>Réception de la liste des serveurs de
+%1</translation>
+    </message>
+    <message>
+        <source>Sorting IP Address Lists
+%1</source>
+        <translation>Tri des listes d'adresses IP
+%1</translation>
+    </message>
+    <message>
+        <source>Querying %1 Servers...</source>
+        <translation>Recherche sur %1 serveurs...</translation>
+    </message>
+</context>
+<context>
+    <name>QueryError</name>
+    <message>
+        <source>Local port %1 cannot be used (%2). Choose another start port in the options.</source>
+        <translation>Le port local %1 ne peut pas être utilisé (%2). Choisissez un autre port de départ dans les options.</translation>
+    </message>
+    <message>
+        <source>The master server listed more than %1 servers; the list was not used.</source>
+        <translation>Le serveur principal a listé plus de %1 serveurs ; la liste n'a pas été utilisée.</translation>
+    </message>
+    <message>
+        <source>Master server %1 not found (%2).</source>
+        <translation>Serveur principal %1 introuvable (%2).</translation>
+    </message>
+    <message>
+        <source>The master server address "%1" is not valid.</source>
+        <translation>L'adresse du serveur principal « %1 » n'est pas valable.</translation>
+    </message>
+</context>
+<context>
+    <name>ServerDetails</name>
+    <message>
+        <source>Players of the selected server</source>
+        <translation>Joueurs du serveur sélectionné</translation>
+    </message>
+    <message>
+        <source>Rules of the selected server</source>
+        <translation>Règles du serveur sélectionné</translation>
+    </message>
+</context>
+<context>
+    <name>ServerRulesModel</name>
+    <message>
+        <source>True</source>
+        <translation>Vrai</translation>
+    </message>
+    <message>
+        <source>False</source>
+        <translation>Faux</translation>
+    </message>
+</context>
+<context>
+    <name>ServerSelection</name>
+    <message>
+        <source>Server Name:</source>
+        <translation>Nom du serveur :</translation>
+    </message>
+</context>
+</TS>

@@ -1,0 +1,687 @@
+<?xml version='1.0' encoding='utf-8'?>
+<TS version="2.1" language="it">
+<context>
+    <name>CopyCommands</name>
+    <message>
+        <source>Copy Cell</source>
+        <translation>Copia cella</translation>
+    </message>
+    <message>
+        <source>Copy Column</source>
+        <translation>Copia colonna</translation>
+    </message>
+    <message>
+        <source>Copy Row</source>
+        <translation>Copia riga</translation>
+    </message>
+    <message>
+        <source>Copy All</source>
+        <translation>Copia tutto</translation>
+    </message>
+</context>
+<context>
+    <name>EditableListDialog</name>
+    <message>
+        <source>Edit Cell</source>
+        <translation>Modifica cella</translation>
+    </message>
+    <message>
+        <source>New</source>
+        <translation>Nuovo</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Rimuovi</translation>
+    </message>
+</context>
+<context>
+    <name>FavouritesModel</name>
+    <message>
+        <source>Server Name</source>
+        <translation>Nome del server</translation>
+    </message>
+    <message>
+        <source>Server IP Address</source>
+        <translation>Indirizzo IP del server</translation>
+    </message>
+    <message>
+        <source>Password</source>
+        <translation>Password</translation>
+    </message>
+</context>
+<context>
+    <name>FiltersModel</name>
+    <message>
+        <source>Variable</source>
+        <translation>Variabile</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>Valore</translation>
+    </message>
+</context>
+<context>
+    <name>FindBar</name>
+    <message>
+        <source>Find</source>
+        <translation>Cerca</translation>
+    </message>
+    <message>
+        <source>Text Not Found</source>
+        <translation>Testo Non Cercato</translation>
+    </message>
+</context>
+<context>
+    <name>FrmAbout</name>
+    <message>
+        <source>About Quake 4 Vantage</source>
+        <translation>Informazioni su Quake 4 Vantage</translation>
+    </message>
+    <message>
+        <source>Quake 4 Vantage</source>
+        <translation>Quake 4 Vantage</translation>
+    </message>
+    <message>
+        <source>Version %1</source>
+        <translation>Versione %1</translation>
+    </message>
+    <message>
+        <source>A server browser for Quake 4: finds servers and players, and joins a game with a double click.</source>
+        <translation>Un browser di server per Quake 4: trova server e giocatori ed entra in una partita con un doppio clic.</translation>
+    </message>
+    <message>
+        <source>Built with Qt %1, running on Qt %2.</source>
+        <translation>Compilato con Qt %1, in esecuzione su Qt %2.</translation>
+    </message>
+    <message>
+        <source>Home page</source>
+        <translation>Sito web</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+</context>
+<context>
+    <name>FrmFavourites</name>
+    <message>
+        <source>This favourites file is larger than the editor reads (%1 servers or %2 MB). It is shown in part and not saved, so that no server is lost.</source>
+        <translation>Questo file dei preferiti è più grande di quanto l'editor legga (%1 server o %2 MB). Viene mostrato solo in parte e non viene salvato, così nessun server va perso.</translation>
+    </message>
+    <message>
+        <source>The favourites could not be saved to %1. Your changes are still here.</source>
+        <translation>Impossibile salvare i preferiti in %1. Le modifiche sono ancora qui.</translation>
+    </message>
+    <message>
+        <source>Favourites</source>
+        <translation>Preferiti</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annulla</translation>
+    </message>
+    <message>
+        <source>Apply</source>
+        <translation>Applica</translation>
+    </message>
+    <message>
+        <source>New</source>
+        <translation>Nuovo</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Rimuovi</translation>
+    </message>
+    <message>
+        <source>New Server</source>
+        <translation>Nuovo server</translation>
+    </message>
+</context>
+<context>
+    <name>FrmFilters</name>
+    <message>
+        <source>Filters</source>
+        <translation>Filtri</translation>
+    </message>
+    <message>
+        <source>New</source>
+        <translation>Nuovo</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Rimuovi</translation>
+    </message>
+    <message>
+        <source>Built in filters:</source>
+        <translation>Filtri predefiniti:</translation>
+    </message>
+    <message>
+        <source>Empty</source>
+        <translation>Vuoti</translation>
+    </message>
+    <message>
+        <source>Full</source>
+        <translation>Pieni</translation>
+    </message>
+    <message>
+        <source>Passworded</source>
+        <translation>Con password</translation>
+    </message>
+    <message>
+        <source>Example 1: si_map                 mp/q4dm5</source>
+        <translation>Esempio 1: si_map                 mp/q4dm5</translation>
+    </message>
+    <message>
+        <source>Example 2: sv_punkbuster     1</source>
+        <translation>Esempio 2: sv_punkbuster     1</translation>
+    </message>
+    <message>
+        <source>The filters could not be saved to %1; this change lasts until the program ends.</source>
+        <translation>Impossibile salvare i filtri in %1; questa modifica vale solo fino alla chiusura del programma.</translation>
+    </message>
+</context>
+<context>
+    <name>FrmMain</name>
+    <message>
+        <source>Quake 4 Vantage</source>
+        <translation>Quake 4 Vantage</translation>
+    </message>
+    <message>
+        <source>Master Servers Timed Out</source>
+        <translation>Tempo scaduto per i master server</translation>
+    </message>
+    <message>
+        <source>About Quake 4 Vantage</source>
+        <translation>Informazioni su Quake 4 Vantage</translation>
+    </message>
+    <message>
+        <source>Players</source>
+        <translation>Giocatori</translation>
+    </message>
+    <message>
+        <source>Servers</source>
+        <translation>Server</translation>
+    </message>
+    <message>
+        <source>Favourites</source>
+        <translation>Preferiti</translation>
+    </message>
+    <message>
+        <source>Filters</source>
+        <translation>Filtri</translation>
+    </message>
+    <message>
+        <source>Options</source>
+        <translation>Opzioni</translation>
+    </message>
+    <message>
+        <source>Exit</source>
+        <translation>Esci</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n servers found</source>
+        <translation>
+            <numerusform>%n server trovato</numerusform><numerusform>%n server trovati</numerusform></translation>
+    </message>
+    <message numerus="yes">
+        <source>%n players found</source>
+        <translation>
+            <numerusform>%n giocatore trovato</numerusform><numerusform>%n giocatori trovati</numerusform></translation>
+    </message>
+</context>
+<context>
+    <name>FrmOptions</name>
+    <message>
+        <source>Options</source>
+        <translation>Opzioni</translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation>Impostazioni</translation>
+    </message>
+    <message>
+        <source>Theme</source>
+        <translation>Tema</translation>
+    </message>
+    <message>
+        <source>Language:</source>
+        <translation>Lingua:</translation>
+    </message>
+    <message>
+        <source>Query Speed:</source>
+        <translation>Velocità di interrogazione:</translation>
+    </message>
+    <message>
+        <source>Dial Up (56k)</source>
+        <translation>Modem (56k)</translation>
+    </message>
+    <message>
+        <source>ISDN (64k)</source>
+        <translation>ISDN (64k)</translation>
+    </message>
+    <message>
+        <source>ISDN (128k)</source>
+        <translation>ISDN (128k)</translation>
+    </message>
+    <message>
+        <source>DSL (256k)</source>
+        <translation>ADSL (256k)</translation>
+    </message>
+    <message>
+        <source>DSL (512k)</source>
+        <translation>ADSL (512k)</translation>
+    </message>
+    <message>
+        <source>Maximum</source>
+        <translation>Massima</translation>
+    </message>
+    <message>
+        <source>Automatically Check For Updates</source>
+        <translation>Controlla automaticamente gli aggiornamenti</translation>
+    </message>
+    <message>
+        <source>Close After Joining</source>
+        <translation>Chiudi dopo l'ingresso</translation>
+    </message>
+    <message>
+        <source>Refresh Server On Selection</source>
+        <translation>Aggiorna il server selezionato</translation>
+    </message>
+    <message>
+        <source>Port Range:</source>
+        <translation>Intervallo di porte:</translation>
+    </message>
+    <message>
+        <source>Note: Port Range is dependant on the query speed.</source>
+        <translation>Nota: l'intervallo di porte dipende dalla velocità di interrogazione.</translation>
+    </message>
+    <message>
+        <source>Use Proxy Server for updates</source>
+        <translation>Usa un server proxy per gli aggiornamenti</translation>
+    </message>
+    <message>
+        <source>Quake 4 Executable:</source>
+        <translation>Eseguibile di Quake 4:</translation>
+    </message>
+    <message>
+        <source>Browse</source>
+        <translation>Sfoglia</translation>
+    </message>
+    <message>
+        <source>Form Back Colour</source>
+        <translation>Sfondo delle finestre</translation>
+    </message>
+    <message>
+        <source>List Back Colour</source>
+        <translation>Sfondo degli elenchi</translation>
+    </message>
+    <message>
+        <source>List Text Colour</source>
+        <translation>Testo degli elenchi</translation>
+    </message>
+    <message>
+        <source>Text Box Back Colour</source>
+        <translation>Sfondo delle caselle di testo</translation>
+    </message>
+    <message>
+        <source>Text Box Text Colour</source>
+        <translation>Testo delle caselle di testo</translation>
+    </message>
+    <message>
+        <source>Progress Bar Back Colour</source>
+        <translation>Sfondo della barra di avanzamento</translation>
+    </message>
+    <message>
+        <source>Progress Bar Bar Colour</source>
+        <translation>Colore della barra di avanzamento</translation>
+    </message>
+    <message>
+        <source>Progress Bar Type:</source>
+        <translation>Tipo di barra di avanzamento:</translation>
+    </message>
+    <message>
+        <source>Standard</source>
+        <translation>Normale</translation>
+    </message>
+    <message>
+        <source>Segmented</source>
+        <translation>A segmenti</translation>
+    </message>
+    <message>
+        <source>Smooth</source>
+        <translation>Continua</translation>
+    </message>
+    <message>
+        <source>Tab Style:</source>
+        <translation>Stile delle schede:</translation>
+    </message>
+    <message>
+        <source>Small Tabs</source>
+        <translation>Schede piccole</translation>
+    </message>
+    <message>
+        <source>Large Tabs</source>
+        <translation>Schede grandi</translation>
+    </message>
+    <message>
+        <source>Saved Themes:</source>
+        <translation>Temi salvati:</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Salva</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Rimuovi</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annulla</translation>
+    </message>
+    <message>
+        <source>Apply</source>
+        <translation>Applica</translation>
+    </message>
+    <message>
+        <source>Defaults</source>
+        <translation>Predefiniti</translation>
+    </message>
+    <message>
+        <source>Save Theme</source>
+        <translation>Salva tema</translation>
+    </message>
+    <message>
+        <source>Please enter a name for this theme</source>
+        <translation>Inserisci un nome per questo tema</translation>
+    </message>
+    <message>
+        <source>The themes could not be saved to %1; the other settings are not affected.</source>
+        <translation>Impossibile salvare i temi in %1; le altre impostazioni non ne risentono.</translation>
+    </message>
+    <message>
+        <source>Are you sure you want to reset all settings to their default values?</source>
+        <translation>Vuoi davvero riportare tutte le impostazioni ai valori predefiniti?</translation>
+    </message>
+    <message>
+        <source>Select your Quake 4 Executable</source>
+        <translation>Seleziona l'eseguibile di Quake 4</translation>
+    </message>
+    <message>
+        <source>Quake 4 Executable (%1)</source>
+        <translation>Eseguibile di Quake 4 (%1)</translation>
+    </message>
+    <message>
+        <source>You must type a port number between 1024 and 65512! (Default: 9000)</source>
+        <translation>Devi inserire un numero di porta tra 1024 e 65512! (Predefinito: 9000)</translation>
+    </message>
+</context>
+<context>
+    <name>JoinFlow</name>
+    <message>
+        <source>Join server by IP Address</source>
+        <translation>Entra in un server tramite indirizzo IP</translation>
+    </message>
+    <message>
+        <source>Please enter the IP address/hostname and port of the server you wish to join</source>
+        <translation>Inserisci l'indirizzo IP o il nome host e la porta del server in cui vuoi entrare</translation>
+    </message>
+    <message>
+        <source>Select your Quake 4 Executable</source>
+        <translation>Seleziona l'eseguibile di Quake 4</translation>
+    </message>
+    <message>
+        <source>Quake 4 Executable (%1)</source>
+        <translation>Eseguibile di Quake 4 (%1)</translation>
+    </message>
+    <message>
+        <source>Please enter the password for this server</source>
+        <translation>Inserisci la password di questo server</translation>
+    </message>
+    <message>
+        <source>No Password Provided</source>
+        <translation>Nessuna password inserita</translation>
+    </message>
+    <message>
+        <source>Join Server Anyway?</source>
+        <translation>Entrare comunque nel server?</translation>
+    </message>
+    <message>
+        <source>Connecting to %1</source>
+        <translation>Connessione a %1</translation>
+    </message>
+    <message>
+        <source>The game could not be started: %1 does not exist.</source>
+        <translation>Impossibile avviare il gioco: %1 non esiste.</translation>
+    </message>
+    <message>
+        <source>The game could not be started: %1 is not a program.</source>
+        <translation>Impossibile avviare il gioco: %1 non è un programma.</translation>
+    </message>
+    <message>
+        <source>The game could not be started: %1.</source>
+        <translation>Impossibile avviare il gioco: %1.</translation>
+    </message>
+</context>
+<context>
+    <name>JoinPanel</name>
+    <message>
+        <source>Player Name:</source>
+        <translation>Nome giocatore:</translation>
+    </message>
+    <message>
+        <source>Join</source>
+        <translation>Entra</translation>
+    </message>
+    <message>
+        <source>Join IP</source>
+        <translation>Entra per IP</translation>
+    </message>
+    <message>
+        <source>Name:</source>
+        <translation>Nome:</translation>
+    </message>
+    <message>
+        <source>Password:</source>
+        <translation>Password:</translation>
+    </message>
+</context>
+<context>
+    <name>ListColumns</name>
+    <message>
+        <source>Num</source>
+        <translation>N.</translation>
+    </message>
+    <message>
+        <source>Player</source>
+        <translation>Giocatore</translation>
+    </message>
+    <message>
+        <source>Clan</source>
+        <translation>Clan</translation>
+    </message>
+    <message>
+        <source>Ping</source>
+        <translation>Ping</translation>
+    </message>
+    <message>
+        <source>Rate</source>
+        <translation>Banda</translation>
+    </message>
+    <message>
+        <source>Variable</source>
+        <translation>Variabile</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>Valore</translation>
+    </message>
+    <message>
+        <source>Server</source>
+        <translation>Server</translation>
+    </message>
+    <message>
+        <source>Map</source>
+        <translation>Mappa</translation>
+    </message>
+    <message>
+        <source>Players</source>
+        <translation>Giocatori</translation>
+    </message>
+    <message>
+        <source>Pw</source>
+        <translation>Pw</translation>
+    </message>
+    <message>
+        <source>Type</source>
+        <translation>Tipo</translation>
+    </message>
+    <message>
+        <source>Game</source>
+        <translation>Gioco</translation>
+    </message>
+    <message>
+        <source>Server IP Address</source>
+        <translation>Indirizzo IP del server</translation>
+    </message>
+    <message>
+        <source>Svr Ping</source>
+        <translation>Ping srv</translation>
+    </message>
+    <message>
+        <source>Mod</source>
+        <translation>Mod</translation>
+    </message>
+</context>
+<context>
+    <name>ListMenu</name>
+    <message>
+        <source>&amp;Add To Favourites</source>
+        <translation>&amp;Aggiungi ai preferiti</translation>
+    </message>
+    <message>
+        <source>&amp;Select Server</source>
+        <translation>&amp;Seleziona server</translation>
+    </message>
+    <message>
+        <source>The favourites file could not be written.</source>
+        <translation>Impossibile scrivere il file dei preferiti.</translation>
+    </message>
+</context>
+<context>
+    <name>QueryBar</name>
+    <message>
+        <source>Cancel Query</source>
+        <translation>Annulla Interrogazione</translation>
+    </message>
+    <message>
+        <source>Query Masters</source>
+        <translation>Interroga Server</translation>
+    </message>
+    <message>
+        <source>Query Favourites</source>
+        <translation>Interroga Favoriti</translation>
+    </message>
+</context>
+<context>
+    <name>QueryController</name>
+    <message>
+        <source>Done</source>
+        <translation>Completato</translation>
+    </message>
+    <message>
+        <source>Master Servers Timed Out</source>
+        <translation>Tempo scaduto per i master server</translation>
+    </message>
+    <message>
+        <source>The start port %1 is not valid. Choose another in the options.</source>
+        <translation>La porta iniziale %1 non è valida. Scegline un'altra nelle opzioni.</translation>
+    </message>
+    <message>
+        <source>No favourites yet: right-click a server and choose "Add To Favourites".</source>
+        <translation>Ancora nessun preferito: fai clic destro su un server e scegli «Aggiungi ai preferiti».</translation>
+    </message>
+    <message>
+        <source>Cancelled</source>
+        <translation>Annulllato</translation>
+    </message>
+    <message>
+        <source>Requesting Server List from
+%1</source>
+        <translation>Richiesta dell'elenco dei server a
+%1</translation>
+    </message>
+    <message>
+        <source>Receiving Server List from
+%1</source>
+        <translation>Ricezione dell'elenco dei server da
+%1</translation>
+    </message>
+    <message>
+        <source>Sorting IP Address Lists
+%1</source>
+        <translation>Ordinamento degli elenchi di indirizzi IP
+%1</translation>
+    </message>
+    <message>
+        <source>Querying %1 Servers...</source>
+        <translation>Interrogazione di %1 server...</translation>
+    </message>
+</context>
+<context>
+    <name>QueryError</name>
+    <message>
+        <source>Local port %1 cannot be used (%2). Choose another start port in the options.</source>
+        <translation>La porta locale %1 non può essere usata (%2). Scegli un'altra porta iniziale nelle opzioni.</translation>
+    </message>
+    <message>
+        <source>The master server listed more than %1 servers; the list was not used.</source>
+        <translation>Il master server ha elencato più di %1 server; l'elenco non è stato usato.</translation>
+    </message>
+    <message>
+        <source>Master server %1 not found (%2).</source>
+        <translation>Master server %1 non trovato (%2).</translation>
+    </message>
+    <message>
+        <source>The master server address "%1" is not valid.</source>
+        <translation>L'indirizzo del master server «%1» non è valido.</translation>
+    </message>
+</context>
+<context>
+    <name>ServerDetails</name>
+    <message>
+        <source>Players of the selected server</source>
+        <translation>Giocatori del server selezionato</translation>
+    </message>
+    <message>
+        <source>Rules of the selected server</source>
+        <translation>Regole del server selezionato</translation>
+    </message>
+</context>
+<context>
+    <name>ServerRulesModel</name>
+    <message>
+        <source>True</source>
+        <translation>Vero</translation>
+    </message>
+    <message>
+        <source>False</source>
+        <translation>Falso</translation>
+    </message>
+</context>
+<context>
+    <name>ServerSelection</name>
+    <message>
+        <source>Server Name:</source>
+        <translation>Nome del server:</translation>
+    </message>
+</context>
+</TS>

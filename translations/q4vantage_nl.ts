@@ -1,0 +1,687 @@
+<?xml version='1.0' encoding='utf-8'?>
+<TS version="2.1" language="nl">
+<context>
+    <name>CopyCommands</name>
+    <message>
+        <source>Copy Cell</source>
+        <translation>Cel kopiëren</translation>
+    </message>
+    <message>
+        <source>Copy Column</source>
+        <translation>Kolom kopiëren</translation>
+    </message>
+    <message>
+        <source>Copy Row</source>
+        <translation>Rij kopiëren</translation>
+    </message>
+    <message>
+        <source>Copy All</source>
+        <translation>Alles kopiëren</translation>
+    </message>
+</context>
+<context>
+    <name>EditableListDialog</name>
+    <message>
+        <source>Edit Cell</source>
+        <translation>Cel bewerken</translation>
+    </message>
+    <message>
+        <source>New</source>
+        <translation>Nieuw</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Verwijderen</translation>
+    </message>
+</context>
+<context>
+    <name>FavouritesModel</name>
+    <message>
+        <source>Server Name</source>
+        <translation>Servernaam</translation>
+    </message>
+    <message>
+        <source>Server IP Address</source>
+        <translation>IP-adres van de server</translation>
+    </message>
+    <message>
+        <source>Password</source>
+        <translation>Wachtwoord</translation>
+    </message>
+</context>
+<context>
+    <name>FiltersModel</name>
+    <message>
+        <source>Variable</source>
+        <translation>Variabele</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>Waarde</translation>
+    </message>
+</context>
+<context>
+    <name>FindBar</name>
+    <message>
+        <source>Find</source>
+        <translation>Zoeken</translation>
+    </message>
+    <message>
+        <source>Text Not Found</source>
+        <translation>Text Niet Gevonden</translation>
+    </message>
+</context>
+<context>
+    <name>FrmAbout</name>
+    <message>
+        <source>About Quake 4 Vantage</source>
+        <translation>Over Quake 4 Vantage</translation>
+    </message>
+    <message>
+        <source>Quake 4 Vantage</source>
+        <translation>Quake 4 Vantage</translation>
+    </message>
+    <message>
+        <source>Version %1</source>
+        <translation>Versie %1</translation>
+    </message>
+    <message>
+        <source>A server browser for Quake 4: finds servers and players, and joins a game with a double click.</source>
+        <translation>Een serverbrowser voor Quake 4: vindt servers en spelers en doet met een dubbelklik mee aan een spel.</translation>
+    </message>
+    <message>
+        <source>Built with Qt %1, running on Qt %2.</source>
+        <translation>Gebouwd met Qt %1, draait op Qt %2.</translation>
+    </message>
+    <message>
+        <source>Home page</source>
+        <translation>Website</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+</context>
+<context>
+    <name>FrmFavourites</name>
+    <message>
+        <source>This favourites file is larger than the editor reads (%1 servers or %2 MB). It is shown in part and not saved, so that no server is lost.</source>
+        <translation>Dit favorietenbestand is groter dan de editor leest (%1 servers of %2 MB). Het wordt maar gedeeltelijk getoond en niet opgeslagen, zodat er geen server verloren gaat.</translation>
+    </message>
+    <message>
+        <source>The favourites could not be saved to %1. Your changes are still here.</source>
+        <translation>De favorieten konden niet in %1 worden opgeslagen. Uw wijzigingen zijn er nog.</translation>
+    </message>
+    <message>
+        <source>Favourites</source>
+        <translation>Favorieten</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuleren</translation>
+    </message>
+    <message>
+        <source>Apply</source>
+        <translation>Toepassen</translation>
+    </message>
+    <message>
+        <source>New</source>
+        <translation>Nieuw</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Verwijderen</translation>
+    </message>
+    <message>
+        <source>New Server</source>
+        <translation>Nieuwe server</translation>
+    </message>
+</context>
+<context>
+    <name>FrmFilters</name>
+    <message>
+        <source>Filters</source>
+        <translation>Filters</translation>
+    </message>
+    <message>
+        <source>New</source>
+        <translation>Nieuw</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Verwijderen</translation>
+    </message>
+    <message>
+        <source>Built in filters:</source>
+        <translation>Ingebouwde filters:</translation>
+    </message>
+    <message>
+        <source>Empty</source>
+        <translation>Leeg</translation>
+    </message>
+    <message>
+        <source>Full</source>
+        <translation>Vol</translation>
+    </message>
+    <message>
+        <source>Passworded</source>
+        <translation>Met wachtwoord</translation>
+    </message>
+    <message>
+        <source>Example 1: si_map                 mp/q4dm5</source>
+        <translation>Voorbeeld 1: si_map                 mp/q4dm5</translation>
+    </message>
+    <message>
+        <source>Example 2: sv_punkbuster     1</source>
+        <translation>Voorbeeld 2: sv_punkbuster     1</translation>
+    </message>
+    <message>
+        <source>The filters could not be saved to %1; this change lasts until the program ends.</source>
+        <translation>De filters konden niet in %1 worden opgeslagen; deze wijziging geldt tot het programma stopt.</translation>
+    </message>
+</context>
+<context>
+    <name>FrmMain</name>
+    <message>
+        <source>Quake 4 Vantage</source>
+        <translation>Quake 4 Vantage</translation>
+    </message>
+    <message>
+        <source>Master Servers Timed Out</source>
+        <translation>Time-out bij de masterservers</translation>
+    </message>
+    <message>
+        <source>About Quake 4 Vantage</source>
+        <translation>Over Quake 4 Vantage</translation>
+    </message>
+    <message>
+        <source>Players</source>
+        <translation>Spelers</translation>
+    </message>
+    <message>
+        <source>Servers</source>
+        <translation>Servers</translation>
+    </message>
+    <message>
+        <source>Favourites</source>
+        <translation>Favorieten</translation>
+    </message>
+    <message>
+        <source>Filters</source>
+        <translation>Filters</translation>
+    </message>
+    <message>
+        <source>Options</source>
+        <translation>Opties</translation>
+    </message>
+    <message>
+        <source>Exit</source>
+        <translation>Afsluiten</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n servers found</source>
+        <translation>
+            <numerusform>%n server gevonden</numerusform><numerusform>%n servers gevonden</numerusform></translation>
+    </message>
+    <message numerus="yes">
+        <source>%n players found</source>
+        <translation>
+            <numerusform>%n speler gevonden</numerusform><numerusform>%n spelers gevonden</numerusform></translation>
+    </message>
+</context>
+<context>
+    <name>FrmOptions</name>
+    <message>
+        <source>Options</source>
+        <translation>Opties</translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation>Instellingen</translation>
+    </message>
+    <message>
+        <source>Theme</source>
+        <translation>Thema</translation>
+    </message>
+    <message>
+        <source>Language:</source>
+        <translation>Taal:</translation>
+    </message>
+    <message>
+        <source>Query Speed:</source>
+        <translation>Querysnelheid:</translation>
+    </message>
+    <message>
+        <source>Dial Up (56k)</source>
+        <translation>Inbelmodem (56k)</translation>
+    </message>
+    <message>
+        <source>ISDN (64k)</source>
+        <translation>ISDN (64k)</translation>
+    </message>
+    <message>
+        <source>ISDN (128k)</source>
+        <translation>ISDN (128k)</translation>
+    </message>
+    <message>
+        <source>DSL (256k)</source>
+        <translation>ADSL (256k)</translation>
+    </message>
+    <message>
+        <source>DSL (512k)</source>
+        <translation>ADSL (512k)</translation>
+    </message>
+    <message>
+        <source>Maximum</source>
+        <translation>Maximaal</translation>
+    </message>
+    <message>
+        <source>Automatically Check For Updates</source>
+        <translation>Automatisch controleren op updates</translation>
+    </message>
+    <message>
+        <source>Close After Joining</source>
+        <translation>Sluiten na deelnemen</translation>
+    </message>
+    <message>
+        <source>Refresh Server On Selection</source>
+        <translation>Server vernieuwen bij selectie</translation>
+    </message>
+    <message>
+        <source>Port Range:</source>
+        <translation>Poortbereik:</translation>
+    </message>
+    <message>
+        <source>Note: Port Range is dependant on the query speed.</source>
+        <translation>Let op: het poortbereik hangt af van de querysnelheid.</translation>
+    </message>
+    <message>
+        <source>Use Proxy Server for updates</source>
+        <translation>Proxyserver gebruiken voor updates</translation>
+    </message>
+    <message>
+        <source>Quake 4 Executable:</source>
+        <translation>Quake 4-programma:</translation>
+    </message>
+    <message>
+        <source>Browse</source>
+        <translation>Bladeren</translation>
+    </message>
+    <message>
+        <source>Form Back Colour</source>
+        <translation>Achtergrond van vensters</translation>
+    </message>
+    <message>
+        <source>List Back Colour</source>
+        <translation>Achtergrond van lijsten</translation>
+    </message>
+    <message>
+        <source>List Text Colour</source>
+        <translation>Tekst van lijsten</translation>
+    </message>
+    <message>
+        <source>Text Box Back Colour</source>
+        <translation>Achtergrond van tekstvakken</translation>
+    </message>
+    <message>
+        <source>Text Box Text Colour</source>
+        <translation>Tekst van tekstvakken</translation>
+    </message>
+    <message>
+        <source>Progress Bar Back Colour</source>
+        <translation>Achtergrond van voortgangsbalk</translation>
+    </message>
+    <message>
+        <source>Progress Bar Bar Colour</source>
+        <translation>Kleur van voortgangsbalk</translation>
+    </message>
+    <message>
+        <source>Progress Bar Type:</source>
+        <translation>Soort voortgangsbalk:</translation>
+    </message>
+    <message>
+        <source>Standard</source>
+        <translation>Normaal</translation>
+    </message>
+    <message>
+        <source>Segmented</source>
+        <translation>Gesegmenteerd</translation>
+    </message>
+    <message>
+        <source>Smooth</source>
+        <translation>Vloeiend</translation>
+    </message>
+    <message>
+        <source>Tab Style:</source>
+        <translation>Tabstijl:</translation>
+    </message>
+    <message>
+        <source>Small Tabs</source>
+        <translation>Kleine tabs</translation>
+    </message>
+    <message>
+        <source>Large Tabs</source>
+        <translation>Grote tabs</translation>
+    </message>
+    <message>
+        <source>Saved Themes:</source>
+        <translation>Opgeslagen thema's:</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Opslaan</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Verwijderen</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuleren</translation>
+    </message>
+    <message>
+        <source>Apply</source>
+        <translation>Toepassen</translation>
+    </message>
+    <message>
+        <source>Defaults</source>
+        <translation>Standaardwaarden</translation>
+    </message>
+    <message>
+        <source>Save Theme</source>
+        <translation>Thema opslaan</translation>
+    </message>
+    <message>
+        <source>Please enter a name for this theme</source>
+        <translation>Voer een naam in voor dit thema</translation>
+    </message>
+    <message>
+        <source>The themes could not be saved to %1; the other settings are not affected.</source>
+        <translation>De thema's konden niet in %1 worden opgeslagen; de andere instellingen blijven ongewijzigd.</translation>
+    </message>
+    <message>
+        <source>Are you sure you want to reset all settings to their default values?</source>
+        <translation>Weet u zeker dat u alle instellingen wilt terugzetten naar de standaardwaarden?</translation>
+    </message>
+    <message>
+        <source>Select your Quake 4 Executable</source>
+        <translation>Selecteer uw Quake 4-programma</translation>
+    </message>
+    <message>
+        <source>Quake 4 Executable (%1)</source>
+        <translation>Quake 4-programma (%1)</translation>
+    </message>
+    <message>
+        <source>You must type a port number between 1024 and 65512! (Default: 9000)</source>
+        <translation>U moet een poortnummer tussen 1024 en 65512 invoeren! (Standaard: 9000)</translation>
+    </message>
+</context>
+<context>
+    <name>JoinFlow</name>
+    <message>
+        <source>Join server by IP Address</source>
+        <translation>Deelnemen aan server via IP-adres</translation>
+    </message>
+    <message>
+        <source>Please enter the IP address/hostname and port of the server you wish to join</source>
+        <translation>Voer het IP-adres of de hostnaam en de poort in van de server waaraan u wilt deelnemen</translation>
+    </message>
+    <message>
+        <source>Select your Quake 4 Executable</source>
+        <translation>Selecteer uw Quake 4-programma</translation>
+    </message>
+    <message>
+        <source>Quake 4 Executable (%1)</source>
+        <translation>Quake 4-programma (%1)</translation>
+    </message>
+    <message>
+        <source>Please enter the password for this server</source>
+        <translation>Voer het wachtwoord voor deze server in</translation>
+    </message>
+    <message>
+        <source>No Password Provided</source>
+        <translation>Geen wachtwoord opgegeven</translation>
+    </message>
+    <message>
+        <source>Join Server Anyway?</source>
+        <translation>Toch deelnemen aan de server?</translation>
+    </message>
+    <message>
+        <source>Connecting to %1</source>
+        <translation>Verbinden met %1</translation>
+    </message>
+    <message>
+        <source>The game could not be started: %1 does not exist.</source>
+        <translation>Het spel kon niet worden gestart: %1 bestaat niet.</translation>
+    </message>
+    <message>
+        <source>The game could not be started: %1 is not a program.</source>
+        <translation>Het spel kon niet worden gestart: %1 is geen programma.</translation>
+    </message>
+    <message>
+        <source>The game could not be started: %1.</source>
+        <translation>Het spel kon niet worden gestart: %1.</translation>
+    </message>
+</context>
+<context>
+    <name>JoinPanel</name>
+    <message>
+        <source>Player Name:</source>
+        <translation>Spelersnaam:</translation>
+    </message>
+    <message>
+        <source>Join</source>
+        <translation>Deelnemen</translation>
+    </message>
+    <message>
+        <source>Join IP</source>
+        <translation>Via IP</translation>
+    </message>
+    <message>
+        <source>Name:</source>
+        <translation>Naam:</translation>
+    </message>
+    <message>
+        <source>Password:</source>
+        <translation>Wachtwoord:</translation>
+    </message>
+</context>
+<context>
+    <name>ListColumns</name>
+    <message>
+        <source>Num</source>
+        <translation>Nr.</translation>
+    </message>
+    <message>
+        <source>Player</source>
+        <translation>Speler</translation>
+    </message>
+    <message>
+        <source>Clan</source>
+        <translation>Clan</translation>
+    </message>
+    <message>
+        <source>Ping</source>
+        <translation>Ping</translation>
+    </message>
+    <message>
+        <source>Rate</source>
+        <translation>Rate</translation>
+    </message>
+    <message>
+        <source>Variable</source>
+        <translation>Variabele</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>Waarde</translation>
+    </message>
+    <message>
+        <source>Server</source>
+        <translation>Server</translation>
+    </message>
+    <message>
+        <source>Map</source>
+        <translation>Kaart</translation>
+    </message>
+    <message>
+        <source>Players</source>
+        <translation>Spelers</translation>
+    </message>
+    <message>
+        <source>Pw</source>
+        <translation>Ww</translation>
+    </message>
+    <message>
+        <source>Type</source>
+        <translation>Soort</translation>
+    </message>
+    <message>
+        <source>Game</source>
+        <translation>Spel</translation>
+    </message>
+    <message>
+        <source>Server IP Address</source>
+        <translation>IP-adres van de server</translation>
+    </message>
+    <message>
+        <source>Svr Ping</source>
+        <translation>Srv-ping</translation>
+    </message>
+    <message>
+        <source>Mod</source>
+        <translation>Mod</translation>
+    </message>
+</context>
+<context>
+    <name>ListMenu</name>
+    <message>
+        <source>&amp;Add To Favourites</source>
+        <translation>&amp;Toevoegen aan favorieten</translation>
+    </message>
+    <message>
+        <source>&amp;Select Server</source>
+        <translation>&amp;Server selecteren</translation>
+    </message>
+    <message>
+        <source>The favourites file could not be written.</source>
+        <translation>Het favorietenbestand kon niet worden geschreven.</translation>
+    </message>
+</context>
+<context>
+    <name>QueryBar</name>
+    <message>
+        <source>Cancel Query</source>
+        <translation>Annuleer Query</translation>
+    </message>
+    <message>
+        <source>Query Masters</source>
+        <translation>Query Masters</translation>
+    </message>
+    <message>
+        <source>Query Favourites</source>
+        <translation>Query Favorieten</translation>
+    </message>
+</context>
+<context>
+    <name>QueryController</name>
+    <message>
+        <source>Done</source>
+        <translation>Klaar</translation>
+    </message>
+    <message>
+        <source>Master Servers Timed Out</source>
+        <translation>Time-out bij de masterservers</translation>
+    </message>
+    <message>
+        <source>The start port %1 is not valid. Choose another in the options.</source>
+        <translation>De startpoort %1 is ongeldig. Kies een andere in de opties.</translation>
+    </message>
+    <message>
+        <source>No favourites yet: right-click a server and choose "Add To Favourites".</source>
+        <translation>Nog geen favorieten: klik met de rechtermuisknop op een server en kies 'Toevoegen aan favorieten'.</translation>
+    </message>
+    <message>
+        <source>Cancelled</source>
+        <translation>Geannuleerd</translation>
+    </message>
+    <message>
+        <source>Requesting Server List from
+%1</source>
+        <translation>Serverlijst opvragen bij
+%1</translation>
+    </message>
+    <message>
+        <source>Receiving Server List from
+%1</source>
+        <translation>Serverlijst ontvangen van
+%1</translation>
+    </message>
+    <message>
+        <source>Sorting IP Address Lists
+%1</source>
+        <translation>IP-adreslijsten sorteren
+%1</translation>
+    </message>
+    <message>
+        <source>Querying %1 Servers...</source>
+        <translation>%1 servers worden bevraagd...</translation>
+    </message>
+</context>
+<context>
+    <name>QueryError</name>
+    <message>
+        <source>Local port %1 cannot be used (%2). Choose another start port in the options.</source>
+        <translation>Lokale poort %1 kan niet worden gebruikt (%2). Kies een andere startpoort in de opties.</translation>
+    </message>
+    <message>
+        <source>The master server listed more than %1 servers; the list was not used.</source>
+        <translation>De masterserver gaf meer dan %1 servers; de lijst is niet gebruikt.</translation>
+    </message>
+    <message>
+        <source>Master server %1 not found (%2).</source>
+        <translation>Masterserver %1 niet gevonden (%2).</translation>
+    </message>
+    <message>
+        <source>The master server address "%1" is not valid.</source>
+        <translation>Het masterserveradres '%1' is ongeldig.</translation>
+    </message>
+</context>
+<context>
+    <name>ServerDetails</name>
+    <message>
+        <source>Players of the selected server</source>
+        <translation>Spelers van de geselecteerde server</translation>
+    </message>
+    <message>
+        <source>Rules of the selected server</source>
+        <translation>Regels van de geselecteerde server</translation>
+    </message>
+</context>
+<context>
+    <name>ServerRulesModel</name>
+    <message>
+        <source>True</source>
+        <translation>Waar</translation>
+    </message>
+    <message>
+        <source>False</source>
+        <translation>Onwaar</translation>
+    </message>
+</context>
+<context>
+    <name>ServerSelection</name>
+    <message>
+        <source>Server Name:</source>
+        <translation>Servernaam:</translation>
+    </message>
+</context>
+</TS>

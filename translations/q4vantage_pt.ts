@@ -1,0 +1,687 @@
+<?xml version='1.0' encoding='utf-8'?>
+<TS version="2.1" language="pt">
+<context>
+    <name>CopyCommands</name>
+    <message>
+        <source>Copy Cell</source>
+        <translation>Copiar célula</translation>
+    </message>
+    <message>
+        <source>Copy Column</source>
+        <translation>Copiar coluna</translation>
+    </message>
+    <message>
+        <source>Copy Row</source>
+        <translation>Copiar linha</translation>
+    </message>
+    <message>
+        <source>Copy All</source>
+        <translation>Copiar tudo</translation>
+    </message>
+</context>
+<context>
+    <name>EditableListDialog</name>
+    <message>
+        <source>Edit Cell</source>
+        <translation>Editar célula</translation>
+    </message>
+    <message>
+        <source>New</source>
+        <translation>Novo</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Remover</translation>
+    </message>
+</context>
+<context>
+    <name>FavouritesModel</name>
+    <message>
+        <source>Server Name</source>
+        <translation>Nome do servidor</translation>
+    </message>
+    <message>
+        <source>Server IP Address</source>
+        <translation>Endereço IP do servidor</translation>
+    </message>
+    <message>
+        <source>Password</source>
+        <translation>Senha</translation>
+    </message>
+</context>
+<context>
+    <name>FiltersModel</name>
+    <message>
+        <source>Variable</source>
+        <translation>Variável</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>Valor</translation>
+    </message>
+</context>
+<context>
+    <name>FindBar</name>
+    <message>
+        <source>Find</source>
+        <translation>Procurar</translation>
+    </message>
+    <message>
+        <source>Text Not Found</source>
+        <translation>Texto Não Encontrado</translation>
+    </message>
+</context>
+<context>
+    <name>FrmAbout</name>
+    <message>
+        <source>About Quake 4 Vantage</source>
+        <translation>Sobre o Quake 4 Vantage</translation>
+    </message>
+    <message>
+        <source>Quake 4 Vantage</source>
+        <translation>Quake 4 Vantage</translation>
+    </message>
+    <message>
+        <source>Version %1</source>
+        <translation>Versão %1</translation>
+    </message>
+    <message>
+        <source>A server browser for Quake 4: finds servers and players, and joins a game with a double click.</source>
+        <translation>Um navegador de servidores para Quake 4: encontra servidores e jogadores e entra num jogo com um duplo clique.</translation>
+    </message>
+    <message>
+        <source>Built with Qt %1, running on Qt %2.</source>
+        <translation>Compilado com Qt %1, a correr em Qt %2.</translation>
+    </message>
+    <message>
+        <source>Home page</source>
+        <translation>Página inicial</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+</context>
+<context>
+    <name>FrmFavourites</name>
+    <message>
+        <source>This favourites file is larger than the editor reads (%1 servers or %2 MB). It is shown in part and not saved, so that no server is lost.</source>
+        <translation>Este ficheiro de favoritos é maior do que o editor lê (%1 servidores ou %2 MB). É mostrado só em parte e não é guardado, para que nenhum servidor se perca.</translation>
+    </message>
+    <message>
+        <source>The favourites could not be saved to %1. Your changes are still here.</source>
+        <translation>Não foi possível guardar os favoritos em %1. As suas alterações continuam aqui.</translation>
+    </message>
+    <message>
+        <source>Favourites</source>
+        <translation>Favoritos</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancelar</translation>
+    </message>
+    <message>
+        <source>Apply</source>
+        <translation>Aplicar</translation>
+    </message>
+    <message>
+        <source>New</source>
+        <translation>Novo</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Remover</translation>
+    </message>
+    <message>
+        <source>New Server</source>
+        <translation>Novo servidor</translation>
+    </message>
+</context>
+<context>
+    <name>FrmFilters</name>
+    <message>
+        <source>Filters</source>
+        <translation>Filtros</translation>
+    </message>
+    <message>
+        <source>New</source>
+        <translation>Novo</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Remover</translation>
+    </message>
+    <message>
+        <source>Built in filters:</source>
+        <translation>Filtros incluídos:</translation>
+    </message>
+    <message>
+        <source>Empty</source>
+        <translation>Vazios</translation>
+    </message>
+    <message>
+        <source>Full</source>
+        <translation>Cheios</translation>
+    </message>
+    <message>
+        <source>Passworded</source>
+        <translation>Com senha</translation>
+    </message>
+    <message>
+        <source>Example 1: si_map                 mp/q4dm5</source>
+        <translation>Exemplo 1: si_map                 mp/q4dm5</translation>
+    </message>
+    <message>
+        <source>Example 2: sv_punkbuster     1</source>
+        <translation>Exemplo 2: sv_punkbuster     1</translation>
+    </message>
+    <message>
+        <source>The filters could not be saved to %1; this change lasts until the program ends.</source>
+        <translation>Não foi possível guardar os filtros em %1; esta alteração dura até o programa terminar.</translation>
+    </message>
+</context>
+<context>
+    <name>FrmMain</name>
+    <message>
+        <source>Quake 4 Vantage</source>
+        <translation>Quake 4 Vantage</translation>
+    </message>
+    <message>
+        <source>Master Servers Timed Out</source>
+        <translation>Tempo esgotado nos servidores mestre</translation>
+    </message>
+    <message>
+        <source>About Quake 4 Vantage</source>
+        <translation>Sobre o Quake 4 Vantage</translation>
+    </message>
+    <message>
+        <source>Players</source>
+        <translation>Jogadores</translation>
+    </message>
+    <message>
+        <source>Servers</source>
+        <translation>Servidores</translation>
+    </message>
+    <message>
+        <source>Favourites</source>
+        <translation>Favoritos</translation>
+    </message>
+    <message>
+        <source>Filters</source>
+        <translation>Filtros</translation>
+    </message>
+    <message>
+        <source>Options</source>
+        <translation>Opções</translation>
+    </message>
+    <message>
+        <source>Exit</source>
+        <translation>Sair</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n servers found</source>
+        <translation>
+            <numerusform>%n servidor encontrado</numerusform><numerusform>%n servidores encontrados</numerusform></translation>
+    </message>
+    <message numerus="yes">
+        <source>%n players found</source>
+        <translation>
+            <numerusform>%n jogador encontrado</numerusform><numerusform>%n jogadores encontrados</numerusform></translation>
+    </message>
+</context>
+<context>
+    <name>FrmOptions</name>
+    <message>
+        <source>Options</source>
+        <translation>Opções</translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation>Definições</translation>
+    </message>
+    <message>
+        <source>Theme</source>
+        <translation>Tema</translation>
+    </message>
+    <message>
+        <source>Language:</source>
+        <translation>Idioma:</translation>
+    </message>
+    <message>
+        <source>Query Speed:</source>
+        <translation>Velocidade de consulta:</translation>
+    </message>
+    <message>
+        <source>Dial Up (56k)</source>
+        <translation>Modem (56k)</translation>
+    </message>
+    <message>
+        <source>ISDN (64k)</source>
+        <translation>RDIS (64k)</translation>
+    </message>
+    <message>
+        <source>ISDN (128k)</source>
+        <translation>RDIS (128k)</translation>
+    </message>
+    <message>
+        <source>DSL (256k)</source>
+        <translation>ADSL (256k)</translation>
+    </message>
+    <message>
+        <source>DSL (512k)</source>
+        <translation>ADSL (512k)</translation>
+    </message>
+    <message>
+        <source>Maximum</source>
+        <translation>Máxima</translation>
+    </message>
+    <message>
+        <source>Automatically Check For Updates</source>
+        <translation>Procurar atualizações automaticamente</translation>
+    </message>
+    <message>
+        <source>Close After Joining</source>
+        <translation>Fechar depois de entrar</translation>
+    </message>
+    <message>
+        <source>Refresh Server On Selection</source>
+        <translation>Atualizar o servidor ao selecionar</translation>
+    </message>
+    <message>
+        <source>Port Range:</source>
+        <translation>Intervalo de portas:</translation>
+    </message>
+    <message>
+        <source>Note: Port Range is dependant on the query speed.</source>
+        <translation>Nota: o intervalo de portas depende da velocidade de consulta.</translation>
+    </message>
+    <message>
+        <source>Use Proxy Server for updates</source>
+        <translation>Usar servidor proxy para atualizações</translation>
+    </message>
+    <message>
+        <source>Quake 4 Executable:</source>
+        <translation>Executável do Quake 4:</translation>
+    </message>
+    <message>
+        <source>Browse</source>
+        <translation>Procurar...</translation>
+    </message>
+    <message>
+        <source>Form Back Colour</source>
+        <translation>Fundo das janelas</translation>
+    </message>
+    <message>
+        <source>List Back Colour</source>
+        <translation>Fundo das listas</translation>
+    </message>
+    <message>
+        <source>List Text Colour</source>
+        <translation>Texto das listas</translation>
+    </message>
+    <message>
+        <source>Text Box Back Colour</source>
+        <translation>Fundo das caixas de texto</translation>
+    </message>
+    <message>
+        <source>Text Box Text Colour</source>
+        <translation>Texto das caixas de texto</translation>
+    </message>
+    <message>
+        <source>Progress Bar Back Colour</source>
+        <translation>Fundo da barra de progresso</translation>
+    </message>
+    <message>
+        <source>Progress Bar Bar Colour</source>
+        <translation>Cor da barra de progresso</translation>
+    </message>
+    <message>
+        <source>Progress Bar Type:</source>
+        <translation>Tipo de barra de progresso:</translation>
+    </message>
+    <message>
+        <source>Standard</source>
+        <translation>Normal</translation>
+    </message>
+    <message>
+        <source>Segmented</source>
+        <translation>Segmentada</translation>
+    </message>
+    <message>
+        <source>Smooth</source>
+        <translation>Contínua</translation>
+    </message>
+    <message>
+        <source>Tab Style:</source>
+        <translation>Estilo dos separadores:</translation>
+    </message>
+    <message>
+        <source>Small Tabs</source>
+        <translation>Separadores pequenos</translation>
+    </message>
+    <message>
+        <source>Large Tabs</source>
+        <translation>Separadores grandes</translation>
+    </message>
+    <message>
+        <source>Saved Themes:</source>
+        <translation>Temas guardados:</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Guardar</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Remover</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancelar</translation>
+    </message>
+    <message>
+        <source>Apply</source>
+        <translation>Aplicar</translation>
+    </message>
+    <message>
+        <source>Defaults</source>
+        <translation>Predefinições</translation>
+    </message>
+    <message>
+        <source>Save Theme</source>
+        <translation>Guardar tema</translation>
+    </message>
+    <message>
+        <source>Please enter a name for this theme</source>
+        <translation>Introduza um nome para este tema</translation>
+    </message>
+    <message>
+        <source>The themes could not be saved to %1; the other settings are not affected.</source>
+        <translation>Não foi possível guardar os temas em %1; as outras definições não são afetadas.</translation>
+    </message>
+    <message>
+        <source>Are you sure you want to reset all settings to their default values?</source>
+        <translation>Tem a certeza de que quer repor todas as definições nos valores predefinidos?</translation>
+    </message>
+    <message>
+        <source>Select your Quake 4 Executable</source>
+        <translation>Selecione o executável do Quake 4</translation>
+    </message>
+    <message>
+        <source>Quake 4 Executable (%1)</source>
+        <translation>Executável do Quake 4 (%1)</translation>
+    </message>
+    <message>
+        <source>You must type a port number between 1024 and 65512! (Default: 9000)</source>
+        <translation>Tem de escrever um número de porta entre 1024 e 65512! (Predefinição: 9000)</translation>
+    </message>
+</context>
+<context>
+    <name>JoinFlow</name>
+    <message>
+        <source>Join server by IP Address</source>
+        <translation>Entrar num servidor pelo endereço IP</translation>
+    </message>
+    <message>
+        <source>Please enter the IP address/hostname and port of the server you wish to join</source>
+        <translation>Introduza o endereço IP ou nome do anfitrião e a porta do servidor em que quer entrar</translation>
+    </message>
+    <message>
+        <source>Select your Quake 4 Executable</source>
+        <translation>Selecione o executável do Quake 4</translation>
+    </message>
+    <message>
+        <source>Quake 4 Executable (%1)</source>
+        <translation>Executável do Quake 4 (%1)</translation>
+    </message>
+    <message>
+        <source>Please enter the password for this server</source>
+        <translation>Introduza a senha deste servidor</translation>
+    </message>
+    <message>
+        <source>No Password Provided</source>
+        <translation>Nenhuma senha indicada</translation>
+    </message>
+    <message>
+        <source>Join Server Anyway?</source>
+        <translation>Entrar no servidor mesmo assim?</translation>
+    </message>
+    <message>
+        <source>Connecting to %1</source>
+        <translation>A ligar a %1</translation>
+    </message>
+    <message>
+        <source>The game could not be started: %1 does not exist.</source>
+        <translation>Não foi possível iniciar o jogo: %1 não existe.</translation>
+    </message>
+    <message>
+        <source>The game could not be started: %1 is not a program.</source>
+        <translation>Não foi possível iniciar o jogo: %1 não é um programa.</translation>
+    </message>
+    <message>
+        <source>The game could not be started: %1.</source>
+        <translation>Não foi possível iniciar o jogo: %1.</translation>
+    </message>
+</context>
+<context>
+    <name>JoinPanel</name>
+    <message>
+        <source>Player Name:</source>
+        <translation>Nome do jogador:</translation>
+    </message>
+    <message>
+        <source>Join</source>
+        <translation>Entrar</translation>
+    </message>
+    <message>
+        <source>Join IP</source>
+        <translation>Entrar por IP</translation>
+    </message>
+    <message>
+        <source>Name:</source>
+        <translation>Nome:</translation>
+    </message>
+    <message>
+        <source>Password:</source>
+        <translation>Senha:</translation>
+    </message>
+</context>
+<context>
+    <name>ListColumns</name>
+    <message>
+        <source>Num</source>
+        <translation>N.º</translation>
+    </message>
+    <message>
+        <source>Player</source>
+        <translation>Jogador</translation>
+    </message>
+    <message>
+        <source>Clan</source>
+        <translation>Clã</translation>
+    </message>
+    <message>
+        <source>Ping</source>
+        <translation>Ping</translation>
+    </message>
+    <message>
+        <source>Rate</source>
+        <translation>Taxa</translation>
+    </message>
+    <message>
+        <source>Variable</source>
+        <translation>Variável</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>Valor</translation>
+    </message>
+    <message>
+        <source>Server</source>
+        <translation>Servidor</translation>
+    </message>
+    <message>
+        <source>Map</source>
+        <translation>Mapa</translation>
+    </message>
+    <message>
+        <source>Players</source>
+        <translation>Jogadores</translation>
+    </message>
+    <message>
+        <source>Pw</source>
+        <translation>Sen</translation>
+    </message>
+    <message>
+        <source>Type</source>
+        <translation>Tipo</translation>
+    </message>
+    <message>
+        <source>Game</source>
+        <translation>Jogo</translation>
+    </message>
+    <message>
+        <source>Server IP Address</source>
+        <translation>Endereço IP do servidor</translation>
+    </message>
+    <message>
+        <source>Svr Ping</source>
+        <translation>Ping srv</translation>
+    </message>
+    <message>
+        <source>Mod</source>
+        <translation>Mod</translation>
+    </message>
+</context>
+<context>
+    <name>ListMenu</name>
+    <message>
+        <source>&amp;Add To Favourites</source>
+        <translation>&amp;Adicionar aos favoritos</translation>
+    </message>
+    <message>
+        <source>&amp;Select Server</source>
+        <translation>&amp;Selecionar servidor</translation>
+    </message>
+    <message>
+        <source>The favourites file could not be written.</source>
+        <translation>Não foi possível escrever o ficheiro de favoritos.</translation>
+    </message>
+</context>
+<context>
+    <name>QueryBar</name>
+    <message>
+        <source>Cancel Query</source>
+        <translation>Cancelar Query</translation>
+    </message>
+    <message>
+        <source>Query Masters</source>
+        <translation>Query Masters</translation>
+    </message>
+    <message>
+        <source>Query Favourites</source>
+        <translation>Query Favoritos</translation>
+    </message>
+</context>
+<context>
+    <name>QueryController</name>
+    <message>
+        <source>Done</source>
+        <translation>Concluído</translation>
+    </message>
+    <message>
+        <source>Master Servers Timed Out</source>
+        <translation>Tempo esgotado nos servidores mestre</translation>
+    </message>
+    <message>
+        <source>The start port %1 is not valid. Choose another in the options.</source>
+        <translation>A porta inicial %1 não é válida. Escolha outra nas opções.</translation>
+    </message>
+    <message>
+        <source>No favourites yet: right-click a server and choose "Add To Favourites".</source>
+        <translation>Ainda sem favoritos: clique com o botão direito num servidor e escolha «Adicionar aos favoritos».</translation>
+    </message>
+    <message>
+        <source>Cancelled</source>
+        <translation>Cancelado</translation>
+    </message>
+    <message>
+        <source>Requesting Server List from
+%1</source>
+        <translation>A pedir a lista de servidores a
+%1</translation>
+    </message>
+    <message>
+        <source>Receiving Server List from
+%1</source>
+        <translation>A receber a lista de servidores de
+%1</translation>
+    </message>
+    <message>
+        <source>Sorting IP Address Lists
+%1</source>
+        <translation>A ordenar as listas de endereços IP
+%1</translation>
+    </message>
+    <message>
+        <source>Querying %1 Servers...</source>
+        <translation>A consultar %1 servidores...</translation>
+    </message>
+</context>
+<context>
+    <name>QueryError</name>
+    <message>
+        <source>Local port %1 cannot be used (%2). Choose another start port in the options.</source>
+        <translation>A porta local %1 não pode ser usada (%2). Escolha outra porta inicial nas opções.</translation>
+    </message>
+    <message>
+        <source>The master server listed more than %1 servers; the list was not used.</source>
+        <translation>O servidor mestre listou mais de %1 servidores; a lista não foi usada.</translation>
+    </message>
+    <message>
+        <source>Master server %1 not found (%2).</source>
+        <translation>Servidor mestre %1 não encontrado (%2).</translation>
+    </message>
+    <message>
+        <source>The master server address "%1" is not valid.</source>
+        <translation>O endereço do servidor mestre «%1» não é válido.</translation>
+    </message>
+</context>
+<context>
+    <name>ServerDetails</name>
+    <message>
+        <source>Players of the selected server</source>
+        <translation>Jogadores do servidor selecionado</translation>
+    </message>
+    <message>
+        <source>Rules of the selected server</source>
+        <translation>Regras do servidor selecionado</translation>
+    </message>
+</context>
+<context>
+    <name>ServerRulesModel</name>
+    <message>
+        <source>True</source>
+        <translation>Verdadeiro</translation>
+    </message>
+    <message>
+        <source>False</source>
+        <translation>Falso</translation>
+    </message>
+</context>
+<context>
+    <name>ServerSelection</name>
+    <message>
+        <source>Server Name:</source>
+        <translation>Nome do servidor:</translation>
+    </message>
+</context>
+</TS>
