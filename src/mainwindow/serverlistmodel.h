@@ -14,14 +14,14 @@ class ServerListModel final : public ReportModel {
 public:
     enum Column { Name, Map, Players, Ping, Password, GameType, GameName, Address, ColumnCount };
     static constexpr std::array<ListColumn, ColumnCount> Columns{{
-        ListColumn{QT_TRANSLATE_NOOP("ListColumns", "Server"), 220},
-        ListColumn{QT_TRANSLATE_NOOP("ListColumns", "Map"), 90},
-        ListColumn{QT_TRANSLATE_NOOP("ListColumns", "Players"), 60},
-        ListColumn{QT_TRANSLATE_NOOP("ListColumns", "Ping"), 45},
-        ListColumn{QT_TRANSLATE_NOOP("ListColumns", "Pw"), 32},
-        ListColumn{QT_TRANSLATE_NOOP("ListColumns", "Type"), 60},
-        ListColumn{QT_TRANSLATE_NOOP("ListColumns", "Game"), 100},
-        ListColumn{QT_TRANSLATE_NOOP("ListColumns", "Server IP Address"), 140},
+        ListColumn{QT_TRANSLATE_NOOP("ListColumns", "Server"), 190},
+        ListColumn{QT_TRANSLATE_NOOP("ListColumns", "Map"), 105},
+        ListColumn{QT_TRANSLATE_NOOP("ListColumns", "Players"), 52},
+        ListColumn{QT_TRANSLATE_NOOP("ListColumns", "Ping"), 38},
+        ListColumn{QT_TRANSLATE_NOOP("ListColumns", "Pw"), 28},
+        ListColumn{QT_TRANSLATE_NOOP("ListColumns", "Type"), 78},
+        ListColumn{QT_TRANSLATE_NOOP("ListColumns", "Game"), 95},
+        ListColumn{QT_TRANSLATE_NOOP("ListColumns", "Server IP Address"), 133},
     }};
 
     explicit ServerListModel(QObject* parent = nullptr);

@@ -72,7 +72,9 @@ private slots:
             const QList<int> sizes = run.find<QSplitter>(name)->sizes();
             QVERIFY2(sizes.first() >= 60 && sizes.last() >= 60, name);
         }
-        // The selected server's players show every column without scrolling.
+        // The server list and the selected server's players show every
+        // column without scrolling.
+        QTRY_VERIFY(run.list("lstServerList")->header()->length() <= run.list("lstServerList")->viewport()->width());
         QTRY_VERIFY(run.list("lvwPlayers")->header()->length() <= run.list("lvwPlayers")->viewport()->width());
         QVERIFY(run.list("lvwServerInfo")->width() >= 250);
     }
