@@ -94,6 +94,10 @@
         <translation>Erstellt mit Qt %1, läuft mit Qt %2.</translation>
     </message>
     <message>
+        <source>Licence: %1</source>
+        <translation>Lizenz: %1</translation>
+    </message>
+    <message>
         <source>Home page</source>
         <translation>Homepage</translation>
     </message>

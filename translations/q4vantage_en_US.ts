@@ -1,11 +1,572 @@
-<?xml version="1.0" encoding="utf-8"?>
-<!DOCTYPE TS>
+<?xml version='1.0' encoding='utf-8'?>
 <TS version="2.1" language="en_US" sourcelanguage="en_GB">
+<context>
+    <name>CopyCommands</name>
+    <message>
+        <source>Copy Cell</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>Copy Column</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>Copy Row</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>Copy All</source>
+        <translation type="unfinished" />
+    </message>
+</context>
+<context>
+    <name>EditableListDialog</name>
+    <message>
+        <source>Edit Cell</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>New</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation type="unfinished" />
+    </message>
+</context>
+<context>
+    <name>FavouritesModel</name>
+    <message>
+        <source>Server Name</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>Server IP Address</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>Password</source>
+        <translation type="unfinished" />
+    </message>
+</context>
+<context>
+    <name>FiltersModel</name>
+    <message>
+        <source>Variable</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>Value</source>
+        <translation type="unfinished" />
+    </message>
+</context>
+<context>
+    <name>FindBar</name>
+    <message>
+        <source>Find</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>Text Not Found</source>
+        <translation type="unfinished" />
+    </message>
+</context>
+<context>
+    <name>FrmAbout</name>
+    <message>
+        <source>About Quake 4 Vantage</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>Quake 4 Vantage</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>Version %1</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>A server browser for Quake 4: finds servers and players, and joins a game with a double click.</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>Built with Qt %1, running on Qt %2.</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>Licence: %1</source>
+        <translation>License: %1</translation>
+    </message>
+    <message>
+        <source>Home page</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>OK</source>
+        <translation type="unfinished" />
+    </message>
+</context>
+<context>
+    <name>FrmFavourites</name>
+    <message>
+        <source>This favourites file is larger than the editor reads (%1 servers or %2 MB). It is shown in part and not saved, so that no server is lost.</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>The favourites could not be saved to %1. Your changes are still here.</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>Favourites</source>
+        <translation type="unfinished">Favorites</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>Apply</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>New</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>New Server</source>
+        <translation type="unfinished" />
+    </message>
+</context>
+<context>
+    <name>FrmFilters</name>
+    <message>
+        <source>Filters</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>New</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>Built in filters:</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>Empty</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>Full</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>Passworded</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>Example 1: si_map                 mp/q4dm5</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>Example 2: sv_punkbuster     1</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>The filters could not be saved to %1; this change lasts until the program ends.</source>
+        <translation type="unfinished" />
+    </message>
+</context>
 <context>
     <name>FrmMain</name>
     <message>
         <source>Favourites</source>
         <translation>Favorites</translation>
+    </message>
+    <message>
+        <source>Quake 4 Vantage</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>Master Servers Timed Out</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>About Quake 4 Vantage</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>Players</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>Servers</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>Filters</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>Options</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>Exit</source>
+        <translation type="unfinished" />
+    </message>
+    <message numerus="yes">
+        <source>%n servers found</source>
+        <translation type="unfinished">
+            <numerusform />
+            <numerusform />
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n players found</source>
+        <translation type="unfinished">
+            <numerusform />
+            <numerusform />
+        </translation>
+    </message>
+</context>
+<context>
+    <name>FrmOptions</name>
+    <message>
+        <source>Options</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>Theme</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>Language:</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>Query Speed:</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>Dial Up (56k)</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>ISDN (64k)</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>ISDN (128k)</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>DSL (256k)</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>DSL (512k)</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>Maximum</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>Automatically Check For Updates</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>Close After Joining</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>Refresh Server On Selection</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>Port Range:</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>Note: Port Range is dependant on the query speed.</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>Use Proxy Server for updates</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>Quake 4 Executable:</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>Browse</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>Form Back Colour</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>List Back Colour</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>List Text Colour</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>Text Box Back Colour</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>Text Box Text Colour</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>Progress Bar Back Colour</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>Progress Bar Bar Colour</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>Progress Bar Type:</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>Standard</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>Segmented</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>Smooth</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>Tab Style:</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>Small Tabs</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>Large Tabs</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>Saved Themes:</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>Save</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>OK</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>Apply</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>Defaults</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>Save Theme</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>Please enter a name for this theme</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>The themes could not be saved to %1; the other settings are not affected.</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>Are you sure you want to reset all settings to their default values?</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>Select your Quake 4 Executable</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>Quake 4 Executable (%1)</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>You must type a port number between 1024 and 65512! (Default: 9000)</source>
+        <translation type="unfinished" />
+    </message>
+</context>
+<context>
+    <name>JoinFlow</name>
+    <message>
+        <source>Join server by IP Address</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>Please enter the IP address/hostname and port of the server you wish to join</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>Select your Quake 4 Executable</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>Quake 4 Executable (%1)</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>Please enter the password for this server</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>No Password Provided</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>Join Server Anyway?</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>Connecting to %1</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>The game could not be started: %1 does not exist.</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>The game could not be started: %1 is not a program.</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>The game could not be started: %1.</source>
+        <translation type="unfinished" />
+    </message>
+</context>
+<context>
+    <name>JoinPanel</name>
+    <message>
+        <source>Player Name:</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>Join</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>Join IP</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>Name:</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>Password:</source>
+        <translation type="unfinished" />
+    </message>
+</context>
+<context>
+    <name>ListColumns</name>
+    <message>
+        <source>Num</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>Player</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>Clan</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>Ping</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>Rate</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>Variable</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>Value</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>Server</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>Map</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>Players</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>Pw</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>Type</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>Game</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>Server IP Address</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>Svr Ping</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>Mod</source>
+        <translation type="unfinished" />
     </message>
 </context>
 <context>
@@ -18,6 +579,10 @@
         <source>The favourites file could not be written.</source>
         <translation>The favorites file could not be written.</translation>
     </message>
+    <message>
+        <source>&amp;Select Server</source>
+        <translation type="unfinished" />
+    </message>
 </context>
 <context>
     <name>QueryBar</name>
@@ -25,12 +590,103 @@
         <source>Query Favourites</source>
         <translation>Query Favorites</translation>
     </message>
+    <message>
+        <source>Cancel Query</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>Query Masters</source>
+        <translation type="unfinished" />
+    </message>
 </context>
 <context>
     <name>QueryController</name>
     <message>
-        <source>No favourites yet: right-click a server and choose &quot;Add To Favourites&quot;.</source>
-        <translation>No favorites yet: right-click a server and choose &quot;Add To Favorites&quot;.</translation>
+        <source>No favourites yet: right-click a server and choose "Add To Favourites".</source>
+        <translation>No favorites yet: right-click a server and choose "Add To Favorites".</translation>
+    </message>
+    <message>
+        <source>Done</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>Master Servers Timed Out</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>The start port %1 is not valid. Choose another in the options.</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>Cancelled</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>Requesting Server List from
+%1</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>Receiving Server List from
+%1</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>Sorting IP Address Lists
+%1</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>Querying %1 Servers...</source>
+        <translation type="unfinished" />
+    </message>
+</context>
+<context>
+    <name>QueryError</name>
+    <message>
+        <source>Local port %1 cannot be used (%2). Choose another start port in the options.</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>The master server listed more than %1 servers; the list was not used.</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>Master server %1 not found (%2).</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>The master server address "%1" is not valid.</source>
+        <translation type="unfinished" />
+    </message>
+</context>
+<context>
+    <name>ServerDetails</name>
+    <message>
+        <source>Players of the selected server</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>Rules of the selected server</source>
+        <translation type="unfinished" />
+    </message>
+</context>
+<context>
+    <name>ServerRulesModel</name>
+    <message>
+        <source>True</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>False</source>
+        <translation type="unfinished" />
+    </message>
+</context>
+<context>
+    <name>ServerSelection</name>
+    <message>
+        <source>Server Name:</source>
+        <translation type="unfinished" />
     </message>
 </context>
 </TS>

@@ -94,6 +94,10 @@
         <translation>Compilé avec Qt %1, fonctionne avec Qt %2.</translation>
     </message>
     <message>
+        <source>Licence: %1</source>
+        <translation>Licence : %1</translation>
+    </message>
+    <message>
         <source>Home page</source>
         <translation>Page d'accueil</translation>
     </message>

@@ -94,6 +94,10 @@
         <translation>Compilato con Qt %1, in esecuzione su Qt %2.</translation>
     </message>
     <message>
+        <source>Licence: %1</source>
+        <translation>Licenza: %1</translation>
+    </message>
+    <message>
         <source>Home page</source>
         <translation>Sito web</translation>
     </message>

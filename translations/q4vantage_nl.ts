@@ -94,6 +94,10 @@
         <translation>Gebouwd met Qt %1, draait op Qt %2.</translation>
     </message>
     <message>
+        <source>Licence: %1</source>
+        <translation>Licentie: %1</translation>
+    </message>
+    <message>
         <source>Home page</source>
         <translation>Website</translation>
     </message>

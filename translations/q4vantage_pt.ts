@@ -94,6 +94,10 @@
         <translation>Compilado com Qt %1, a correr em Qt %2.</translation>
     </message>
     <message>
+        <source>Licence: %1</source>
+        <translation>Licença: %1</translation>
+    </message>
+    <message>
         <source>Home page</source>
         <translation>Página inicial</translation>
     </message>

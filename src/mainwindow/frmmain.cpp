@@ -363,7 +363,7 @@ void FrmMain::changeEvent(QEvent* event)
 bool FrmMain::eventFilter(QObject* watched, QEvent* event)
 {
     if (watched == lblAbout && event->type() == QEvent::MouseButtonRelease) {
-        auto* about = new FrmAbout(m_desktop, QUrl(QStringLiteral(Q4V_HOME_PAGE)), this);
+        auto* about = new FrmAbout(m_desktop, QUrl(QStringLiteral(Q4V_HOME_PAGE)), QStringLiteral(Q4V_LICENCE), this);
         about->setAttribute(Qt::WA_DeleteOnClose);
         about->setWindowModality(Qt::WindowModal);
         about->open();

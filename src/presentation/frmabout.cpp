@@ -9,10 +9,11 @@
 #include <QtGlobal>
 #include <QVBoxLayout>
 
-FrmAbout::FrmAbout(Desktop& desktop, QUrl homePage, QWidget* parent)
+FrmAbout::FrmAbout(Desktop& desktop, QUrl homePage, QString licence, QWidget* parent)
     : QDialog(parent)
     , m_desktop(desktop)
     , m_homePage(std::move(homePage))
+    , m_licence(std::move(licence))
 {
     setObjectName(QStringLiteral("frmAbout"));
     lblTitle = new QLabel(this);
@@ -28,6 +29,9 @@ FrmAbout::FrmAbout(Desktop& desktop, QUrl homePage, QWidget* parent)
     lblDescription->setWordWrap(true);
     lblQt = new QLabel(this);
     lblQt->setObjectName(QStringLiteral("lblQt"));
+    lblLicence = new QLabel(this);
+    lblLicence->setObjectName(QStringLiteral("lblLicence"));
+    lblLicence->setVisible(!m_licence.isEmpty());
     lblHomePage = new QLabel(this);
     lblHomePage->setObjectName(QStringLiteral("lblHomePage"));
     lblHomePage->setTextInteractionFlags(Qt::LinksAccessibleByMouse | Qt::LinksAccessibleByKeyboard);
@@ -43,7 +47,7 @@ FrmAbout::FrmAbout(Desktop& desktop, QUrl homePage, QWidget* parent)
     buttons->addStretch();
     buttons->addWidget(cmdOK);
     auto* layout = new QVBoxLayout(this);
-    for (QLabel* label : {lblTitle, lblVersion, lblDescription, lblQt, lblHomePage})
+    for (QLabel* label : {lblTitle, lblVersion, lblDescription, lblQt, lblLicence, lblHomePage})
         layout->addWidget(label);
     layout->addLayout(buttons);
     retranslateUi();
@@ -58,6 +62,7 @@ void FrmAbout::retranslateUi()
                                "double click."));
     lblQt->setText(
         tr("Built with Qt %1, running on Qt %2.").arg(QStringLiteral(QT_VERSION_STR), QString::fromLatin1(qVersion())));
+    lblLicence->setText(tr("Licence: %1").arg(m_licence));
     const QString address = m_homePage.toString();
     lblHomePage->setText(QStringLiteral("<a href=\"%1\">%2</a>").arg(address.toHtmlEscaped(), tr("Home page")));
     cmdOK->setText(tr("OK"));

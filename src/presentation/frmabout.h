@@ -14,7 +14,8 @@ class FrmAbout final : public QDialog {
     Q_DISABLE_COPY_MOVE(FrmAbout)
 
 public:
-    FrmAbout(Desktop& desktop, QUrl homePage, QWidget* parent = nullptr);
+    // An empty licence or home page is not shown.
+    FrmAbout(Desktop& desktop, QUrl homePage, QString licence = {}, QWidget* parent = nullptr);
 
 protected:
     void changeEvent(QEvent* event) override;
@@ -24,10 +25,12 @@ private:
 
     Desktop& m_desktop;
     QUrl m_homePage;
+    QString m_licence;
     QLabel* lblTitle = nullptr;
     QLabel* lblVersion = nullptr;
     QLabel* lblDescription = nullptr;
     QLabel* lblQt = nullptr;
+    QLabel* lblLicence = nullptr;
     QLabel* lblHomePage = nullptr;
     QPushButton* cmdOK = nullptr;
 };

@@ -317,15 +317,17 @@ private slots:
     void theHomePageOpensInTheBrowser()
     {
         ScriptedDesktop desktop;
-        FrmAbout about(desktop, QUrl(QStringLiteral("https://example.org/q4vantage")));
+        FrmAbout about(desktop, QUrl(QStringLiteral("https://example.org/q4vantage")), QStringLiteral("GPL-3.0"));
         about.show();
         QVERIFY(QTest::qWaitForWindowExposed(&about));
         auto* link = about.findChild<QLabel*>(QStringLiteral("lblHomePage"));
         QVERIFY(link->isVisible());
         QTest::mouseClick(link, Qt::LeftButton, {}, QPoint(8, link->height() / 2));
         QCOMPARE(desktop.openedUrls, QList<QUrl>{QUrl(QStringLiteral("https://example.org/q4vantage"))});
+        QCOMPARE(about.findChild<QLabel*>(QStringLiteral("lblLicence"))->text(), QStringLiteral("Licence: GPL-3.0"));
         FrmAbout plain(desktop, QUrl());
         QVERIFY(plain.findChild<QLabel*>(QStringLiteral("lblHomePage"))->isHidden());
+        QVERIFY(plain.findChild<QLabel*>(QStringLiteral("lblLicence"))->isHidden());
     }
 
     // Keys go where a user's keys go: to the widget with the focus, which
