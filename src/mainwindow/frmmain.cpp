@@ -14,6 +14,7 @@
 #include "listmenu.h"
 #include "listpane.h"
 #include "multicolorlabel.h"
+#include "namedcontrol.h"
 #include "querybar.h"
 #include "querycontroller.h"
 #include "reportview.h"
@@ -37,15 +38,6 @@
 #include <QVBoxLayout>
 
 namespace {
-
-template <typename T> T* makeControl(QWidget* parent, const char* objectName)
-{
-    auto* control = new T(parent);
-    control->setObjectName(QLatin1String(objectName));
-    if constexpr (std::is_same_v<T, QPushButton>)
-        control->setAutoDefault(false);
-    return control;
-}
 
 // Hidden controls keep their place, so the lists are not laid out again
 // when they come back (slow with many rows).

@@ -4,21 +4,11 @@
 #include "historycombobox.h"
 #include "joinflow.h"
 #include "multicolorlabel.h"
+#include "namedcontrol.h"
 
 #include <QGridLayout>
 #include <QLabel>
 #include <QPushButton>
-
-namespace {
-
-template <typename T> T* makeControl(QWidget* parent, const char* objectName)
-{
-    auto* control = new T(parent);
-    control->setObjectName(QLatin1String(objectName));
-    return control;
-}
-
-} // namespace
 
 JoinPanel::JoinPanel(SettingsStore& settings, Desktop& desktop, const QString& favouritesPath, QWidget* window)
     : QFrame(window)

@@ -3,6 +3,7 @@
 #include "colourswatch.h"
 #include "desktop.h"
 #include "language.h"
+#include "namedcontrol.h"
 #include "settingskeys.h"
 #include "settingsstore.h"
 #include "startportrule.h"
@@ -31,13 +32,6 @@ constexpr ThemeFile::Colour ThemeFile::Theme::*SwatchFields[7] = {
 const char* const SwatchNames[7] = {"frmBackColour", "lstBackColour", "lstForeColour", "txtBackColour",
                                     "txtForeColour", "prbBackColour", "prbForeColour"};
 
-template <typename T> T* named(QWidget* parent, const char* name)
-{
-    auto* widget = new T(parent);
-    widget->setObjectName(QLatin1String(name));
-    return widget;
-}
-
 } // namespace
 
 FrmOptions::FrmOptions(SettingsStore& settings, Desktop& desktop, Language& language, ThemeService& themes,
@@ -51,7 +45,7 @@ FrmOptions::FrmOptions(SettingsStore& settings, Desktop& desktop, Language& lang
     setObjectName(QStringLiteral("frmOptions"));
     setModal(true);
 
-    tabOptions = named<QTabWidget>(this, "tabOptions");
+    tabOptions = makeControl<QTabWidget>(this, "tabOptions");
     auto* settingsPage = new QWidget(tabOptions);
     auto* themePage = new QWidget(tabOptions);
     tabOptions->addTab(settingsPage, QString());
@@ -59,13 +53,13 @@ FrmOptions::FrmOptions(SettingsStore& settings, Desktop& desktop, Language& lang
     buildSettingsTab(settingsPage);
     buildThemeTab(themePage);
 
-    lblMessage = named<QLabel>(this, "lblMessage");
+    lblMessage = makeControl<QLabel>(this, "lblMessage");
     lblMessage->setWordWrap(true);
     lblMessage->hide();
-    cmdOK = named<QPushButton>(this, "cmdOK");
-    cmdCancel = named<QPushButton>(this, "cmdCancel");
-    cmdApply = named<QPushButton>(this, "cmdApply");
-    cmdDefaults = named<QPushButton>(this, "cmdDefaults");
+    cmdOK = makeControl<QPushButton>(this, "cmdOK");
+    cmdCancel = makeControl<QPushButton>(this, "cmdCancel");
+    cmdApply = makeControl<QPushButton>(this, "cmdApply");
+    cmdDefaults = makeControl<QPushButton>(this, "cmdDefaults");
     cmdOK->setDefault(true);
 
     auto* buttons = new QHBoxLayout;
@@ -93,29 +87,29 @@ FrmOptions::FrmOptions(SettingsStore& settings, Desktop& desktop, Language& lang
 
 void FrmOptions::buildSettingsTab(QWidget* page)
 {
-    lblLanguage = named<QLabel>(page, "lblLanguage");
-    cmbLanguage = named<QComboBox>(page, "cmbLanguage");
+    lblLanguage = makeControl<QLabel>(page, "lblLanguage");
+    cmbLanguage = makeControl<QComboBox>(page, "cmbLanguage");
     cmbLanguage->addItems(Language::names());
-    lblSpeed = named<QLabel>(page, "lblSpeed");
-    cmbSpeed = named<QComboBox>(page, "cmbSpeed");
+    lblSpeed = makeControl<QLabel>(page, "lblSpeed");
+    cmbSpeed = makeControl<QComboBox>(page, "cmbSpeed");
     cmbSpeed->addItems(QStringList(6, QString()));
-    chkAutoUpdate = named<QCheckBox>(page, "chkAutoUpdate");
-    chkCloseAfterJoin = named<QCheckBox>(page, "chkCloseAfterJoin");
-    chkRefresh = named<QCheckBox>(page, "chkRefresh");
-    lblPort = named<QLabel>(page, "lblPort");
-    txtStartPort = named<QLineEdit>(page, "txtStartPort");
-    lblPortTo = named<QLabel>(page, "lblPortTo");
+    chkAutoUpdate = makeControl<QCheckBox>(page, "chkAutoUpdate");
+    chkCloseAfterJoin = makeControl<QCheckBox>(page, "chkCloseAfterJoin");
+    chkRefresh = makeControl<QCheckBox>(page, "chkRefresh");
+    lblPort = makeControl<QLabel>(page, "lblPort");
+    txtStartPort = makeControl<QLineEdit>(page, "txtStartPort");
+    lblPortTo = makeControl<QLabel>(page, "lblPortTo");
     lblPortTo->setText(QStringLiteral("-"));
-    txtEndPort = named<QLineEdit>(page, "txtEndPort");
+    txtEndPort = makeControl<QLineEdit>(page, "txtEndPort");
     txtEndPort->setReadOnly(true);
     txtEndPort->setFocusPolicy(Qt::NoFocus);
-    lblPortDesc = named<QLabel>(page, "lblPortDesc");
+    lblPortDesc = makeControl<QLabel>(page, "lblPortDesc");
     lblPortDesc->setWordWrap(true);
-    chkProxy = named<QCheckBox>(page, "chkProxy");
-    txtProxy = named<QLineEdit>(page, "txtProxy");
-    lblPath = named<QLabel>(page, "lblPath");
-    txtPath = named<QLineEdit>(page, "txtPath");
-    cmdBrowse = named<QPushButton>(page, "cmdBrowse");
+    chkProxy = makeControl<QCheckBox>(page, "chkProxy");
+    txtProxy = makeControl<QLineEdit>(page, "txtProxy");
+    lblPath = makeControl<QLabel>(page, "lblPath");
+    txtPath = makeControl<QLineEdit>(page, "txtPath");
+    cmdBrowse = makeControl<QPushButton>(page, "cmdBrowse");
 
     auto* grid = new QGridLayout(page);
     grid->addWidget(lblLanguage, 0, 0);
@@ -162,16 +156,16 @@ void FrmOptions::buildThemeTab(QWidget* page)
         grid->addWidget(entry.swatch, i, 1);
         connect(entry.swatch, &QPushButton::clicked, this, [this, i] { pickColour(m_swatches[i].swatch); });
     }
-    lblScroll = named<QLabel>(page, "lblScroll");
-    cmbScroll = named<QComboBox>(page, "cmbScroll");
+    lblScroll = makeControl<QLabel>(page, "lblScroll");
+    cmbScroll = makeControl<QComboBox>(page, "cmbScroll");
     cmbScroll->addItems(QStringList(3, QString()));
-    lblTab = named<QLabel>(page, "lblTab");
-    cmbTab = named<QComboBox>(page, "cmbTab");
+    lblTab = makeControl<QLabel>(page, "lblTab");
+    cmbTab = makeControl<QComboBox>(page, "cmbTab");
     cmbTab->addItems(QStringList(2, QString()));
-    lblSaved = named<QLabel>(page, "lblSaved");
-    cmbThemes = named<QComboBox>(page, "cmbThemes");
-    cmdSave = named<QPushButton>(page, "cmdSave");
-    cmdRemove = named<QPushButton>(page, "cmdRemove");
+    lblSaved = makeControl<QLabel>(page, "lblSaved");
+    cmbThemes = makeControl<QComboBox>(page, "cmbThemes");
+    cmdSave = makeControl<QPushButton>(page, "cmdSave");
+    cmdRemove = makeControl<QPushButton>(page, "cmdRemove");
     grid->addWidget(lblScroll, 7, 0);
     grid->addWidget(cmbScroll, 7, 1);
     grid->addWidget(lblTab, 8, 0);
