@@ -7,6 +7,7 @@
 #include <QHBoxLayout>
 #include <QProgressBar>
 #include <QPushButton>
+#include <QStackedLayout>
 
 namespace {
 
@@ -29,19 +30,20 @@ QueryBar::QueryBar(QueryController& queries, QWidget* window)
     fraQuery->setObjectName(QStringLiteral("fraQuery"));
     cmdGet = makeButton(fraQuery, "cmdGet");
     cmdFav = makeButton(fraQuery, "cmdFav");
+    cmdLan = makeButton(fraQuery, "cmdLan");
     cmdCancel = makeButton(fraQuery, "cmdCancel");
     cmdCancel->setEnabled(false);
-    cmdCancel->setVisible(false);
-    // Keeping its place when hidden means the lists are not laid out again
-    // (slow with many rows).
-    QSizePolicy keepPlace = cmdCancel->sizePolicy();
-    keepPlace.setRetainSizeWhenHidden(true);
-    cmdCancel->setSizePolicy(keepPlace);
+    // "Query LAN" and "Cancel Query" share one place, each shown while the
+    // other is of no use: the row keeps its width, so the lists are not laid
+    // out again (slow with many rows) and the window's minimum stays.
+    m_swap = new QStackedLayout;
+    m_swap->addWidget(cmdLan);
+    m_swap->addWidget(cmdCancel);
     auto* layout = new QHBoxLayout(fraQuery);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(cmdGet);
     layout->addWidget(cmdFav);
-    layout->addWidget(cmdCancel);
+    layout->addLayout(m_swap);
     layout->addStretch();
 
     prbProgress->setObjectName(QStringLiteral("prbProgress"));
@@ -51,7 +53,9 @@ QueryBar::QueryBar(QueryController& queries, QWidget* window)
 
     connect(cmdGet, &QPushButton::clicked, &queries, &QueryController::startMasterQuery);
     connect(cmdFav, &QPushButton::clicked, &queries, &QueryController::startFavouritesQuery);
+    connect(cmdLan, &QPushButton::clicked, &queries, &QueryController::startLanQuery);
     connect(cmdCancel, &QPushButton::clicked, &queries, &QueryController::cancel);
+    connect(&queries, &QueryController::sourcesReported, lblStatus, &QWidget::setToolTip);
     connect(&queries, &QueryController::busyChanged, this, &QueryBar::setBusy);
     connect(&queries, &QueryController::status, this, &QueryBar::setStatus);
     connect(&queries, &QueryController::progress, this, [this](int value, int maximum) {
@@ -70,12 +74,15 @@ void QueryBar::retranslate()
     cmdCancel->setText(tr("Cancel Query"));
     cmdGet->setText(tr("Query Masters"));
     cmdFav->setText(tr("Query Favourites"));
+    cmdLan->setText(tr("Query LAN"));
+    cmdLan->setToolTip(tr("Find the servers of your local network"));
 }
 
 void QueryBar::setBusy(bool busy)
 {
     cmdGet->setEnabled(!busy);
     cmdFav->setEnabled(!busy);
+    cmdLan->setEnabled(!busy);
     cmdCancel->setEnabled(busy);
-    cmdCancel->setVisible(busy);
+    m_swap->setCurrentWidget(busy ? cmdCancel : cmdLan);
 }

@@ -7,12 +7,14 @@
 class QFrame;
 class QProgressBar;
 class QPushButton;
+class QStackedLayout;
 class QueryController;
 class StatusLine;
 
-// What the user sees of the queries: "Query Masters", "Query Favourites"
-// and "Cancel Query", the status line and the progress bar, all driven by
-// the query controller.
+// What the user sees of the queries: "Query Masters", "Query Favourites",
+// "Query LAN" and "Cancel Query", the status line (its tooltip says what
+// each source gave) and the progress bar, all driven by the query
+// controller.
 class QueryBar final : public QObject {
     Q_OBJECT
     Q_DISABLE_COPY_MOVE(QueryBar)
@@ -33,7 +35,9 @@ private:
     QFrame* fraQuery = nullptr;
     QPushButton* cmdGet = nullptr;
     QPushButton* cmdFav = nullptr;
+    QPushButton* cmdLan = nullptr;
     QPushButton* cmdCancel = nullptr;
+    QStackedLayout* m_swap = nullptr;
     StatusLine* lblStatus = nullptr;
     QProgressBar* prbProgress = nullptr;
 };

@@ -1,12 +1,18 @@
 #include "querycontroller.h"
 
 #include "favourites.h"
+#include "httpproxy.h"
+#include "knownservers.h"
+#include "serverlistreader.h"
 #include "settingsstore.h"
 
-QueryController::QueryController(SettingsStore& settings, QString favouritesPath, QObject* parent)
+#include <QDateTime>
+
+QueryController::QueryController(SettingsStore& settings, const QString& dataFolder, QObject* parent)
     : QObject(parent)
     , m_settings(settings)
-    , m_favouritesPath(std::move(favouritesPath))
+    , m_favouritesPath(Favourites::filePath(dataFolder))
+    , m_knownPath(KnownServers::filePath(dataFolder))
 {
     m_flushTimer.setSingleShot(true);
     m_flushTimer.setInterval(40);
@@ -15,7 +21,10 @@ QueryController::QueryController(SettingsStore& settings, QString favouritesPath
     connect(&m_session, &QuerySession::requestSent, this,
             [this](int sent, int total) { emit progress(sent, std::max(total, 1)); });
     connect(&m_session, &QuerySession::serverAnswered, this, &QueryController::queue);
-    connect(&m_session, &QuerySession::finished, this, [this] { stop(tr("Done"), StatusTone::Done); });
+    connect(&m_session, &QuerySession::finished, this, [this] {
+        remember(true);
+        stop(tr("Done"), StatusTone::Done);
+    });
     // The window opens a modal Retry/Cancel box: let the engine unwind first.
     connect(
         &m_session, &QuerySession::masterTimedOut, this,
@@ -48,6 +57,10 @@ bool QueryController::begin()
         return false;
     m_flushTimer.stop();
     m_pending.clear();
+    m_answered.clear();
+    m_sourceNames.clear();
+    m_failedSources.clear();
+    emit sourcesReported(QString());
     emit busyChanged(true);
     emit started();
     emit progress(0, 1);
@@ -59,16 +72,28 @@ void QueryController::startMasterQuery()
 {
     if (m_session.isRunning())
         return;
-    const QString setting = m_settings.value(Keys::MasterServer);
-    const auto master = parseMasterAddress(setting);
-    if (!master) {
-        fail(QueryError{QueryError::Kind::BadMasterAddress, setting});
+    const MasterList masters = parseMasterList(m_settings.value(Keys::MasterServer));
+    if (!masters.refused.isEmpty() || masters.masters.isEmpty()) {
+        fail(QueryError{QueryError::Kind::BadMasterAddress, masters.refused.value(0)});
         return;
     }
+    SourcePlan plan;
+    plan.masters = masters.masters;
+    // A list address the options would refuse is left out, as a hand-edited
+    // master is not: the masters alone still make a query.
+    plan.listUrls = ServerListReader::parseUrls(m_settings.value(Keys::ServerListUrls));
+    plan.proxy = httpProxy(m_settings.value(Keys::Proxy), m_settings.value(Keys::ProxyAddress));
+    if (m_settings.value(Keys::QueryKnownServers))
+        plan.known = KnownServers::toAddressTable(KnownServers::readFile(m_knownPath));
     if (!begin())
         return;
-    m_masterHost = master->host;
-    if (const auto error = m_session.startMaster(*master))
+    QStringList names;
+    for (const MasterAddress& master : plan.masters)
+        names.append(master.host);
+    for (const QUrl& url : plan.listUrls)
+        names.append(url.host());
+    m_sourceNames = names.join(QStringLiteral(", "));
+    if (const auto error = m_session.startSources(plan))
         fail(*error);
 }
 
@@ -88,6 +113,27 @@ void QueryController::startFavouritesQuery()
         fail(*error);
 }
 
+void QueryController::startLanQuery()
+{
+    if (m_session.isRunning())
+        return;
+    QList<QHostAddress> targets;
+    const QString setting = m_settings.value(Keys::LanBroadcast);
+    for (const QString& text : setting.split(QLatin1Char(' '), Qt::SkipEmptyParts))
+        if (const QHostAddress address(text); address.protocol() == QAbstractSocket::IPv4Protocol)
+            targets.append(address);
+    if (setting.trimmed().isEmpty())
+        targets = LanQuery::broadcastAddresses();
+    if (targets.isEmpty()) {
+        emit status(tr("No local network to search: no network interface can broadcast."), StatusTone::Hint);
+        return;
+    }
+    if (!begin())
+        return;
+    if (const auto error = m_session.startLan(targets))
+        fail(*error);
+}
+
 void QueryController::refresh(const ServerRecord& server)
 {
     if (m_session.isRunning() || !m_settings.value(Keys::RefreshServers) || !preparePool())
@@ -98,6 +144,8 @@ void QueryController::refresh(const ServerRecord& server)
 
 void QueryController::cancel()
 {
+    if (m_session.isRunning())
+        remember(false);
     stop(tr("Cancelled"), StatusTone::Failed);
 }
 
@@ -105,21 +153,29 @@ void QueryController::showPhase(QuerySession::Phase phase)
 {
     switch (phase) {
     case QuerySession::Phase::Requesting:
-        emit status(tr("Requesting Server List from\n%1").arg(m_masterHost), StatusTone::Requesting);
+        emit status(tr("Requesting Server List from\n%1").arg(m_sourceNames), StatusTone::Requesting);
         break;
     case QuerySession::Phase::Receiving:
-        emit status(tr("Receiving Server List from\n%1").arg(m_masterHost), StatusTone::Requesting);
+        emit status(tr("Receiving Server List from\n%1").arg(m_sourceNames), StatusTone::Requesting);
         break;
     case QuerySession::Phase::Sorting:
-        emit status(tr("Sorting IP Address Lists\n%1").arg(m_masterHost), StatusTone::Requesting);
+        emit status(tr("Sorting IP Address Lists\n%1").arg(m_sourceNames), StatusTone::Requesting);
         break;
     case QuerySession::Phase::Querying: {
         const int count = m_session.addresses().count();
-        emit status(tr("Querying %1 Servers...").arg(count), StatusTone::Querying);
+        reportSources();
+        const QString text = tr("Querying %1 Servers...").arg(count);
+        emit status(m_failedSources.isEmpty() ? text
+                                              : text + QLatin1Char('\n') + tr("No list from %1").arg(m_failedSources),
+                    StatusTone::Querying);
         emit querying(count);
         emit progress(0, std::max(count, 1));
         break;
     }
+    case QuerySession::Phase::Broadcasting:
+        emit status(tr("Searching the local network..."), StatusTone::Querying);
+        emit querying(0);
+        break;
     case QuerySession::Phase::Idle:
         break;
     }
@@ -132,6 +188,7 @@ void QueryController::queue(const ServerRecord& server, bool refresh)
         return;
     }
     m_pending.append(server);
+    m_answered.append(AddressEntry{server.address, server.port, server.name, {}});
     if (!m_flushTimer.isActive())
         m_flushTimer.start();
 }
@@ -162,4 +219,38 @@ void QueryController::fail(const QueryError& error)
     emit busyChanged(false);
     emit progress(0, 1);
     emit status(error.message(), StatusTone::Failed);
+}
+
+void QueryController::reportSources()
+{
+    QStringList lines;
+    QStringList failed;
+    for (const SourceReport& report : m_session.sourceReports()) {
+        if (report.failed()) {
+            failed.append(report.name);
+            lines.append(tr("%1: %2").arg(report.name, report.error));
+            continue;
+        }
+        QString line = tr("%1: %n servers", nullptr, report.addresses).arg(report.name);
+        if (report.skipped > 0)
+            line += QLatin1Char(' ') + tr("(%n entries skipped)", nullptr, report.skipped);
+        if (report.truncated)
+            line += QLatin1Char(' ') + tr("(list cut at %1)").arg(ServerListReader::MaxAddresses);
+        lines.append(line);
+    }
+    m_failedSources = failed.join(QStringLiteral(", "));
+    emit sourcesReported(lines.join(QLatin1Char('\n')));
+}
+
+void QueryController::remember(bool finished)
+{
+    // Only answers are news; a LAN search asks no list of addresses.
+    if (m_answered.isEmpty() && (!finished || m_session.addresses().isEmpty()))
+        return;
+    const KnownServers::List known = KnownServers::readFile(m_knownPath);
+    const KnownServers::List updated =
+        KnownServers::update(known, m_session.addresses(), m_answered, QDateTime::currentSecsSinceEpoch(), finished);
+    if (updated != known && !KnownServers::writeFile(m_knownPath, updated))
+        qWarning("The known servers could not be saved to %s", qPrintable(m_knownPath));
+    m_answered.clear();
 }

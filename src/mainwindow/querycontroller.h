@@ -9,23 +9,26 @@
 
 class SettingsStore;
 
-// Runs the queries of the window: the master query, the favourites query
-// and the refresh of one selected server. It reads the speed, start port
-// and master from the settings at each start, batches the answers (the
-// lists take rows in batches, not one per datagram) and says in signals
+// Runs the queries of the window: the query of every server source (the
+// masters, the published lists and the servers known from earlier), the
+// favourites query, the LAN query and the refresh of one selected server.
+// It reads the speed, start port and sources from the settings at each
+// start, batches the answers (the lists take rows in batches, not one per
+// datagram), remembers every server that answered, and says in signals
 // what the window shows.
 class QueryController final : public QObject {
     Q_OBJECT
     Q_DISABLE_COPY_MOVE(QueryController)
 
 public:
-    QueryController(SettingsStore& settings, QString favouritesPath, QObject* parent = nullptr);
+    QueryController(SettingsStore& settings, const QString& dataFolder, QObject* parent = nullptr);
 
     const QuerySession& session() const { return m_session; }
     bool isRunning() const { return m_session.isRunning(); }
 
     void startMasterQuery();
     void startFavouritesQuery();
+    void startLanQuery();
     // Queries one listed server again, when no query runs and the user
     // wants selected servers refreshed.
     void refresh(const ServerRecord& server);
@@ -47,6 +50,9 @@ signals:
     void ended();
     // After the status line says so; the window offers Retry.
     void masterTimedOut();
+    // What each source of the query gave, one line each; empty for a query
+    // without sources.
+    void sourcesReported(const QString& summary);
 
 private:
     bool preparePool();
@@ -56,11 +62,17 @@ private:
     void flush();
     void stop(const QString& text, StatusTone tone);
     void fail(const QueryError& error);
+    void reportSources();
+    void remember(bool finished);
 
     SettingsStore& m_settings;
     QString m_favouritesPath;
+    QString m_knownPath;
     QuerySession m_session;
-    QString m_masterHost;
+    QString m_sourceNames;
+    QString m_failedSources;
+    // The servers that answered this query, for the known servers.
+    QList<AddressEntry> m_answered;
     // A speed outside the table keeps the pool of the last query.
     int m_lastSocketIndex = QuerySpeed::DefaultLastSocketIndex;
     QList<ServerRecord> m_pending;

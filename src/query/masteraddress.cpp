@@ -1,5 +1,7 @@
 #include "masteraddress.h"
 
+#include <QRegularExpression>
+
 namespace {
 
 std::optional<quint16> parsePort(QStringView text)
@@ -49,4 +51,39 @@ std::optional<MasterAddress> parseMasterAddress(QStringView text)
         result.port = *port;
     }
     return result;
+}
+
+MasterList parseMasterList(QStringView text)
+{
+    MasterList result;
+    static const QRegularExpression separators(QStringLiteral("[,\\s]+"));
+    const QStringList entries = text.toString().split(separators, Qt::SkipEmptyParts);
+    if (entries.isEmpty()) {
+        result.masters.append(MasterAddress{MasterAddress::DefaultHost, MasterAddress::DefaultPort});
+        return result;
+    }
+    for (const QString& entry : entries) {
+        if (const auto master = parseMasterAddress(entry))
+            result.masters.append(*master);
+        else
+            result.refused.append(entry);
+    }
+    return result;
+}
+
+QString masterAddressText(const MasterAddress& master)
+{
+    const bool v6 = master.host.contains(QLatin1Char(':'));
+    if (master.port == MasterAddress::DefaultPort)
+        return master.host;
+    return v6 ? QStringLiteral("[%1]:%2").arg(master.host).arg(master.port)
+              : QStringLiteral("%1:%2").arg(master.host).arg(master.port);
+}
+
+QString masterListText(const QList<MasterAddress>& masters)
+{
+    QStringList texts;
+    for (const MasterAddress& master : masters)
+        texts.append(masterAddressText(master));
+    return texts.join(QStringLiteral(", "));
 }

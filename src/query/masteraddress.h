@@ -1,6 +1,8 @@
 #pragma once
 
+#include <QList>
 #include <QString>
+#include <QStringList>
 #include <QStringView>
 
 #include <optional>
@@ -20,3 +22,17 @@ struct MasterAddress {
 // names no usable host or port, so the caller can say so instead of
 // querying something the user never meant.
 std::optional<MasterAddress> parseMasterAddress(QStringView text);
+
+// The masters of one query: the setting holds one or more entries
+// separated by commas or blanks. Entries that name no usable host or port
+// are returned apart so the caller can say which; an empty text means the
+// default master.
+struct MasterList {
+    QList<MasterAddress> masters;
+    QStringList refused;
+};
+MasterList parseMasterList(QStringView text);
+// The setting's text for a list of masters, as the options write it.
+QString masterListText(const QList<MasterAddress>& masters);
+// "host" or "host:port" as the user types it; the default port is left out.
+QString masterAddressText(const MasterAddress& master);

@@ -3,16 +3,14 @@
 QuerySession::QuerySession(QObject* parent)
     : QObject(parent)
 {
-    connect(&m_master, &MasterQuery::receiving, this, [this] { setPhase(Phase::Receiving); });
-    connect(&m_master, &MasterQuery::sorting, this, [this] { setPhase(Phase::Sorting); });
-    connect(&m_master, &MasterQuery::addressesReady, this, &QuerySession::runTable);
-    connect(&m_master, &MasterQuery::timedOut, this, [this] {
+    connect(&m_sources, &ServerSources::receiving, this, [this] { setPhase(Phase::Receiving); });
+    connect(&m_sources, &ServerSources::sorting, this, [this] { setPhase(Phase::Sorting); });
+    connect(&m_sources, &ServerSources::finished, this, &QuerySession::sourcesDone);
+    connect(&m_lan, &LanQuery::serverAnswered, this,
+            [this](const ServerRecord& server) { emit serverAnswered(server, false); });
+    connect(&m_lan, &LanQuery::finished, this, [this] {
         cancel();
-        emit masterTimedOut();
-    });
-    connect(&m_master, &MasterQuery::failed, this, [this](const QueryError& error) {
-        cancel();
-        emit failed(error);
+        emit finished();
     });
     connect(&m_scheduler, &QueryScheduler::requestSent, this, &QuerySession::requestSent);
     connect(&m_scheduler, &QueryScheduler::serverAnswered, this, &QuerySession::serverAnswered);
@@ -30,8 +28,16 @@ void QuerySession::setPool(const QuerySpeed::PortPlan& plan)
 
 std::optional<QueryError> QuerySession::startMaster(const MasterAddress& master)
 {
+    SourcePlan plan;
+    plan.masters = {master};
+    return startSources(plan);
+}
+
+std::optional<QueryError> QuerySession::startSources(const SourcePlan& plan)
+{
     cancel();
     m_addresses.clear();
+    m_reports.clear();
     m_clock.start();
     if (!m_plan.isValid())
         return QueryError{QueryError::Kind::PortUnavailable, QString::number(m_plan.masterPort()),
@@ -39,10 +45,44 @@ std::optional<QueryError> QuerySession::startMaster(const MasterAddress& master)
     if (auto error = m_scheduler.openPool())
         return error;
     setPhase(Phase::Requesting);
-    if (auto error = m_master.start(master, quint16(m_plan.masterPort()))) {
+    if (auto error = m_sources.start(plan, quint16(m_plan.masterPort()))) {
         cancel();
         return error;
     }
+    return std::nullopt;
+}
+
+void QuerySession::sourcesDone(const AddressTable& table, const QList<SourceReport>& reports)
+{
+    m_reports = reports;
+    const bool anyAnswered =
+        std::any_of(reports.cbegin(), reports.cend(), [](const SourceReport& report) { return !report.failed(); });
+    if (!table.isEmpty() || anyAnswered) {
+        runTable(table);
+        return;
+    }
+    cancel();
+    if (reports.size() == 1 && reports.first().queryError) {
+        emit failed(*reports.first().queryError);
+        return;
+    }
+    emit masterTimedOut();
+}
+
+std::optional<QueryError> QuerySession::startLan(const QList<QHostAddress>& targets)
+{
+    cancel();
+    m_addresses.clear();
+    m_reports.clear();
+    m_clock.start();
+    if (!m_plan.isValid())
+        return QueryError{QueryError::Kind::PortUnavailable, QString::number(m_plan.masterPort()),
+                          QStringLiteral("beyond 65535")};
+    // The pool's first port: a firewall opened for the browser lets the
+    // answers in.
+    if (auto error = m_lan.start(targets, quint16(m_plan.startPort)))
+        return error;
+    setPhase(Phase::Broadcasting);
     return std::nullopt;
 }
 
@@ -65,7 +105,8 @@ void QuerySession::runTable(const AddressTable& table)
 
 void QuerySession::cancel()
 {
-    m_master.cancel();
+    m_sources.cancel();
+    m_lan.cancel();
     m_scheduler.cancel();
     setPhase(Phase::Idle);
 }

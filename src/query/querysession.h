@@ -1,18 +1,20 @@
 #pragma once
 
+#include "lanquery.h"
 #include "masteraddress.h"
-#include "masterquery.h"
 #include "queryerror.h"
 #include "queryscheduler.h"
 #include "records.h"
+#include "serversources.h"
 
 #include <QElapsedTimer>
 #include <QObject>
 
 #include <optional>
 
-// One query from start to end: the master's list (or a given table, such
-// as the favourites) queried over the pool. The window and the
+// One query from start to end: the lists of the sources (masters,
+// published lists, remembered servers), a given table such as the
+// favourites, or the LAN broadcast, queried over the pool. The window and the
 // command-line tool drive the engine through this and turn its signals
 // into what they show.
 class QuerySession final : public QObject {
@@ -20,7 +22,7 @@ class QuerySession final : public QObject {
     Q_DISABLE_COPY_MOVE(QuerySession)
 
 public:
-    enum class Phase { Idle, Requesting, Receiving, Sorting, Querying };
+    enum class Phase { Idle, Requesting, Receiving, Sorting, Querying, Broadcasting };
     Q_ENUM(Phase)
 
     explicit QuerySession(QObject* parent = nullptr);
@@ -33,7 +35,12 @@ public:
     // Both bind every port first; a port that cannot be bound returns the
     // error and nothing runs.
     std::optional<QueryError> startMaster(const MasterAddress& master);
+    // Every source at once. When all of them fail and nothing is known,
+    // a single master's failure is reported as it is; several fail as one
+    // timed-out master.
+    std::optional<QueryError> startSources(const SourcePlan& plan);
     std::optional<QueryError> startAddresses(const AddressTable& table);
+    std::optional<QueryError> startLan(const QList<QHostAddress>& targets);
     void cancel();
     bool isRunning() const { return m_phase != Phase::Idle; }
     Phase phase() const { return m_phase; }
@@ -42,8 +49,14 @@ public:
     std::optional<QueryError> refresh(const QString& address, int port);
 
     const AddressTable& addresses() const { return m_addresses; }
+    // What each source gave in the last query from sources.
+    const QList<SourceReport>& sourceReports() const { return m_reports; }
+    const LanQuery& lan() const { return m_lan; }
     const QueryScheduler& scheduler() const { return m_scheduler; }
-    int droppedDatagrams() const { return m_scheduler.droppedDatagrams() + m_master.droppedDatagrams(); }
+    int droppedDatagrams() const
+    {
+        return m_scheduler.droppedDatagrams() + m_sources.droppedDatagrams() + m_lan.droppedDatagrams();
+    }
     qint64 elapsedMs() const { return m_clock.isValid() ? m_clock.elapsed() : 0; }
 
 signals:
@@ -57,9 +70,12 @@ signals:
 private:
     void setPhase(Phase phase);
     void runTable(const AddressTable& table);
+    void sourcesDone(const AddressTable& table, const QList<SourceReport>& reports);
 
     QueryScheduler m_scheduler;
-    MasterQuery m_master;
+    ServerSources m_sources;
+    LanQuery m_lan;
+    QList<SourceReport> m_reports;
     QuerySpeed::PortPlan m_plan;
     AddressTable m_addresses;
     Phase m_phase = Phase::Idle;

@@ -58,8 +58,16 @@ inline constexpr FlagSetting IncludePassworded{u"IncludePassworded", true};
 inline constexpr FlagSetting AutoUpdate{u"AutoUpdate", true};
 inline constexpr FlagSetting Proxy{u"Proxy", false};
 inline constexpr TextSetting ProxyAddress{u"ProxyAddress"};
-// Empty: the game maker's master.
+// One or more "host[:port]" separated by commas or blanks; empty: the game
+// maker's master.
 inline constexpr TextSetting MasterServer{u"MasterServer"};
+// Published server lists: http or https addresses separated by blanks.
+inline constexpr TextSetting ServerListUrls{u"ServerListUrls", u"https://quakehub.net/api/v1/servers/q4"};
+// Servers that answered once are asked again by "Query Masters".
+inline constexpr FlagSetting QueryKnownServers{u"QueryKnownServers", true};
+// Where "Query LAN" sends: addresses separated by blanks; empty: the
+// broadcast address of every local network.
+inline constexpr TextSetting LanBroadcast{u"LanBroadcast"};
 
 // List prefixes: columns use the first, sorting the second (the selected
 // server's player pane is the one list where they differ).

@@ -1,6 +1,7 @@
 #include "fleet.h"
 #include "hostlookup.h"
 #include "masterprotocol.h"
+#include "masterquery.h"
 #include "querysession.h"
 
 #include <QElapsedTimer>

@@ -41,6 +41,8 @@ public:
     {
         m_settings.save(u"MasterServer", QStringLiteral("127.0.0.1:%1").arg(masterPort));
         m_settings.save(u"StartPort", QString::number(startPort));
+        // Tests never fetch the public server list.
+        m_settings.save(u"ServerListUrls", QString());
         if (prepare)
             prepare(m_settings);
         window = std::make_unique<FrmMain>(m_settings, desktop, language, m_dir->path());

@@ -1,0 +1,76 @@
+#include "serverlistfetch.h"
+
+#include <QCoreApplication>
+#include <QNetworkAccessManager>
+#include <QNetworkReply>
+#include <QNetworkRequest>
+
+ServerListFetch::ServerListFetch(QNetworkAccessManager& network, QObject* parent)
+    : QObject(parent)
+    , m_network(network)
+{
+    m_timer.setSingleShot(true);
+    m_timer.setInterval(TimeoutMs);
+    connect(&m_timer, &QTimer::timeout, this, [this] {
+        fail(QCoreApplication::translate("ServerListFetch", "no reply within %1 seconds").arg(TimeoutMs / 1000));
+    });
+}
+
+ServerListFetch::~ServerListFetch()
+{
+    abort();
+}
+
+void ServerListFetch::start(const QUrl& url)
+{
+    abort();
+    QNetworkRequest request(url);
+    request.setHeader(QNetworkRequest::UserAgentHeader,
+                      QStringLiteral("q4vantage/%1").arg(QCoreApplication::applicationVersion()));
+    request.setRawHeader("Accept", "application/json, text/plain;q=0.9, */*;q=0.5");
+    m_reply = m_network.get(request);
+    connect(m_reply, &QNetworkReply::downloadProgress, this, [this](qint64 received, qint64) {
+        if (received > MaxReplyBytes)
+            fail(QCoreApplication::translate("ServerListFetch", "the reply is larger than %1 MiB")
+                     .arg(MaxReplyBytes / (1024 * 1024)));
+    });
+    connect(m_reply, &QNetworkReply::finished, this, &ServerListFetch::done);
+    m_timer.start();
+}
+
+void ServerListFetch::abort()
+{
+    m_timer.stop();
+    if (QNetworkReply* reply = m_reply) {
+        m_reply = nullptr;
+        reply->disconnect(this);
+        reply->abort();
+        reply->deleteLater();
+    }
+}
+
+void ServerListFetch::done()
+{
+    QNetworkReply* reply = m_reply;
+    if (!reply)
+        return;
+    const int status = reply->attribute(QNetworkRequest::HttpStatusCodeAttribute).toInt();
+    if (status >= 400) {
+        const QString reason = reply->attribute(QNetworkRequest::HttpReasonPhraseAttribute).toString();
+        fail(QStringLiteral("HTTP %1 %2").arg(status).arg(reason).trimmed());
+        return;
+    }
+    if (reply->error() != QNetworkReply::NoError) {
+        fail(reply->errorString());
+        return;
+    }
+    const QByteArray body = reply->readAll();
+    abort();
+    emit listed(ServerListReader::read(body));
+}
+
+void ServerListFetch::fail(const QString& reason)
+{
+    abort();
+    emit failed(reason);
+}

@@ -1,0 +1,44 @@
+#pragma once
+
+#include "serverlistreader.h"
+
+#include <QNetworkReply>
+#include <QObject>
+#include <QPointer>
+#include <QTimer>
+#include <QUrl>
+
+class QNetworkAccessManager;
+
+// Fetches one published server list over HTTP(S) and reads it. The whole
+// transfer has a time limit, and a reply larger than any real list is cut
+// off: a site that trickles or floods costs this source, never the query.
+class ServerListFetch final : public QObject {
+    Q_OBJECT
+    Q_DISABLE_COPY_MOVE(ServerListFetch)
+
+public:
+    static constexpr int TimeoutMs = 5000;
+    static constexpr qint64 MaxReplyBytes = 8 * 1024 * 1024;
+
+    ServerListFetch(QNetworkAccessManager& network, QObject* parent = nullptr);
+    ~ServerListFetch() override;
+
+    // Goes through the network access manager's proxy.
+    void start(const QUrl& url);
+    void abort();
+    bool isRunning() const { return m_reply != nullptr; }
+
+signals:
+    // Exactly one of these follows each start, unless aborted.
+    void listed(const ServerListReader::Result& result);
+    void failed(const QString& reason);
+
+private:
+    void done();
+    void fail(const QString& reason);
+
+    QNetworkAccessManager& m_network;
+    QPointer<QNetworkReply> m_reply;
+    QTimer m_timer;
+};

@@ -1,0 +1,45 @@
+#pragma once
+
+#include "records.h"
+
+#include <QByteArray>
+#include <QStringList>
+#include <QStringView>
+#include <QUrl>
+
+#include <optional>
+
+// Reads the server lists people publish on the web: JSON in the shapes
+// such sites use, or plain text with one "host:port" per line. The format
+// of a list is not announced, so the reader takes whatever parses and
+// counts what it had to skip.
+namespace ServerListReader {
+
+// A list longer than this is cut: no public list of this game is anywhere
+// near it, and a runaway reply must not become a runaway query.
+inline constexpr int MaxAddresses = 5000;
+
+struct Result {
+    AddressTable addresses;
+    int skipped = 0;        // entries that name no usable IPv4 host and port
+    bool truncated = false; // more than the maximum were listed
+    bool json = false;
+};
+
+// JSON when the reply parses as JSON: an array of "host:port" strings; an
+// array of objects with an "address" string, or "ip"/"host" plus "port";
+// or an object wrapping such an array ("servers", "data", or its first
+// array). Otherwise text: one "host:port" per line, "#" starts a comment,
+// anything after the first blank is ignored.
+Result read(const QByteArray& reply, int maxAddresses = MaxAddresses);
+
+// "host:port" with a host name or IPv4 address and a port 1 to 65535.
+// IPv6 is refused: the pool's sockets are IPv4.
+std::optional<AddressEntry> parseEndpoint(QStringView text);
+
+// The list addresses of the setting, separated by blanks: http and https
+// addresses with a host; anything else goes to refused.
+QList<QUrl> parseUrls(QStringView text, QStringList* refused = nullptr);
+QString urlsText(const QList<QUrl>& urls);
+
+} // namespace ServerListReader

@@ -1,0 +1,156 @@
+#include "knownservers.h"
+
+#include "datafield.h"
+
+#include <QDir>
+#include <QFile>
+#include <QHash>
+#include <QSaveFile>
+#include <QSet>
+
+#include <algorithm>
+
+namespace KnownServers {
+
+namespace {
+
+constexpr qint64 SecondsPerDay = 24 * 60 * 60;
+constexpr char Header[] = "# Quake 4 Vantage: servers that answered. address:port, last seen, misses, name\n";
+
+} // namespace
+
+QString filePath(const QString& dataFolder)
+{
+    return QDir(dataFolder).filePath(QLatin1String(FileName));
+}
+
+List parse(const QByteArray& bytes)
+{
+    List servers;
+    QSet<QString> seen;
+    qsizetype start = 0;
+    while (start < bytes.size() && servers.size() < MaxServers) {
+        qsizetype end = bytes.indexOf('\n', start);
+        if (end < 0)
+            end = bytes.size();
+        QByteArrayView line = QByteArrayView(bytes).sliced(start, end - start);
+        start = end + 1;
+        if (line.endsWith('\r'))
+            line.chop(1);
+        if (line.isEmpty() || line.startsWith('#'))
+            continue;
+        const QList<QByteArray> fields = line.toByteArray().split('\t');
+        if (fields.size() < 3)
+            continue;
+        const QByteArray& endpoint = fields.at(0);
+        const qsizetype colon = endpoint.lastIndexOf(':');
+        bool portOk = false;
+        bool seenOk = false;
+        bool missesOk = false;
+        Server server;
+        server.address = QString::fromLatin1(endpoint.left(colon));
+        server.port = colon > 0 ? endpoint.mid(colon + 1).toInt(&portOk) : 0;
+        server.lastSeen = fields.at(1).toLongLong(&seenOk);
+        server.misses = fields.at(2).toInt(&missesOk);
+        // The name is the rest of the line, tabs and all.
+        qsizetype nameStart = 0;
+        for (int tab = 0; tab < 3 && nameStart >= 0; ++tab)
+            nameStart = line.indexOf('\t', nameStart) + 1;
+        server.name = fields.size() > 3 ? QString::fromLatin1(line.sliced(nameStart)) : QString();
+        if (!portOk || !seenOk || !missesOk || server.port < 1 || server.port > 65535 || server.address.isEmpty() ||
+            server.address.contains(QLatin1Char(' ')) || server.misses < 0)
+            continue;
+        const QString key = endpointText(server.address, server.port);
+        if (seen.contains(key))
+            continue;
+        seen.insert(key);
+        servers.append(server);
+    }
+    return servers;
+}
+
+QByteArray toBytes(const List& servers)
+{
+    QByteArray bytes(Header);
+    for (const Server& server : servers) {
+        bytes += dataFileField(endpointText(server.address, server.port));
+        bytes += '\t' + QByteArray::number(server.lastSeen) + '\t' + QByteArray::number(server.misses) + '\t';
+        bytes += dataFileField(server.name);
+        bytes += '\n';
+    }
+    return bytes;
+}
+
+List readFile(const QString& path)
+{
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly))
+        return {};
+    return parse(file.read(MaxFileBytes));
+}
+
+bool writeFile(const QString& path, const List& servers)
+{
+    QSaveFile file(path);
+    if (!file.open(QIODevice::WriteOnly))
+        return false;
+    file.write(toBytes(servers));
+    return file.commit();
+}
+
+bool forget(const QString& path)
+{
+    return !QFile::exists(path) || QFile::remove(path);
+}
+
+AddressTable toAddressTable(const List& servers)
+{
+    AddressTable table;
+    for (const Server& server : servers)
+        table.add(server.address, server.port);
+    return table;
+}
+
+List update(List known, const AddressTable& asked, const QList<AddressEntry>& answered, qint64 now, bool finished)
+{
+    QHash<QString, qsizetype> index;
+    for (qsizetype i = 0; i < known.size(); ++i)
+        index.insert(endpointText(known.at(i).address, known.at(i).port), i);
+
+    QSet<QString> answeredKeys;
+    for (const AddressEntry& answer : answered) {
+        const QString key = answer.endpointText();
+        answeredKeys.insert(key);
+        const auto found = index.constFind(key);
+        if (found == index.cend()) {
+            index.insert(key, known.size());
+            known.append(Server{answer.address, answer.port, answer.name, now, 0});
+            continue;
+        }
+        Server& server = known[*found];
+        server.name = answer.name;
+        server.lastSeen = now;
+        server.misses = 0;
+    }
+    if (finished) {
+        QSet<QString> missed;
+        for (const AddressEntry& entry : asked.entries()) {
+            const QString key = entry.endpointText();
+            if (answeredKeys.contains(key) || missed.contains(key))
+                continue;
+            missed.insert(key);
+            if (const auto found = index.constFind(key); found != index.cend())
+                ++known[*found].misses;
+        }
+    }
+    const qint64 oldest = now - MaxAgeDays * SecondsPerDay;
+    known.removeIf([oldest](const Server& server) { return server.misses >= MaxMisses || server.lastSeen < oldest; });
+    if (known.size() > MaxServers) {
+        std::stable_sort(known.begin(), known.end(),
+                         [](const Server& a, const Server& b) { return a.lastSeen > b.lastSeen; });
+        known.resize(MaxServers);
+    }
+    return known;
+}
+
+} // namespace KnownServers

@@ -1,0 +1,343 @@
+#include "fleet.h"
+#include "httpproxy.h"
+#include "httpresponder.h"
+#include "lanquery.h"
+#include "masterquery.h"
+#include "querysession.h"
+#include "serverlistfetch.h"
+#include "serversources.h"
+
+#include <QElapsedTimer>
+#include <QSet>
+#include <QSignalSpy>
+#include <QTest>
+#include <QUdpSocket>
+
+namespace {
+
+constexpr quint16 PoolPort = 43000;
+
+MasterAddress masterAt(quint16 port)
+{
+    return MasterAddress{QStringLiteral("127.0.0.1"), port};
+}
+
+QStringList endpoints(const AddressTable& table)
+{
+    QStringList texts;
+    for (const AddressEntry& entry : table.entries())
+        texts.append(entry.endpointText());
+    return texts;
+}
+
+QStringList fleetEndpoints(const SimFleet& fleet, int from = 0, int count = -1)
+{
+    QStringList texts;
+    const auto& servers = fleet.servers();
+    for (int i = from; i < (count < 0 ? servers.size() : from + count); ++i)
+        texts.append(endpointText(QStringLiteral("127.0.0.1"), servers.at(i).port));
+    return texts;
+}
+
+QByteArray lines(const QStringList& endpoints)
+{
+    return endpoints.join(QLatin1Char('\n')).toLatin1() + '\n';
+}
+
+// The answers of a session, by "address:port".
+struct Answers {
+    explicit Answers(QuerySession& session)
+    {
+        QObject::connect(&session, &QuerySession::serverAnswered,
+                         [this](const ServerRecord& server) { endpoints.append(server.endpointText()); });
+    }
+    QStringList endpoints;
+};
+
+} // namespace
+
+class TestServerSources final : public QObject {
+    Q_OBJECT
+
+private slots:
+    void initTestCase()
+    {
+        qRegisterMetaType<ServerRecord>();
+        qRegisterMetaType<AddressTable>();
+        qRegisterMetaType<QList<SourceReport>>();
+    }
+
+    void mergingKeepsOrderAndAsksEachServerOnce()
+    {
+        AddressTable first;
+        first.add(QStringLiteral("1.1.1.1"), 1);
+        first.add(QStringLiteral("2.2.2.2"), 2);
+        first.add(QStringLiteral("1.1.1.1"), 1); // the master listed it twice: asked twice
+        AddressTable second;
+        second.add(QStringLiteral("2.2.2.2"), 2);
+        second.add(QStringLiteral("3.3.3.3"), 3);
+        second.add(QStringLiteral("3.3.3.3"), 3);
+        AddressTable known;
+        known.add(QStringLiteral("3.3.3.3"), 3);
+        known.add(QStringLiteral("4.4.4.4"), 4);
+        int knownAdded = -1;
+        const AddressTable merged = mergeSources({first, second}, known, &knownAdded);
+        QCOMPARE(endpoints(merged),
+                 (QStringList{"1.1.1.1:1", "2.2.2.2:2", "1.1.1.1:1", "3.3.3.3:3", "3.3.3.3:3", "4.4.4.4:4"}));
+        QCOMPARE(knownAdded, 1);
+    }
+
+    void aSilentMasterDoesNotStopTheOthers()
+    {
+        SimFleet dead(fleetOf(5, 26000));
+        SimFleet alive(fleetOf(10, 26100));
+        QVERIFY(!dead.start());
+        QVERIFY(!alive.start());
+        dead.setMasterSilent(true);
+        QuerySession session;
+        session.setPool({5, PoolPort});
+        Answers answers(session);
+        QSignalSpy finished(&session, &QuerySession::finished);
+        QSignalSpy timedOut(&session, &QuerySession::masterTimedOut);
+        SourcePlan plan;
+        plan.masters = {masterAt(26000), masterAt(26100)};
+        QVERIFY(!session.startSources(plan));
+        QTRY_COMPARE_WITH_TIMEOUT(finished.count(), 1, 8000);
+        QCOMPARE(timedOut.count(), 0);
+        QCOMPARE(answers.endpoints.size(), 10);
+        const auto& reports = session.sourceReports();
+        QCOMPARE(reports.size(), 2);
+        QVERIFY(reports.at(0).failed() && reports.at(0).timedOut);
+        QCOMPARE(reports.at(1).addresses, 10);
+        QVERIFY(!reports.at(1).failed());
+    }
+
+    void overlappingMastersAskEachServerOnce()
+    {
+        SimFleet a(fleetOf(5, 26200));
+        SimFleet b(fleetOf(5, 26300));
+        QVERIFY(!a.start());
+        QVERIFY(!b.start());
+        // b lists three of a's servers, and its own first server twice.
+        QList<QPair<quint32, quint16>> listed;
+        for (int i = 0; i < 3; ++i)
+            listed.append({0x7F000001u, a.servers().at(i).port});
+        listed.append({0x7F000001u, b.servers().at(0).port});
+        for (int i = 0; i < 5; ++i)
+            listed.append({0x7F000001u, b.servers().at(i).port});
+        b.setMasterDatagrams(SimReplies::serverList(listed));
+        QuerySession session;
+        session.setPool({5, PoolPort + 100});
+        Answers answers(session);
+        QSignalSpy finished(&session, &QuerySession::finished);
+        SourcePlan plan;
+        plan.masters = {masterAt(26200), masterAt(26300)};
+        QVERIFY(!session.startSources(plan));
+        QTRY_COMPARE_WITH_TIMEOUT(finished.count(), 1, 8000);
+        const QStringList expected = fleetEndpoints(a) + fleetEndpoints(b, 0, 1) + fleetEndpoints(b);
+        QCOMPARE(endpoints(session.addresses()), expected);
+        QCOMPARE(answers.endpoints.size(), 11);
+        for (const QString& endpoint : fleetEndpoints(a))
+            QCOMPARE(answers.endpoints.count(endpoint), 1);
+        QCOMPARE(a.infoRequests(), 5);
+    }
+
+    void everySourceFailingIsTheMasterTimeOut()
+    {
+        SimFleet a(fleetOf(2, 26400));
+        SimFleet b(fleetOf(2, 26450));
+        QVERIFY(!a.start());
+        QVERIFY(!b.start());
+        a.setMasterSilent(true);
+        b.setMasterSilent(true);
+        HttpResponder web;
+        QuerySession session;
+        session.setPool({1, PoolPort + 200});
+        QSignalSpy finished(&session, &QuerySession::finished);
+        QSignalSpy timedOut(&session, &QuerySession::masterTimedOut);
+        QSignalSpy failed(&session, &QuerySession::failed);
+        SourcePlan plan;
+        plan.masters = {masterAt(26400), masterAt(26450)};
+        plan.listUrls = {web.url(QStringLiteral("/missing"))};
+        QVERIFY(!session.startSources(plan));
+        QTRY_COMPARE_WITH_TIMEOUT(timedOut.count(), 1, 6000);
+        QCOMPARE(finished.count(), 0);
+        QCOMPARE(failed.count(), 0);
+        QVERIFY(!session.isRunning());
+        QCOMPARE(session.sourceReports().at(2).error, QStringLiteral("HTTP 404 Not Found"));
+
+        // A player who queried before still gets the servers they knew.
+        plan.known.add(QStringLiteral("127.0.0.1"), a.servers().at(0).port);
+        plan.known.add(QStringLiteral("127.0.0.1"), b.servers().at(1).port);
+        Answers answers(session);
+        QVERIFY(!session.startSources(plan));
+        QTRY_COMPARE_WITH_TIMEOUT(finished.count(), 1, 6000);
+        QCOMPARE(timedOut.count(), 1);
+        QCOMPARE(answers.endpoints.size(), 2);
+        QCOMPARE(session.sourceReports().last().kind, SourceReport::Kind::Known);
+        QCOMPARE(session.sourceReports().last().addresses, 2);
+    }
+
+    void publishedListsAreFetchedAndMerged()
+    {
+        SimFleet fleet(fleetOf(8, 26500));
+        QVERIFY(!fleet.start());
+        fleet.setMasterSilent(true);
+        const QStringList all = fleetEndpoints(fleet);
+        HttpResponder web;
+        QByteArray json = "{\"servers\":[";
+        for (int i = 0; i < 4; ++i)
+            json += (i ? ",{\"ip\":\"127.0.0.1\",\"port\":" : "{\"ip\":\"127.0.0.1\",\"port\":") +
+                    QByteArray::number(fleet.servers().at(i).port) + '}';
+        json += "]}";
+        web.set(QStringLiteral("/json"), {200, json, "application/json", 0});
+        web.set(QStringLiteral("/text"), {200, "# more\n" + lines(all.mid(2)), "text/plain", 0});
+        web.set(QStringLiteral("/garbage"), {200, "<html>oops</html>\nnot:a:server\n", "text/html", 0});
+        QuerySession session;
+        session.setPool({5, PoolPort + 300});
+        Answers answers(session);
+        QSignalSpy finished(&session, &QuerySession::finished);
+        SourcePlan plan;
+        plan.masters = {masterAt(26500)};
+        plan.listUrls = {web.url(QStringLiteral("/json")), web.url(QStringLiteral("/text")),
+                         web.url(QStringLiteral("/garbage")), web.url(QStringLiteral("/gone"))};
+        QVERIFY(!session.startSources(plan));
+        QTRY_COMPARE_WITH_TIMEOUT(finished.count(), 1, 8000);
+        QCOMPARE(endpoints(session.addresses()), all);
+        QCOMPARE(answers.endpoints.size(), 8);
+        const auto& reports = session.sourceReports();
+        QCOMPARE(reports.size(), 5);
+        QVERIFY(reports.at(0).timedOut);
+        QCOMPARE(reports.at(1).addresses, 4);
+        QCOMPARE(reports.at(2).addresses, 6);
+        QCOMPARE(reports.at(3).addresses, 0);
+        QCOMPARE(reports.at(3).skipped, 2);
+        QVERIFY(!reports.at(3).failed());
+        QCOMPARE(reports.at(4).error, QStringLiteral("HTTP 404 Not Found"));
+    }
+
+    void aSlowListCostsOnlyItsTimeOut()
+    {
+        HttpResponder web;
+        web.set(QStringLiteral("/slow"), {200, "127.0.0.1:1\n", "text/plain", ServerListFetch::TimeoutMs + 3000});
+        ServerSources sources;
+        QSignalSpy finished(&sources, &ServerSources::finished);
+        SourcePlan plan;
+        plan.listUrls = {web.url(QStringLiteral("/slow"))};
+        QElapsedTimer clock;
+        clock.start();
+        QVERIFY(!sources.start(plan, PoolPort + 400));
+        QTRY_COMPARE_WITH_TIMEOUT(finished.count(), 1, ServerListFetch::TimeoutMs + 2000);
+        QVERIFY(clock.elapsed() >= ServerListFetch::TimeoutMs - 50);
+        QVERIFY(clock.elapsed() < ServerListFetch::TimeoutMs + 1000);
+        const auto reports = finished.first().at(1).value<QList<SourceReport>>();
+        QCOMPARE(reports.first().error, QStringLiteral("no reply within 5 seconds"));
+    }
+
+    void aHugeListIsCutWithoutFreezing()
+    {
+        QByteArray body;
+        for (int i = 0; i < 100000; ++i)
+            body += "10." + QByteArray::number(i / 65536) + '.' + QByteArray::number(i / 256 % 256) + '.' +
+                    QByteArray::number(i % 256) + ":28004\n";
+        HttpResponder web;
+        web.set(QStringLiteral("/huge"), {200, body, "text/plain", 0});
+        ServerSources sources;
+        QSignalSpy finished(&sources, &ServerSources::finished);
+        // The event loop keeps turning while the list comes in.
+        QElapsedTimer clock;
+        qint64 longestGap = 0;
+        QTimer ticker;
+        ticker.setInterval(5);
+        connect(&ticker, &QTimer::timeout, this, [&] { longestGap = std::max(longestGap, clock.restart()); });
+        SourcePlan plan;
+        plan.listUrls = {web.url(QStringLiteral("/huge"))};
+        QVERIFY(!sources.start(plan, PoolPort + 400));
+        clock.start();
+        ticker.start();
+        QTRY_COMPARE_WITH_TIMEOUT(finished.count(), 1, 5000);
+        const auto table = finished.first().at(0).value<AddressTable>();
+        const auto reports = finished.first().at(1).value<QList<SourceReport>>();
+        QCOMPARE(table.count(), ServerListReader::MaxAddresses);
+        QVERIFY(reports.first().truncated);
+        QVERIFY2(longestGap < 500, qPrintable(QStringLiteral("the loop stood still %1 ms").arg(longestGap)));
+    }
+
+    void listsGoThroughTheProxy()
+    {
+        // The responder plays the proxy: a request through a proxy names the
+        // whole address on its request line.
+        HttpResponder proxy;
+        proxy.set(QStringLiteral("http://lists.invalid/q4"), {200, "127.0.0.1:28004\n", "text/plain", 0});
+        ServerSources sources;
+        QSignalSpy finished(&sources, &ServerSources::finished);
+        SourcePlan plan;
+        plan.listUrls = {QUrl(QStringLiteral("http://lists.invalid/q4"))};
+        plan.proxy = httpProxy(true, QStringLiteral("127.0.0.1:%1").arg(proxy.url({}).port()));
+        QVERIFY(!sources.start(plan, PoolPort + 400));
+        QTRY_COMPARE_WITH_TIMEOUT(finished.count(), 1, 5000);
+        QCOMPARE(endpoints(finished.first().at(0).value<AddressTable>()), QStringList{"127.0.0.1:28004"});
+        QVERIFY(proxy.lastRequest().startsWith("GET http://lists.invalid/q4 "));
+
+        QCOMPARE(httpProxy(false, QStringLiteral("proxy:3128")).type(), QNetworkProxy::NoProxy);
+        QCOMPARE(httpProxy(true, QString()).type(), QNetworkProxy::NoProxy);
+        const QNetworkProxy named = httpProxy(true, QStringLiteral("http://user:pw@proxy.lan:3128"));
+        QCOMPARE(named.type(), QNetworkProxy::HttpProxy);
+        QCOMPARE(named.hostName(), QStringLiteral("proxy.lan"));
+        QCOMPARE(named.port(), 3128);
+        QCOMPARE(named.user(), QStringLiteral("user"));
+        QCOMPARE(httpProxy(true, QStringLiteral("proxy.lan")).port(), 8080);
+    }
+
+    void laterMastersMovePastTakenPorts()
+    {
+        SimFleet a(fleetOf(2, 26600));
+        SimFleet b(fleetOf(3, 26650));
+        QVERIFY(!a.start());
+        QVERIFY(!b.start());
+        const QuerySpeed::PortPlan ports{1, PoolPort + 500};
+        QUdpSocket squatter;
+        QVERIFY(squatter.bind(QHostAddress::AnyIPv4, quint16(ports.masterPort() + 1)));
+        QuerySession session;
+        session.setPool(ports);
+        QSignalSpy finished(&session, &QuerySession::finished);
+        SourcePlan plan;
+        plan.masters = {masterAt(26600), masterAt(26650)};
+        QVERIFY(!session.startSources(plan));
+        QTRY_COMPARE_WITH_TIMEOUT(finished.count(), 1, 6000);
+        QCOMPARE(session.addresses().count(), 5);
+        // The first master's port is the documented one: taken, nothing runs.
+        QUdpSocket firstSquatter;
+        QVERIFY(firstSquatter.bind(QHostAddress::AnyIPv4, quint16(ports.masterPort())));
+        const auto error = session.startSources(plan);
+        QVERIFY(error);
+        QCOMPARE(error->kind, QueryError::Kind::PortUnavailable);
+    }
+
+    void theLanIsSearchedByBroadcast()
+    {
+        // A fleet whose servers sit on the first two game ports.
+        SimFleet lan(fleetOf(2, LanQuery::FirstGamePort - 1));
+        if (const auto error = lan.start())
+            QSKIP(qPrintable(QStringLiteral("the game ports are taken here: %1").arg(*error)));
+        QuerySession session;
+        session.setPool({1, PoolPort + 600});
+        Answers answers(session);
+        QSignalSpy finished(&session, &QuerySession::finished);
+        QSignalSpy phases(&session, &QuerySession::phaseChanged);
+        QElapsedTimer clock;
+        clock.start();
+        // Twice the same network: each server is listed once.
+        QVERIFY(!session.startLan({QHostAddress::LocalHost, QHostAddress::LocalHost}));
+        QCOMPARE(session.phase(), QuerySession::Phase::Broadcasting);
+        QTRY_COMPARE_WITH_TIMEOUT(finished.count(), 1, LanQuery::WaitMs + 1000);
+        QVERIFY(clock.elapsed() >= LanQuery::WaitMs - 50);
+        QCOMPARE(answers.endpoints, fleetEndpoints(lan));
+        QCOMPARE(session.lan().sentCount(), 16);
+        QCOMPARE(lan.infoRequests(), 4);
+        QVERIFY(!session.isRunning());
+    }
+};
+
+QTEST_GUILESS_MAIN(TestServerSources)
+#include "tst_serversources.moc"
