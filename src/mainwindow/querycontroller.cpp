@@ -92,6 +92,7 @@ void QueryController::startMasterQuery()
         names.append(master.host);
     for (const QUrl& url : plan.listUrls)
         names.append(url.host());
+    names.removeDuplicates();
     m_sourceNames = names.join(QStringLiteral(", "));
     if (const auto error = m_session.startSources(plan))
         fail(*error);

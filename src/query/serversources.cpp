@@ -85,7 +85,7 @@ std::optional<QueryError> ServerSources::start(const SourcePlan& plan, quint16 f
             return error;
         }
         const int index = int(m_reports.size());
-        m_reports.append(reportOf(SourceReport::Kind::Master, master.host));
+        m_reports.append(reportOf(SourceReport::Kind::Master, masterAddressText(master)));
         m_tables.append(AddressTable());
         ++m_pending;
         if (error) {

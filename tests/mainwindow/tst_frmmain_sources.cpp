@@ -1,0 +1,125 @@
+#include "fleet.h"
+#include "knownservers.h"
+#include "lanquery.h"
+#include "querycontroller.h"
+#include "testwindow.h"
+
+#include <QDateTime>
+#include <QSignalSpy>
+#include <QTest>
+
+namespace {
+
+constexpr quint16 StartPort = 43800;
+
+QString masters(quint16 first, quint16 second)
+{
+    return QStringLiteral("127.0.0.1:%1, 127.0.0.1:%2").arg(first).arg(second);
+}
+
+int listedRows(const TestWindow& w)
+{
+    return w.visible("lstServerList")->rowCount();
+}
+
+} // namespace
+
+class TestFrmMainSources final : public QObject {
+    Q_OBJECT
+
+private slots:
+    void aDeadMasterASecondOneAndKnownServersMakeOneList()
+    {
+        SimFleet dead(fleetOf(4, 25600));
+        SimFleet alive(fleetOf(6, 25700));
+        QVERIFY(!dead.start());
+        QVERIFY(!alive.start());
+        dead.setMasterSilent(true);
+        TestWindow w(25600, StartPort, [](SettingsStore& settings) {
+            settings.save(u"MasterServer", masters(25600, 25700));
+        });
+        // Known from an earlier day: one of the dead master's servers, and
+        // one the live master lists too.
+        const qint64 now = QDateTime::currentSecsSinceEpoch();
+        const QString known = w.dataFile(QStringLiteral("servers.dat"));
+        QVERIFY(KnownServers::writeFile(
+            known, {KnownServers::Server{QStringLiteral("127.0.0.1"), dead.servers().at(2).port, {}, now - 100, 0},
+                    KnownServers::Server{QStringLiteral("127.0.0.1"), alive.servers().at(0).port, {}, now - 100, 0}}));
+
+        QSignalSpy statuses(&w.window->queries(), &QueryController::status);
+        QTest::mouseClick(w.button("cmdGet"), Qt::LeftButton);
+        QCOMPARE(w.status(), QStringLiteral("Requesting Server List from\n127.0.0.1"));
+        QTRY_COMPARE_WITH_TIMEOUT(w.status(), QStringLiteral("Done"), 5000);
+        QStringList shown;
+        for (const auto& arguments : statuses)
+            shown.append(arguments.at(0).toString());
+        QVERIFY(shown.contains(QStringLiteral("Querying 7 Servers...\nNo list from 127.0.0.1:25600")));
+        QCOMPARE(listedRows(w), 7);
+        QCOMPARE(alive.infoRequests(), 6);
+        QCOMPARE(w.desktop.messages.size(), 0);
+        const QString summary = w.find<QLabel>("lblStatus")->toolTip();
+        QCOMPARE(summary, QStringLiteral("127.0.0.1:25600: did not answer\n127.0.0.1:25700: 6 servers\n"
+                                         "known servers: 1 servers"));
+
+        // Every server that answered is known now, seen just now.
+        const KnownServers::List remembered = KnownServers::readFile(known);
+        QCOMPARE(remembered.size(), 7);
+        for (const KnownServers::Server& server : remembered) {
+            QVERIFY(server.lastSeen >= now);
+            QCOMPARE(server.misses, 0);
+            QVERIFY(!server.name.isEmpty());
+        }
+    }
+
+    void withEveryMasterDownTheKnownServersAreStillListed()
+    {
+        SimFleet a(fleetOf(3, 25800));
+        SimFleet b(fleetOf(3, 25850));
+        QVERIFY(!a.start());
+        QVERIFY(!b.start());
+        TestWindow w(25800, StartPort + 100, [](SettingsStore& settings) {
+            settings.save(u"MasterServer", masters(25800, 25850));
+        });
+        QVERIFY(w.queryMasters(6000));
+        QCOMPARE(listedRows(w), 6);
+
+        a.setMasterSilent(true);
+        b.setMasterSilent(true);
+        QVERIFY(w.queryMasters(8000));
+        QCOMPARE(listedRows(w), 6);
+        QCOMPARE(w.desktop.messages.size(), 0);
+
+        // Not wanted: the documented time-out with its Retry box.
+        w.settings().save(u"QueryKnownServers", QStringLiteral("0"));
+        w.desktop.messageAnswers.enqueue(QMessageBox::Cancel);
+        QTest::mouseClick(w.button("cmdGet"), Qt::LeftButton);
+        QTRY_COMPARE_WITH_TIMEOUT(w.desktop.messages.size(), 1, 6000);
+        QCOMPARE(w.desktop.messages.first().text, QStringLiteral("Master Servers Timed Out"));
+        QCOMPARE(w.status(), QStringLiteral("Master Servers Timed Out"));
+        QCOMPARE(listedRows(w), 0);
+    }
+
+    void queryLanListsTheLocalServers()
+    {
+        SimFleet lan(fleetOf(2, LanQuery::FirstGamePort - 1));
+        if (const auto error = lan.start())
+            QSKIP(qPrintable(QStringLiteral("the game ports are taken here: %1").arg(*error)));
+        TestWindow w(25900, StartPort + 200,
+                     [](SettingsStore& settings) { settings.save(u"LanBroadcast", QStringLiteral("127.0.0.1")); });
+        QPushButton* lanButton = w.button("cmdLan");
+        QVERIFY(lanButton->isVisible());
+        QCOMPARE(lanButton->text(), QStringLiteral("Query LAN"));
+        QTest::mouseClick(lanButton, Qt::LeftButton);
+        QCOMPARE(w.status(), QStringLiteral("Searching the local network..."));
+        // Cancel takes the LAN button's place while the search runs.
+        QVERIFY(!lanButton->isVisible());
+        QVERIFY(w.button("cmdCancel")->isVisible());
+        QTRY_COMPARE_WITH_TIMEOUT(w.status(), QStringLiteral("Done"), LanQuery::WaitMs + 2000);
+        QCOMPARE(listedRows(w), 2);
+        QVERIFY(lanButton->isVisible());
+        QCOMPARE(KnownServers::readFile(w.dataFile(QStringLiteral("servers.dat"))).size(), 2);
+    }
+};
+
+QTEST_MAIN(TestFrmMainSources)
+#include "tst_frmmain_sources.moc"
