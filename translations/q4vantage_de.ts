@@ -1,5 +1,21 @@
-<?xml version='1.0' encoding='utf-8'?>
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
 <TS version="2.1" language="de">
+<context>
+    <name>AddressListEditor</name>
+    <message>
+        <source>Add...</source>
+        <translation>Hinzufügen...</translation>
+    </message>
+    <message>
+        <source>Edit...</source>
+        <translation>Bearbeiten...</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Entfernen</translation>
+    </message>
+</context>
 <context>
     <name>CopyCommands</name>
     <message>
@@ -229,12 +245,16 @@
     <message numerus="yes">
         <source>%n servers found</source>
         <translation>
-            <numerusform>%n Server gefunden</numerusform><numerusform>%n Server gefunden</numerusform></translation>
+            <numerusform>%n Server gefunden</numerusform>
+            <numerusform>%n Server gefunden</numerusform>
+        </translation>
     </message>
     <message numerus="yes">
         <source>%n players found</source>
         <translation>
-            <numerusform>%n Spieler gefunden</numerusform><numerusform>%n Spieler gefunden</numerusform></translation>
+            <numerusform>%n Spieler gefunden</numerusform>
+            <numerusform>%n Spieler gefunden</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -427,6 +447,10 @@
         <source>You must type a port number between 1024 and 65512! (Default: 9000)</source>
         <translation>Sie müssen eine Portnummer zwischen 1024 und 65512 eingeben! (Standard: 9000)</translation>
     </message>
+    <message>
+        <source>Servers</source>
+        <translation>Server</translation>
+    </message>
 </context>
 <context>
     <name>JoinFlow</name>
@@ -594,6 +618,14 @@
         <source>Query Favourites</source>
         <translation>Favoriten anfragen</translation>
     </message>
+    <message>
+        <source>Query LAN</source>
+        <translation>LAN anfragen</translation>
+    </message>
+    <message>
+        <source>Find the servers of your local network</source>
+        <translation>Die Server Ihres lokalen Netzwerks finden</translation>
+    </message>
 </context>
 <context>
     <name>QueryController</name>
@@ -639,6 +671,36 @@
         <source>Querying %1 Servers...</source>
         <translation>Frage %1 Server ab...</translation>
     </message>
+    <message>
+        <source>No local network to search: no network interface can broadcast.</source>
+        <translation>Kein lokales Netzwerk zum Durchsuchen: keine Netzwerkschnittstelle kann senden (Broadcast).</translation>
+    </message>
+    <message>
+        <source>No list from %1</source>
+        <translation>Keine Liste von %1</translation>
+    </message>
+    <message>
+        <source>Searching the local network...</source>
+        <translation>Lokales Netzwerk wird durchsucht...</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1: %n servers</source>
+        <translation>
+<numerusform>%1: %n Server</numerusform><numerusform>%1: %n Server</numerusform></translation>
+    </message>
+    <message numerus="yes">
+        <source>(%n entries skipped)</source>
+        <translation>
+<numerusform>(%n Eintrag übersprungen)</numerusform><numerusform>(%n Einträge übersprungen)</numerusform></translation>
+    </message>
+    <message>
+        <source>(list cut at %1)</source>
+        <translation>(Liste nach %1 abgeschnitten)</translation>
+    </message>
 </context>
 <context>
     <name>QueryError</name>
@@ -671,6 +733,17 @@
     </message>
 </context>
 <context>
+    <name>ServerListFetch</name>
+    <message>
+        <source>no reply within %1 seconds</source>
+        <translation>keine Antwort innerhalb von %1 Sekunden</translation>
+    </message>
+    <message>
+        <source>the reply is larger than %1 MiB</source>
+        <translation>die Antwort ist größer als %1 MiB</translation>
+    </message>
+</context>
+<context>
     <name>ServerRulesModel</name>
     <message>
         <source>True</source>
@@ -686,6 +759,78 @@
     <message>
         <source>Server Name:</source>
         <translation>Servername:</translation>
+    </message>
+</context>
+<context>
+    <name>ServerSources</name>
+    <message>
+        <source>did not answer</source>
+        <translation>hat nicht geantwortet</translation>
+    </message>
+    <message>
+        <source>known servers</source>
+        <translation>bekannte Server</translation>
+    </message>
+</context>
+<context>
+    <name>ServersTab</name>
+    <message>
+        <source>Master servers, all asked at once:</source>
+        <translation>Master-Server, alle gleichzeitig angefragt:</translation>
+    </message>
+    <message>
+        <source>Master Server</source>
+        <translation>Master-Server</translation>
+    </message>
+    <message>
+        <source>Host name or address of a master server, with :port when it is not 27650:</source>
+        <translation>Hostname oder Adresse eines Master-Servers, mit :Port, wenn dieser nicht 27650 ist:</translation>
+    </message>
+    <message>
+        <source>"%1" is not a master server address. Type a host name or an IP address, followed by a colon and a port from 1 to 65535 when the port is not 27650.</source>
+        <translation>„%1“ ist keine Master-Server-Adresse. Geben Sie einen Hostnamen oder eine IP-Adresse ein, gefolgt von einem Doppelpunkt und einem Port von 1 bis 65535, wenn der Port nicht 27650 ist.</translation>
+    </message>
+    <message>
+        <source>Server lists on the web, fetched alongside:</source>
+        <translation>Serverlisten im Web, gleichzeitig abgerufen:</translation>
+    </message>
+    <message>
+        <source>Server List</source>
+        <translation>Serverliste</translation>
+    </message>
+    <message>
+        <source>Web address of a server list (JSON or one host:port per line):</source>
+        <translation>Webadresse einer Serverliste (JSON oder ein Host:Port pro Zeile):</translation>
+    </message>
+    <message>
+        <source>"%1" is not a web address. Type an address that begins with http:// or https://.</source>
+        <translation>„%1“ ist keine Webadresse. Geben Sie eine Adresse ein, die mit http:// oder https:// beginnt.</translation>
+    </message>
+    <message>
+        <source>Remember servers that answered and query them again</source>
+        <translation>Server merken, die geantwortet haben, und erneut anfragen</translation>
+    </message>
+    <message>
+        <source>Forget known servers</source>
+        <translation>Bekannte Server vergessen</translation>
+    </message>
+    <message numerus="yes">
+        <source>Forget the %n servers that answered before? Query Masters asks them again only when a master or a server list names them.</source>
+        <translation>
+<numerusform>Den %n Server vergessen, der früher geantwortet hat? Die Master-Anfrage fragt ihn nur wieder an, wenn ein Master oder eine Serverliste ihn nennt.</numerusform><numerusform>Die %n Server vergessen, die früher geantwortet haben? Die Master-Anfrage fragt sie nur wieder an, wenn ein Master oder eine Serverliste sie nennt.</numerusform></translation>
+    </message>
+    <message>
+        <source>The known servers could not be removed from %1.</source>
+        <translation>Die bekannten Server konnten nicht aus %1 entfernt werden.</translation>
+    </message>
+    <message>
+        <source>No servers known yet.</source>
+        <translation>Noch keine Server bekannt.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n servers known.</source>
+        <translation>
+<numerusform>%n Server bekannt.</numerusform><numerusform>%n Server bekannt.</numerusform></translation>
     </message>
 </context>
 </TS>

@@ -1,5 +1,21 @@
-<?xml version='1.0' encoding='utf-8'?>
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
 <TS version="2.1" language="en_US" sourcelanguage="en_GB">
+<context>
+    <name>AddressListEditor</name>
+    <message>
+        <source>Add...</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>Edit...</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation type="unfinished" />
+    </message>
+</context>
 <context>
     <name>CopyCommands</name>
     <message>
@@ -431,6 +447,10 @@
         <source>You must type a port number between 1024 and 65512! (Default: 9000)</source>
         <translation type="unfinished" />
     </message>
+    <message>
+        <source>Servers</source>
+        <translation type="unfinished" />
+    </message>
 </context>
 <context>
     <name>JoinFlow</name>
@@ -598,6 +618,14 @@
         <source>Query Masters</source>
         <translation type="unfinished" />
     </message>
+    <message>
+        <source>Query LAN</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>Find the servers of your local network</source>
+        <translation type="unfinished" />
+    </message>
 </context>
 <context>
     <name>QueryController</name>
@@ -640,6 +668,36 @@
         <source>Querying %1 Servers...</source>
         <translation type="unfinished" />
     </message>
+    <message>
+        <source>No local network to search: no network interface can broadcast.</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>No list from %1</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>Searching the local network...</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation type="unfinished" />
+    </message>
+    <message numerus="yes">
+        <source>%1: %n servers</source>
+        <translation>
+<numerusform>%1: %n server</numerusform><numerusform>%1: %n servers</numerusform></translation>
+    </message>
+    <message numerus="yes">
+        <source>(%n entries skipped)</source>
+        <translation>
+<numerusform>(%n entry skipped)</numerusform><numerusform>(%n entries skipped)</numerusform></translation>
+    </message>
+    <message>
+        <source>(list cut at %1)</source>
+        <translation type="unfinished" />
+    </message>
 </context>
 <context>
     <name>QueryError</name>
@@ -672,6 +730,17 @@
     </message>
 </context>
 <context>
+    <name>ServerListFetch</name>
+    <message>
+        <source>no reply within %1 seconds</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>the reply is larger than %1 MiB</source>
+        <translation type="unfinished" />
+    </message>
+</context>
+<context>
     <name>ServerRulesModel</name>
     <message>
         <source>True</source>
@@ -687,6 +756,78 @@
     <message>
         <source>Server Name:</source>
         <translation type="unfinished" />
+    </message>
+</context>
+<context>
+    <name>ServerSources</name>
+    <message>
+        <source>did not answer</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>known servers</source>
+        <translation type="unfinished" />
+    </message>
+</context>
+<context>
+    <name>ServersTab</name>
+    <message>
+        <source>Master servers, all asked at once:</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>Master Server</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>Host name or address of a master server, with :port when it is not 27650:</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>"%1" is not a master server address. Type a host name or an IP address, followed by a colon and a port from 1 to 65535 when the port is not 27650.</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>Server lists on the web, fetched alongside:</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>Server List</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>Web address of a server list (JSON or one host:port per line):</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>"%1" is not a web address. Type an address that begins with http:// or https://.</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>Remember servers that answered and query them again</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>Forget known servers</source>
+        <translation type="unfinished" />
+    </message>
+    <message numerus="yes">
+        <source>Forget the %n servers that answered before? Query Masters asks them again only when a master or a server list names them.</source>
+        <translation>
+<numerusform>Forget the server that answered before? Query Masters asks it again only when a master or a server list names it.</numerusform><numerusform>Forget the %n servers that answered before? Query Masters asks them again only when a master or a server list names them.</numerusform></translation>
+    </message>
+    <message>
+        <source>The known servers could not be removed from %1.</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>No servers known yet.</source>
+        <translation type="unfinished" />
+    </message>
+    <message numerus="yes">
+        <source>%n servers known.</source>
+        <translation>
+<numerusform>%n server known.</numerusform><numerusform>%n servers known.</numerusform></translation>
     </message>
 </context>
 </TS>

@@ -1,5 +1,21 @@
-<?xml version='1.0' encoding='utf-8'?>
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
 <TS version="2.1" language="fr">
+<context>
+    <name>AddressListEditor</name>
+    <message>
+        <source>Add...</source>
+        <translation>Ajouter...</translation>
+    </message>
+    <message>
+        <source>Edit...</source>
+        <translation>Modifier...</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Supprimer</translation>
+    </message>
+</context>
 <context>
     <name>CopyCommands</name>
     <message>
@@ -229,12 +245,16 @@
     <message numerus="yes">
         <source>%n servers found</source>
         <translation>
-            <numerusform>%n serveur trouvé</numerusform><numerusform>%n serveurs trouvés</numerusform></translation>
+            <numerusform>%n serveur trouvé</numerusform>
+            <numerusform>%n serveurs trouvés</numerusform>
+        </translation>
     </message>
     <message numerus="yes">
         <source>%n players found</source>
         <translation>
-            <numerusform>%n joueur trouvé</numerusform><numerusform>%n joueurs trouvés</numerusform></translation>
+            <numerusform>%n joueur trouvé</numerusform>
+            <numerusform>%n joueurs trouvés</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -427,6 +447,10 @@
         <source>You must type a port number between 1024 and 65512! (Default: 9000)</source>
         <translation>Vous devez saisir un numéro de port entre 1024 et 65512 ! (Par défaut : 9000)</translation>
     </message>
+    <message>
+        <source>Servers</source>
+        <translation>Serveurs</translation>
+    </message>
 </context>
 <context>
     <name>JoinFlow</name>
@@ -594,6 +618,14 @@
         <source>Query Favourites</source>
         <translation>Rechercher Favoris</translation>
     </message>
+    <message>
+        <source>Query LAN</source>
+        <translation>Rechercher LAN</translation>
+    </message>
+    <message>
+        <source>Find the servers of your local network</source>
+        <translation>Trouver les serveurs de votre réseau local</translation>
+    </message>
 </context>
 <context>
     <name>QueryController</name>
@@ -639,6 +671,36 @@
         <source>Querying %1 Servers...</source>
         <translation>Recherche sur %1 serveurs...</translation>
     </message>
+    <message>
+        <source>No local network to search: no network interface can broadcast.</source>
+        <translation>Aucun réseau local à parcourir : aucune interface réseau ne peut diffuser.</translation>
+    </message>
+    <message>
+        <source>No list from %1</source>
+        <translation>Aucune liste de %1</translation>
+    </message>
+    <message>
+        <source>Searching the local network...</source>
+        <translation>Recherche sur le réseau local...</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1 : %2</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1: %n servers</source>
+        <translation>
+<numerusform>%1 : %n serveur</numerusform><numerusform>%1 : %n serveurs</numerusform></translation>
+    </message>
+    <message numerus="yes">
+        <source>(%n entries skipped)</source>
+        <translation>
+<numerusform>(%n entrée ignorée)</numerusform><numerusform>(%n entrées ignorées)</numerusform></translation>
+    </message>
+    <message>
+        <source>(list cut at %1)</source>
+        <translation>(liste coupée à %1)</translation>
+    </message>
 </context>
 <context>
     <name>QueryError</name>
@@ -671,6 +733,17 @@
     </message>
 </context>
 <context>
+    <name>ServerListFetch</name>
+    <message>
+        <source>no reply within %1 seconds</source>
+        <translation>aucune réponse en %1 secondes</translation>
+    </message>
+    <message>
+        <source>the reply is larger than %1 MiB</source>
+        <translation>la réponse dépasse %1 Mio</translation>
+    </message>
+</context>
+<context>
     <name>ServerRulesModel</name>
     <message>
         <source>True</source>
@@ -686,6 +759,78 @@
     <message>
         <source>Server Name:</source>
         <translation>Nom du serveur :</translation>
+    </message>
+</context>
+<context>
+    <name>ServerSources</name>
+    <message>
+        <source>did not answer</source>
+        <translation>n'a pas répondu</translation>
+    </message>
+    <message>
+        <source>known servers</source>
+        <translation>serveurs connus</translation>
+    </message>
+</context>
+<context>
+    <name>ServersTab</name>
+    <message>
+        <source>Master servers, all asked at once:</source>
+        <translation>Serveurs maîtres, tous interrogés ensemble :</translation>
+    </message>
+    <message>
+        <source>Master Server</source>
+        <translation>Serveur maître</translation>
+    </message>
+    <message>
+        <source>Host name or address of a master server, with :port when it is not 27650:</source>
+        <translation>Nom d'hôte ou adresse d'un serveur maître, avec :port s'il n'est pas 27650 :</translation>
+    </message>
+    <message>
+        <source>"%1" is not a master server address. Type a host name or an IP address, followed by a colon and a port from 1 to 65535 when the port is not 27650.</source>
+        <translation>« %1 » n'est pas une adresse de serveur maître. Tapez un nom d'hôte ou une adresse IP, suivi de deux-points et d'un port de 1 à 65535 si le port n'est pas 27650.</translation>
+    </message>
+    <message>
+        <source>Server lists on the web, fetched alongside:</source>
+        <translation>Listes de serveurs sur le web, chargées en même temps :</translation>
+    </message>
+    <message>
+        <source>Server List</source>
+        <translation>Liste de serveurs</translation>
+    </message>
+    <message>
+        <source>Web address of a server list (JSON or one host:port per line):</source>
+        <translation>Adresse web d'une liste de serveurs (JSON ou un hôte:port par ligne) :</translation>
+    </message>
+    <message>
+        <source>"%1" is not a web address. Type an address that begins with http:// or https://.</source>
+        <translation>« %1 » n'est pas une adresse web. Tapez une adresse qui commence par http:// ou https://.</translation>
+    </message>
+    <message>
+        <source>Remember servers that answered and query them again</source>
+        <translation>Retenir les serveurs qui ont répondu et les interroger à nouveau</translation>
+    </message>
+    <message>
+        <source>Forget known servers</source>
+        <translation>Oublier les serveurs connus</translation>
+    </message>
+    <message numerus="yes">
+        <source>Forget the %n servers that answered before? Query Masters asks them again only when a master or a server list names them.</source>
+        <translation>
+<numerusform>Oublier le serveur qui a répondu auparavant ? La recherche ne l'interrogera à nouveau que si un serveur maître ou une liste le nomme.</numerusform><numerusform>Oublier les %n serveurs qui ont répondu auparavant ? La recherche ne les interrogera à nouveau que si un serveur maître ou une liste les nomme.</numerusform></translation>
+    </message>
+    <message>
+        <source>The known servers could not be removed from %1.</source>
+        <translation>Les serveurs connus n'ont pas pu être supprimés de %1.</translation>
+    </message>
+    <message>
+        <source>No servers known yet.</source>
+        <translation>Aucun serveur connu pour le moment.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n servers known.</source>
+        <translation>
+<numerusform>%n serveur connu.</numerusform><numerusform>%n serveurs connus.</numerusform></translation>
     </message>
 </context>
 </TS>

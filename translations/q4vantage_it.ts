@@ -1,5 +1,21 @@
-<?xml version='1.0' encoding='utf-8'?>
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
 <TS version="2.1" language="it">
+<context>
+    <name>AddressListEditor</name>
+    <message>
+        <source>Add...</source>
+        <translation>Aggiungi...</translation>
+    </message>
+    <message>
+        <source>Edit...</source>
+        <translation>Modifica...</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Rimuovi</translation>
+    </message>
+</context>
 <context>
     <name>CopyCommands</name>
     <message>
@@ -229,12 +245,16 @@
     <message numerus="yes">
         <source>%n servers found</source>
         <translation>
-            <numerusform>%n server trovato</numerusform><numerusform>%n server trovati</numerusform></translation>
+            <numerusform>%n server trovato</numerusform>
+            <numerusform>%n server trovati</numerusform>
+        </translation>
     </message>
     <message numerus="yes">
         <source>%n players found</source>
         <translation>
-            <numerusform>%n giocatore trovato</numerusform><numerusform>%n giocatori trovati</numerusform></translation>
+            <numerusform>%n giocatore trovato</numerusform>
+            <numerusform>%n giocatori trovati</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -427,6 +447,10 @@
         <source>You must type a port number between 1024 and 65512! (Default: 9000)</source>
         <translation>Devi inserire un numero di porta tra 1024 e 65512! (Predefinito: 9000)</translation>
     </message>
+    <message>
+        <source>Servers</source>
+        <translation>Server</translation>
+    </message>
 </context>
 <context>
     <name>JoinFlow</name>
@@ -594,6 +618,14 @@
         <source>Query Favourites</source>
         <translation>Interroga Favoriti</translation>
     </message>
+    <message>
+        <source>Query LAN</source>
+        <translation>Interroga LAN</translation>
+    </message>
+    <message>
+        <source>Find the servers of your local network</source>
+        <translation>Trova i server della tua rete locale</translation>
+    </message>
 </context>
 <context>
     <name>QueryController</name>
@@ -639,6 +671,36 @@
         <source>Querying %1 Servers...</source>
         <translation>Interrogazione di %1 server...</translation>
     </message>
+    <message>
+        <source>No local network to search: no network interface can broadcast.</source>
+        <translation>Nessuna rete locale da cercare: nessuna interfaccia di rete può trasmettere in broadcast.</translation>
+    </message>
+    <message>
+        <source>No list from %1</source>
+        <translation>Nessuna lista da %1</translation>
+    </message>
+    <message>
+        <source>Searching the local network...</source>
+        <translation>Ricerca nella rete locale...</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1: %n servers</source>
+        <translation>
+<numerusform>%1: %n server</numerusform><numerusform>%1: %n server</numerusform></translation>
+    </message>
+    <message numerus="yes">
+        <source>(%n entries skipped)</source>
+        <translation>
+<numerusform>(%n voce saltata)</numerusform><numerusform>(%n voci saltate)</numerusform></translation>
+    </message>
+    <message>
+        <source>(list cut at %1)</source>
+        <translation>(lista tagliata a %1)</translation>
+    </message>
 </context>
 <context>
     <name>QueryError</name>
@@ -671,6 +733,17 @@
     </message>
 </context>
 <context>
+    <name>ServerListFetch</name>
+    <message>
+        <source>no reply within %1 seconds</source>
+        <translation>nessuna risposta entro %1 secondi</translation>
+    </message>
+    <message>
+        <source>the reply is larger than %1 MiB</source>
+        <translation>la risposta supera %1 MiB</translation>
+    </message>
+</context>
+<context>
     <name>ServerRulesModel</name>
     <message>
         <source>True</source>
@@ -686,6 +759,78 @@
     <message>
         <source>Server Name:</source>
         <translation>Nome del server:</translation>
+    </message>
+</context>
+<context>
+    <name>ServerSources</name>
+    <message>
+        <source>did not answer</source>
+        <translation>non ha risposto</translation>
+    </message>
+    <message>
+        <source>known servers</source>
+        <translation>server conosciuti</translation>
+    </message>
+</context>
+<context>
+    <name>ServersTab</name>
+    <message>
+        <source>Master servers, all asked at once:</source>
+        <translation>Server master, interrogati tutti insieme:</translation>
+    </message>
+    <message>
+        <source>Master Server</source>
+        <translation>Server master</translation>
+    </message>
+    <message>
+        <source>Host name or address of a master server, with :port when it is not 27650:</source>
+        <translation>Nome host o indirizzo di un server master, con :porta se non è 27650:</translation>
+    </message>
+    <message>
+        <source>"%1" is not a master server address. Type a host name or an IP address, followed by a colon and a port from 1 to 65535 when the port is not 27650.</source>
+        <translation>"%1" non è un indirizzo di server master. Digita un nome host o un indirizzo IP, seguito da due punti e da una porta da 1 a 65535 se la porta non è 27650.</translation>
+    </message>
+    <message>
+        <source>Server lists on the web, fetched alongside:</source>
+        <translation>Liste di server sul web, scaricate insieme:</translation>
+    </message>
+    <message>
+        <source>Server List</source>
+        <translation>Lista di server</translation>
+    </message>
+    <message>
+        <source>Web address of a server list (JSON or one host:port per line):</source>
+        <translation>Indirizzo web di una lista di server (JSON o un host:porta per riga):</translation>
+    </message>
+    <message>
+        <source>"%1" is not a web address. Type an address that begins with http:// or https://.</source>
+        <translation>"%1" non è un indirizzo web. Digita un indirizzo che inizia con http:// o https://.</translation>
+    </message>
+    <message>
+        <source>Remember servers that answered and query them again</source>
+        <translation>Ricorda i server che hanno risposto e interrogali di nuovo</translation>
+    </message>
+    <message>
+        <source>Forget known servers</source>
+        <translation>Dimentica i server conosciuti</translation>
+    </message>
+    <message numerus="yes">
+        <source>Forget the %n servers that answered before? Query Masters asks them again only when a master or a server list names them.</source>
+        <translation>
+<numerusform>Dimenticare il server che ha risposto in passato? L'interrogazione lo chiederà di nuovo solo se un master o una lista lo nomina.</numerusform><numerusform>Dimenticare i %n server che hanno risposto in passato? L'interrogazione li chiederà di nuovo solo se un master o una lista li nomina.</numerusform></translation>
+    </message>
+    <message>
+        <source>The known servers could not be removed from %1.</source>
+        <translation>Non è stato possibile rimuovere i server conosciuti da %1.</translation>
+    </message>
+    <message>
+        <source>No servers known yet.</source>
+        <translation>Nessun server ancora conosciuto.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n servers known.</source>
+        <translation>
+<numerusform>%n server conosciuto.</numerusform><numerusform>%n server conosciuti.</numerusform></translation>
     </message>
 </context>
 </TS>

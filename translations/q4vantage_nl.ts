@@ -1,5 +1,21 @@
-<?xml version='1.0' encoding='utf-8'?>
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
 <TS version="2.1" language="nl">
+<context>
+    <name>AddressListEditor</name>
+    <message>
+        <source>Add...</source>
+        <translation>Toevoegen...</translation>
+    </message>
+    <message>
+        <source>Edit...</source>
+        <translation>Bewerken...</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Verwijderen</translation>
+    </message>
+</context>
 <context>
     <name>CopyCommands</name>
     <message>
@@ -229,12 +245,16 @@
     <message numerus="yes">
         <source>%n servers found</source>
         <translation>
-            <numerusform>%n server gevonden</numerusform><numerusform>%n servers gevonden</numerusform></translation>
+            <numerusform>%n server gevonden</numerusform>
+            <numerusform>%n servers gevonden</numerusform>
+        </translation>
     </message>
     <message numerus="yes">
         <source>%n players found</source>
         <translation>
-            <numerusform>%n speler gevonden</numerusform><numerusform>%n spelers gevonden</numerusform></translation>
+            <numerusform>%n speler gevonden</numerusform>
+            <numerusform>%n spelers gevonden</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -427,6 +447,10 @@
         <source>You must type a port number between 1024 and 65512! (Default: 9000)</source>
         <translation>U moet een poortnummer tussen 1024 en 65512 invoeren! (Standaard: 9000)</translation>
     </message>
+    <message>
+        <source>Servers</source>
+        <translation>Servers</translation>
+    </message>
 </context>
 <context>
     <name>JoinFlow</name>
@@ -594,6 +618,14 @@
         <source>Query Favourites</source>
         <translation>Query Favorieten</translation>
     </message>
+    <message>
+        <source>Query LAN</source>
+        <translation>LAN doorzoeken</translation>
+    </message>
+    <message>
+        <source>Find the servers of your local network</source>
+        <translation>De servers van uw lokale netwerk vinden</translation>
+    </message>
 </context>
 <context>
     <name>QueryController</name>
@@ -639,6 +671,36 @@
         <source>Querying %1 Servers...</source>
         <translation>%1 servers worden bevraagd...</translation>
     </message>
+    <message>
+        <source>No local network to search: no network interface can broadcast.</source>
+        <translation>Geen lokaal netwerk om te doorzoeken: geen netwerkinterface kan broadcasten.</translation>
+    </message>
+    <message>
+        <source>No list from %1</source>
+        <translation>Geen lijst van %1</translation>
+    </message>
+    <message>
+        <source>Searching the local network...</source>
+        <translation>Lokaal netwerk wordt doorzocht...</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1: %n servers</source>
+        <translation>
+<numerusform>%1: %n server</numerusform><numerusform>%1: %n servers</numerusform></translation>
+    </message>
+    <message numerus="yes">
+        <source>(%n entries skipped)</source>
+        <translation>
+<numerusform>(%n regel overgeslagen)</numerusform><numerusform>(%n regels overgeslagen)</numerusform></translation>
+    </message>
+    <message>
+        <source>(list cut at %1)</source>
+        <translation>(lijst afgekapt op %1)</translation>
+    </message>
 </context>
 <context>
     <name>QueryError</name>
@@ -671,6 +733,17 @@
     </message>
 </context>
 <context>
+    <name>ServerListFetch</name>
+    <message>
+        <source>no reply within %1 seconds</source>
+        <translation>geen antwoord binnen %1 seconden</translation>
+    </message>
+    <message>
+        <source>the reply is larger than %1 MiB</source>
+        <translation>het antwoord is groter dan %1 MiB</translation>
+    </message>
+</context>
+<context>
     <name>ServerRulesModel</name>
     <message>
         <source>True</source>
@@ -686,6 +759,78 @@
     <message>
         <source>Server Name:</source>
         <translation>Servernaam:</translation>
+    </message>
+</context>
+<context>
+    <name>ServerSources</name>
+    <message>
+        <source>did not answer</source>
+        <translation>heeft niet geantwoord</translation>
+    </message>
+    <message>
+        <source>known servers</source>
+        <translation>bekende servers</translation>
+    </message>
+</context>
+<context>
+    <name>ServersTab</name>
+    <message>
+        <source>Master servers, all asked at once:</source>
+        <translation>Masterservers, allemaal tegelijk gevraagd:</translation>
+    </message>
+    <message>
+        <source>Master Server</source>
+        <translation>Masterserver</translation>
+    </message>
+    <message>
+        <source>Host name or address of a master server, with :port when it is not 27650:</source>
+        <translation>Hostnaam of adres van een masterserver, met :poort als die niet 27650 is:</translation>
+    </message>
+    <message>
+        <source>"%1" is not a master server address. Type a host name or an IP address, followed by a colon and a port from 1 to 65535 when the port is not 27650.</source>
+        <translation>"%1" is geen adres van een masterserver. Typ een hostnaam of een IP-adres, gevolgd door een dubbele punt en een poort van 1 tot 65535 als de poort niet 27650 is.</translation>
+    </message>
+    <message>
+        <source>Server lists on the web, fetched alongside:</source>
+        <translation>Serverlijsten op het web, tegelijk opgehaald:</translation>
+    </message>
+    <message>
+        <source>Server List</source>
+        <translation>Serverlijst</translation>
+    </message>
+    <message>
+        <source>Web address of a server list (JSON or one host:port per line):</source>
+        <translation>Webadres van een serverlijst (JSON of één host:poort per regel):</translation>
+    </message>
+    <message>
+        <source>"%1" is not a web address. Type an address that begins with http:// or https://.</source>
+        <translation>"%1" is geen webadres. Typ een adres dat begint met http:// of https://.</translation>
+    </message>
+    <message>
+        <source>Remember servers that answered and query them again</source>
+        <translation>Servers onthouden die antwoordden en ze opnieuw bevragen</translation>
+    </message>
+    <message>
+        <source>Forget known servers</source>
+        <translation>Bekende servers vergeten</translation>
+    </message>
+    <message numerus="yes">
+        <source>Forget the %n servers that answered before? Query Masters asks them again only when a master or a server list names them.</source>
+        <translation>
+<numerusform>De %n server vergeten die eerder antwoordde? Query Masters vraagt hem alleen opnieuw als een master of een serverlijst hem noemt.</numerusform><numerusform>De %n servers vergeten die eerder antwoordden? Query Masters vraagt ze alleen opnieuw als een master of een serverlijst ze noemt.</numerusform></translation>
+    </message>
+    <message>
+        <source>The known servers could not be removed from %1.</source>
+        <translation>De bekende servers konden niet uit %1 worden verwijderd.</translation>
+    </message>
+    <message>
+        <source>No servers known yet.</source>
+        <translation>Nog geen servers bekend.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n servers known.</source>
+        <translation>
+<numerusform>%n server bekend.</numerusform><numerusform>%n servers bekend.</numerusform></translation>
     </message>
 </context>
 </TS>

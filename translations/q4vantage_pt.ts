@@ -1,5 +1,21 @@
-<?xml version='1.0' encoding='utf-8'?>
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
 <TS version="2.1" language="pt">
+<context>
+    <name>AddressListEditor</name>
+    <message>
+        <source>Add...</source>
+        <translation>Adicionar...</translation>
+    </message>
+    <message>
+        <source>Edit...</source>
+        <translation>Editar...</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Remover</translation>
+    </message>
+</context>
 <context>
     <name>CopyCommands</name>
     <message>
@@ -229,12 +245,16 @@
     <message numerus="yes">
         <source>%n servers found</source>
         <translation>
-            <numerusform>%n servidor encontrado</numerusform><numerusform>%n servidores encontrados</numerusform></translation>
+            <numerusform>%n servidor encontrado</numerusform>
+            <numerusform>%n servidores encontrados</numerusform>
+        </translation>
     </message>
     <message numerus="yes">
         <source>%n players found</source>
         <translation>
-            <numerusform>%n jogador encontrado</numerusform><numerusform>%n jogadores encontrados</numerusform></translation>
+            <numerusform>%n jogador encontrado</numerusform>
+            <numerusform>%n jogadores encontrados</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -427,6 +447,10 @@
         <source>You must type a port number between 1024 and 65512! (Default: 9000)</source>
         <translation>Tem de escrever um número de porta entre 1024 e 65512! (Predefinição: 9000)</translation>
     </message>
+    <message>
+        <source>Servers</source>
+        <translation>Servidores</translation>
+    </message>
 </context>
 <context>
     <name>JoinFlow</name>
@@ -594,6 +618,14 @@
         <source>Query Favourites</source>
         <translation>Query Favoritos</translation>
     </message>
+    <message>
+        <source>Query LAN</source>
+        <translation>Procurar na LAN</translation>
+    </message>
+    <message>
+        <source>Find the servers of your local network</source>
+        <translation>Encontrar os servidores da sua rede local</translation>
+    </message>
 </context>
 <context>
     <name>QueryController</name>
@@ -639,6 +671,36 @@
         <source>Querying %1 Servers...</source>
         <translation>A consultar %1 servidores...</translation>
     </message>
+    <message>
+        <source>No local network to search: no network interface can broadcast.</source>
+        <translation>Nenhuma rede local para procurar: nenhuma interface de rede pode fazer broadcast.</translation>
+    </message>
+    <message>
+        <source>No list from %1</source>
+        <translation>Nenhuma lista de %1</translation>
+    </message>
+    <message>
+        <source>Searching the local network...</source>
+        <translation>A procurar na rede local...</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1: %n servers</source>
+        <translation>
+<numerusform>%1: %n servidor</numerusform><numerusform>%1: %n servidores</numerusform></translation>
+    </message>
+    <message numerus="yes">
+        <source>(%n entries skipped)</source>
+        <translation>
+<numerusform>(%n entrada ignorada)</numerusform><numerusform>(%n entradas ignoradas)</numerusform></translation>
+    </message>
+    <message>
+        <source>(list cut at %1)</source>
+        <translation>(lista cortada em %1)</translation>
+    </message>
 </context>
 <context>
     <name>QueryError</name>
@@ -671,6 +733,17 @@
     </message>
 </context>
 <context>
+    <name>ServerListFetch</name>
+    <message>
+        <source>no reply within %1 seconds</source>
+        <translation>sem resposta em %1 segundos</translation>
+    </message>
+    <message>
+        <source>the reply is larger than %1 MiB</source>
+        <translation>a resposta é maior que %1 MiB</translation>
+    </message>
+</context>
+<context>
     <name>ServerRulesModel</name>
     <message>
         <source>True</source>
@@ -686,6 +759,78 @@
     <message>
         <source>Server Name:</source>
         <translation>Nome do servidor:</translation>
+    </message>
+</context>
+<context>
+    <name>ServerSources</name>
+    <message>
+        <source>did not answer</source>
+        <translation>não respondeu</translation>
+    </message>
+    <message>
+        <source>known servers</source>
+        <translation>servidores conhecidos</translation>
+    </message>
+</context>
+<context>
+    <name>ServersTab</name>
+    <message>
+        <source>Master servers, all asked at once:</source>
+        <translation>Servidores mestre, consultados todos ao mesmo tempo:</translation>
+    </message>
+    <message>
+        <source>Master Server</source>
+        <translation>Servidor mestre</translation>
+    </message>
+    <message>
+        <source>Host name or address of a master server, with :port when it is not 27650:</source>
+        <translation>Nome ou endereço de um servidor mestre, com :porta quando não for 27650:</translation>
+    </message>
+    <message>
+        <source>"%1" is not a master server address. Type a host name or an IP address, followed by a colon and a port from 1 to 65535 when the port is not 27650.</source>
+        <translation>"%1" não é um endereço de servidor mestre. Escreva um nome ou endereço IP, seguido de dois pontos e de uma porta de 1 a 65535 quando a porta não for 27650.</translation>
+    </message>
+    <message>
+        <source>Server lists on the web, fetched alongside:</source>
+        <translation>Listas de servidores na web, obtidas ao mesmo tempo:</translation>
+    </message>
+    <message>
+        <source>Server List</source>
+        <translation>Lista de servidores</translation>
+    </message>
+    <message>
+        <source>Web address of a server list (JSON or one host:port per line):</source>
+        <translation>Endereço web de uma lista de servidores (JSON ou um host:porta por linha):</translation>
+    </message>
+    <message>
+        <source>"%1" is not a web address. Type an address that begins with http:// or https://.</source>
+        <translation>"%1" não é um endereço web. Escreva um endereço que comece por http:// ou https://.</translation>
+    </message>
+    <message>
+        <source>Remember servers that answered and query them again</source>
+        <translation>Lembrar os servidores que responderam e consultá-los de novo</translation>
+    </message>
+    <message>
+        <source>Forget known servers</source>
+        <translation>Esquecer servidores conhecidos</translation>
+    </message>
+    <message numerus="yes">
+        <source>Forget the %n servers that answered before? Query Masters asks them again only when a master or a server list names them.</source>
+        <translation>
+<numerusform>Esquecer o %n servidor que respondeu antes? Query Masters só o consulta de novo quando um mestre ou uma lista o indicar.</numerusform><numerusform>Esquecer os %n servidores que responderam antes? Query Masters só os consulta de novo quando um mestre ou uma lista os indicar.</numerusform></translation>
+    </message>
+    <message>
+        <source>The known servers could not be removed from %1.</source>
+        <translation>Não foi possível remover os servidores conhecidos de %1.</translation>
+    </message>
+    <message>
+        <source>No servers known yet.</source>
+        <translation>Ainda nenhum servidor conhecido.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n servers known.</source>
+        <translation>
+<numerusform>%n servidor conhecido.</numerusform><numerusform>%n servidores conhecidos.</numerusform></translation>
     </message>
 </context>
 </TS>

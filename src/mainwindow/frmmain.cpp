@@ -82,7 +82,7 @@ FrmOptions* FrmMain::openOptions()
 {
     // Modal to this window, but not a nested event loop: the window keeps
     // drawing and tests can work the dialog.
-    auto* options = new FrmOptions(m_settings, m_desktop, m_language, *m_themes, this);
+    auto* options = new FrmOptions(m_settings, m_desktop, m_language, *m_themes, m_dataFolder, this);
     options->setAttribute(Qt::WA_DeleteOnClose);
     options->setWindowModality(Qt::WindowModal);
     options->open();

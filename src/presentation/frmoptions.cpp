@@ -2,8 +2,10 @@
 
 #include "colourswatch.h"
 #include "desktop.h"
+#include "knownservers.h"
 #include "language.h"
 #include "namedcontrol.h"
+#include "serverstab.h"
 #include "settingskeys.h"
 #include "settingsstore.h"
 #include "startportrule.h"
@@ -35,7 +37,7 @@ const char* const SwatchNames[7] = {"frmBackColour", "lstBackColour", "lstForeCo
 } // namespace
 
 FrmOptions::FrmOptions(SettingsStore& settings, Desktop& desktop, Language& language, ThemeService& themes,
-                       QWidget* parent)
+                       const QString& dataFolder, QWidget* parent)
     : QDialog(parent)
     , m_settings(settings)
     , m_desktop(desktop)
@@ -50,6 +52,9 @@ FrmOptions::FrmOptions(SettingsStore& settings, Desktop& desktop, Language& lang
     auto* themePage = new QWidget(tabOptions);
     tabOptions->addTab(settingsPage, QString());
     tabOptions->addTab(themePage, QString());
+    m_serversTab = new ServersTab(settings, desktop, KnownServers::filePath(dataFolder), tabOptions);
+    m_serversTab->setObjectName(QStringLiteral("tabServers"));
+    tabOptions->addTab(m_serversTab, QString());
     buildSettingsTab(settingsPage);
     buildThemeTab(themePage);
 
@@ -192,6 +197,8 @@ void FrmOptions::retranslateUi()
     setWindowTitle(tr("Options"));
     tabOptions->setTabText(SettingsTab, tr("Settings"));
     tabOptions->setTabText(ThemeTab, tr("Theme"));
+    tabOptions->setTabText(SourcesTab, tr("Servers"));
+    m_serversTab->retranslateUi();
     lblLanguage->setText(tr("Language:"));
     lblSpeed->setText(tr("Query Speed:"));
     const QStringList speeds{tr("Dial Up (56k)"), tr("ISDN (64k)"), tr("ISDN (128k)"),
@@ -253,6 +260,7 @@ void FrmOptions::load()
     chkRefresh->setChecked(m_settings.value(Keys::RefreshServers));
     txtPath->setText(m_settings.value(Keys::Path));
 
+    m_serversTab->load();
     showTheme(m_themeService.applied());
     runStartPortRule();
     loadThemes();
@@ -384,6 +392,10 @@ void FrmOptions::resetToDefaults()
     }
     if (answer != QMessageBox::Yes)
         return;
+    if (tabOptions->currentIndex() == SourcesTab) {
+        m_serversTab->resetToDefaults();
+        return;
+    }
     cmbLanguage->setCurrentIndex(0);
     cmbSpeed->setCurrentIndex(5);
     chkAutoUpdate->setChecked(true);
@@ -420,6 +432,7 @@ bool FrmOptions::save()
         m_settings.set(Keys::RefreshServers, chkRefresh->isChecked());
         m_settings.set(Keys::Path, txtPath->text());
         m_settings.set(Keys::Speed, cmbSpeed->currentIndex());
+        m_serversTab->save();
     }
     const QString name = cmbThemes->currentText().isEmpty() ? ThemeFile::DefaultName : cmbThemes->currentText();
     saveTheme(name);

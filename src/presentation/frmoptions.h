@@ -13,6 +13,7 @@ class QLabel;
 class QLineEdit;
 class QPushButton;
 class QTabWidget;
+class ServersTab;
 class SettingsStore;
 class ThemeService;
 
@@ -25,10 +26,11 @@ class FrmOptions final : public QDialog {
     Q_DISABLE_COPY_MOVE(FrmOptions)
 
 public:
-    enum Tab { SettingsTab = 0, ThemeTab = 1 };
+    enum Tab { SettingsTab = 0, ThemeTab = 1, SourcesTab = 2 };
 
+    // dataFolder holds the known servers the "Servers" tab can forget.
     FrmOptions(SettingsStore& settings, Desktop& desktop, Language& language, ThemeService& themes,
-               QWidget* parent = nullptr);
+               const QString& dataFolder, QWidget* parent = nullptr);
 
     // OK and Apply: false, with the port message, when the start port is
     // refused; nothing is written then.
@@ -99,6 +101,8 @@ private:
     QComboBox* cmbThemes = nullptr;
     QPushButton* cmdSave = nullptr;
     QPushButton* cmdRemove = nullptr;
+
+    ServersTab* m_serversTab = nullptr;
 
     QLabel* lblMessage = nullptr;
     QPushButton* cmdOK = nullptr;

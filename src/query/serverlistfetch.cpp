@@ -11,6 +11,8 @@ ServerListFetch::ServerListFetch(QNetworkAccessManager& network, QObject* parent
 {
     m_timer.setSingleShot(true);
     m_timer.setInterval(TimeoutMs);
+    // A coarse timer may fire 5 % early: the limit is the one we say.
+    m_timer.setTimerType(Qt::PreciseTimer);
     connect(&m_timer, &QTimer::timeout, this, [this] {
         fail(QCoreApplication::translate("ServerListFetch", "no reply within %1 seconds").arg(TimeoutMs / 1000));
     });

@@ -108,7 +108,7 @@ class TestTranslations final : public QObject {
         Language language;
         FrmMain main{settings, desktop, language, dir.path()};
         ThemeService themes{dir.path()};
-        FrmOptions options{settings, desktop, language, themes};
+        FrmOptions options{settings, desktop, language, themes, dir.path()};
         FrmFavourites favourites{settings, dir.path()};
         FrmFilters filters{settings, dir.path()};
         FrmAbout about{desktop, QUrl()};

@@ -33,7 +33,7 @@ class TestFrmOptions final : public QObject {
 
     FrmOptions& open()
     {
-        m_form = std::make_unique<FrmOptions>(*m_settings, *m_desktop, *m_language, *m_themes);
+        m_form = std::make_unique<FrmOptions>(*m_settings, *m_desktop, *m_language, *m_themes, m_dir->path());
         m_form->show();
         if (!QTest::qWaitForWindowExposed(m_form.get()))
             qFatal("the options dialog did not show");
