@@ -1,6 +1,8 @@
 #include "colourswatch.h"
 #include "frmoptions.h"
+#include "knownservers.h"
 #include "language.h"
+#include "masteraddress.h"
 #include "scripteddesktop.h"
 #include "settingsstore.h"
 #include "startportrule.h"
@@ -13,6 +15,7 @@
 #include <QFile>
 #include <QLabel>
 #include <QLineEdit>
+#include <QListWidget>
 #include <QPushButton>
 #include <QTableView>
 #include <QTabWidget>
@@ -316,6 +319,77 @@ private slots:
         click("cmdApply");
         QVERIFY(m_form->isVisible());
         QCOMPARE(m_settings->get(u"Path"), QStringLiteral("/opt/quake4/quake4.x86"));
+    }
+
+    void theServersTabEditsEverySource()
+    {
+        open();
+        auto* tabs = find<QTabWidget>("tabOptions");
+        tabs->setCurrentIndex(FrmOptions::SourcesTab);
+        auto* masters = find<QListWidget>("lstMasters");
+        auto* lists = find<QListWidget>("lstServerLists");
+        // Untouched, the stored text stays as it was: empty is the default master.
+        QCOMPARE(masters->count(), 1);
+        QCOMPARE(masters->item(0)->text(), MasterAddress::DefaultHost);
+        QCOMPARE(lists->count(), 1);
+        click("cmdApply");
+        QVERIFY(!m_settings->contains(u"MasterServer"));
+        QVERIFY(!m_settings->contains(u"ServerListUrls"));
+
+        // A refused entry is said, and offered again for correction.
+        m_desktop->inputAnswers.enqueue(QStringLiteral("master.example:99999"));
+        m_desktop->messageAnswers.enqueue(QMessageBox::Ok);
+        m_desktop->inputAnswers.enqueue(QStringLiteral(" master.example:27900 "));
+        click("cmdMastersAdd");
+        QCOMPARE(m_desktop->messages.size(), 1);
+        QVERIFY(m_desktop->messages.first().text.startsWith(
+            QStringLiteral("\"master.example:99999\" is not a master server address.")));
+        QCOMPARE(m_desktop->inputs.at(1).initialText, QStringLiteral("master.example:99999"));
+        QCOMPARE(masters->count(), 2);
+        QCOMPARE(masters->item(1)->text(), QStringLiteral("master.example:27900"));
+
+        // Edit the first by a double click, remove nothing else; the list
+        // address is replaced through Edit.
+        m_desktop->inputAnswers.enqueue(QStringLiteral("[::1]:27650"));
+        const QPoint first = masters->visualItemRect(masters->item(0)).center();
+        QTest::mouseClick(masters->viewport(), Qt::LeftButton, {}, first);
+        QTest::mouseDClick(masters->viewport(), Qt::LeftButton, {}, first);
+        QCOMPARE(masters->item(0)->text(), QStringLiteral("::1"));
+        lists->setCurrentRow(0);
+        m_desktop->inputAnswers.enqueue(QStringLiteral("ftp://lists.example/q4"));
+        m_desktop->messageAnswers.enqueue(QMessageBox::Ok);
+        m_desktop->inputAnswers.enqueue(std::nullopt); // gives up: the entry stays as it was
+        click("cmdServerListsEdit");
+        QCOMPARE(lists->item(0)->text(), QStringLiteral("https://quakehub.net/api/v1/servers/q4"));
+        m_desktop->inputAnswers.enqueue(QStringLiteral("http://lists.example/q4.txt"));
+        click("cmdServerListsAdd");
+        lists->setCurrentRow(0);
+        click("cmdServerListsRemove");
+        find<QCheckBox>("chkQueryKnown")->click();
+        click("cmdOK");
+        QCOMPARE(m_settings->value(Keys::MasterServer), QStringLiteral("::1, master.example:27900"));
+        QCOMPARE(m_settings->value(Keys::ServerListUrls), QStringLiteral("http://lists.example/q4.txt"));
+        QVERIFY(!m_settings->value(Keys::QueryKnownServers));
+        QCOMPARE(parseMasterList(m_settings->value(Keys::MasterServer)).masters.size(), 2);
+    }
+
+    void knownServersAreForgottenOnlyWhenConfirmed()
+    {
+        const QString path = KnownServers::filePath(m_dir->path());
+        QVERIFY(KnownServers::writeFile(path, {KnownServers::Server{QStringLiteral("1.2.3.4"), 28004, {}, 1, 0},
+                                               KnownServers::Server{QStringLiteral("1.2.3.5"), 28004, {}, 1, 0}}));
+        open();
+        find<QTabWidget>("tabOptions")->setCurrentIndex(FrmOptions::SourcesTab);
+        QCOMPARE(find<QLabel>("lblKnown")->text(), QStringLiteral("2 servers known."));
+        m_desktop->messageAnswers.enqueue(QMessageBox::No);
+        click("cmdForgetKnown");
+        QVERIFY(QFile::exists(path));
+        m_desktop->messageAnswers.enqueue(QMessageBox::Yes);
+        click("cmdForgetKnown");
+        QVERIFY(m_desktop->messages.last().text.startsWith(QStringLiteral("Forget the 2 servers")));
+        QVERIFY(!QFile::exists(path));
+        QCOMPARE(find<QLabel>("lblKnown")->text(), QStringLiteral("No servers known yet."));
+        QVERIFY(!find<QPushButton>("cmdForgetKnown")->isEnabled());
     }
 };
 

@@ -11,9 +11,10 @@ QMessageBox::StandardButton ScriptedDesktop::message(QWidget*, Icon icon, const 
     return messageAnswers.dequeue();
 }
 
-std::optional<QString> ScriptedDesktop::inputText(QWidget*, const QString& title, const QString& prompt, const QString&)
+std::optional<QString> ScriptedDesktop::inputText(QWidget*, const QString& title, const QString& prompt,
+                                                  const QString& initialText)
 {
-    inputs.append({title, prompt});
+    inputs.append({title, prompt, initialText});
     if (inputAnswers.isEmpty()) {
         ++unexpectedCalls;
         return std::nullopt;

@@ -22,6 +22,7 @@ public:
     struct Input {
         QString title;
         QString prompt;
+        QString initialText;
     };
     struct FileRequest {
         QString title;
