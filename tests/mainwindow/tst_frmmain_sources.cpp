@@ -35,9 +35,8 @@ private slots:
         QVERIFY(!dead.start());
         QVERIFY(!alive.start());
         dead.setMasterSilent(true);
-        TestWindow w(25600, StartPort, [](SettingsStore& settings) {
-            settings.save(u"MasterServer", masters(25600, 25700));
-        });
+        TestWindow w(25600, StartPort,
+                     [](SettingsStore& settings) { settings.save(u"MasterServer", masters(25600, 25700)); });
         // Known from an earlier day: one of the dead master's servers, and
         // one the live master lists too.
         const qint64 now = QDateTime::currentSecsSinceEpoch();
@@ -77,9 +76,8 @@ private slots:
         SimFleet b(fleetOf(3, 25850));
         QVERIFY(!a.start());
         QVERIFY(!b.start());
-        TestWindow w(25800, StartPort + 100, [](SettingsStore& settings) {
-            settings.save(u"MasterServer", masters(25800, 25850));
-        });
+        TestWindow w(25800, StartPort + 100,
+                     [](SettingsStore& settings) { settings.save(u"MasterServer", masters(25800, 25850)); });
         QVERIFY(w.queryMasters(6000));
         QCOMPARE(listedRows(w), 6);
 

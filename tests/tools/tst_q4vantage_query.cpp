@@ -1,3 +1,6 @@
+#include "httpresponder.h"
+#include "knownservers.h"
+#include "lanquery.h"
 #include "queryreport.h"
 #include "simfleet.h"
 
@@ -53,7 +56,8 @@ private slots:
         server.tokens = {QStringLiteral("si_name"), server.name, QStringLiteral("lonely")};
         server.players = {PlayerRecord{QStringLiteral("[c]"), QStringLiteral("^2Bob"), 7, 25000, 33}};
         server.playerCount = 1;
-        const QJsonObject document = QJsonDocument::fromJson(QueryReport::json({1, 1, 0, 2, 40}, {server})).object();
+        const QJsonObject document =
+            QJsonDocument::fromJson(QueryReport::json({1, 1, 0, 2, 40, {}}, {server})).object();
         QCOMPARE(document[QStringLiteral("dropped_datagrams")].toInt(), 2);
         const QJsonObject first = document[QStringLiteral("servers")].toArray().first().toObject();
         QCOMPARE(first[QStringLiteral("name")].toString(), server.name);
@@ -95,6 +99,85 @@ private slots:
             QCOMPARE(server[QStringLiteral("name")].toString(), QString::fromLatin1(sent.rules.at(0).second));
             QCOMPARE(server[QStringLiteral("player_list")].toArray().size(), sent.players.size());
         }
+    }
+
+    void everySourceIsReportedOnItsOwn()
+    {
+        FleetOptions options;
+        options.servers = 4;
+        options.masterPort = 25750;
+        options.firstServerPort = 25751;
+        SimFleet dead(options);
+        options.servers = 5;
+        options.masterPort = 25800;
+        options.firstServerPort = 25801;
+        SimFleet alive(options);
+        QVERIFY(!dead.start());
+        QVERIFY(!alive.start());
+        dead.setMasterSilent(true);
+        HttpResponder web;
+        web.set(QStringLiteral("/q4.txt"), {200, "127.0.0.1:25751\n127.0.0.1:25752\nbroken\n", "text/plain", 0});
+        const QString known = m_home.filePath(QStringLiteral("servers.dat"));
+        QVERIFY(KnownServers::writeFile(known, {KnownServers::Server{QStringLiteral("127.0.0.1"), 25753, {}, 1, 0},
+                                                KnownServers::Server{QStringLiteral("127.0.0.1"), 25801, {}, 1, 0}}));
+        const Run run = runTool({QStringLiteral("--master"), QStringLiteral("127.0.0.1:25750"),
+                                 QStringLiteral("--master"), QStringLiteral("127.0.0.1:25800"),
+                                 QStringLiteral("--list-url"), web.url(QStringLiteral("/q4.txt")).toString(),
+                                 QStringLiteral("--known"), known, QStringLiteral("--start-port"),
+                                 QString::number(StartPort), QStringLiteral("--format"), QStringLiteral("json")},
+                                m_home.path());
+        QCOMPARE(run.exitCode, 0);
+        const QJsonObject document = QJsonDocument::fromJson(run.out).object();
+        const QJsonArray sources = document[QStringLiteral("sources")].toArray();
+        QCOMPARE(sources.size(), 4);
+        const auto source = [&sources](int i) { return sources.at(i).toObject(); };
+        QCOMPARE(source(0)[QStringLiteral("kind")].toString(), QStringLiteral("master"));
+        QCOMPARE(source(0)[QStringLiteral("name")].toString(), QStringLiteral("127.0.0.1:25750"));
+        QCOMPARE(source(0)[QStringLiteral("error")].toString(), QStringLiteral("did not answer"));
+        QCOMPARE(source(1)[QStringLiteral("addresses")].toInt(), 5);
+        QVERIFY(source(1)[QStringLiteral("error")].isNull());
+        QCOMPARE(source(2)[QStringLiteral("kind")].toString(), QStringLiteral("list"));
+        QCOMPARE(source(2)[QStringLiteral("addresses")].toInt(), 2);
+        QCOMPARE(source(2)[QStringLiteral("skipped")].toInt(), 1);
+        QCOMPARE(source(3)[QStringLiteral("kind")].toString(), QStringLiteral("known"));
+        QCOMPARE(source(3)[QStringLiteral("addresses")].toInt(), 1);
+        QCOMPARE(document[QStringLiteral("addresses")].toInt(), 8);
+        QCOMPARE(document[QStringLiteral("answered")].toInt(), 8);
+
+        const Run text =
+            runTool({QStringLiteral("--master"), QStringLiteral("127.0.0.1:25800"), QStringLiteral("--known"), known,
+                     QStringLiteral("--start-port"), QString::number(StartPort)},
+                    m_home.path());
+        QCOMPARE(text.exitCode, 0);
+        QVERIFY(text.out.contains("master 127.0.0.1:25800: 5 addresses, 0 skipped\n"));
+        QVERIFY(text.out.contains("known known servers: 1 addresses, 0 skipped\n"));
+    }
+
+    void theLanIsSearched()
+    {
+        FleetOptions options;
+        options.servers = 2;
+        options.masterPort = LanQuery::FirstGamePort - 1;
+        options.firstServerPort = LanQuery::FirstGamePort;
+        SimFleet lan(options);
+        if (const auto error = lan.start())
+            QSKIP(qPrintable(QStringLiteral("the game ports are taken here: %1").arg(*error)));
+        const Run run = runTool({QStringLiteral("--lan"), QStringLiteral("--broadcast"), QStringLiteral("127.0.0.1"),
+                                 QStringLiteral("--start-port"), QString::number(StartPort), QStringLiteral("--format"),
+                                 QStringLiteral("json")},
+                                m_home.path());
+        QCOMPARE(run.exitCode, 0);
+        const QJsonObject document = QJsonDocument::fromJson(run.out).object();
+        QCOMPARE(document[QStringLiteral("servers")].toArray().size(), 2);
+        QCOMPARE(document[QStringLiteral("sources")].toArray().first().toObject()[QStringLiteral("kind")].toString(),
+                 QStringLiteral("lan"));
+        QCOMPARE(
+            runTool({QStringLiteral("--lan"), QStringLiteral("--master"), QStringLiteral("x")}, m_home.path()).exitCode,
+            2);
+        QCOMPARE(runTool({QStringLiteral("--lan"), QStringLiteral("--broadcast"), QStringLiteral("::1")}, m_home.path())
+                     .exitCode,
+                 2);
+        QCOMPARE(runTool({QStringLiteral("--list-url"), QStringLiteral("ftp://x/y")}, m_home.path()).exitCode, 2);
     }
 
     void exitCodes()

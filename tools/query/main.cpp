@@ -1,7 +1,11 @@
 #include "favourites.h"
+#include "httpproxy.h"
+#include "knownservers.h"
+#include "lanquery.h"
 #include "masteraddress.h"
 #include "queryreport.h"
 #include "querysession.h"
+#include "serverlistreader.h"
 #include "settingskeys.h"
 #include "settingsstore.h"
 
@@ -40,13 +44,28 @@ int main(int argc, char* argv[])
     QCommandLineParser parser;
     parser.setApplicationDescription(
         QStringLiteral("Queries Quake 4 servers as the browser does, without a window.\n"
-                       "Exit status: 0 finished, 1 master timed out or failed, 2 usage error, 3 a local port "
-                       "could not be bound, 4 the favourites hold no server."));
+                       "Sources: --master, --list-url and --known, together or alone (default: the browser's "
+                       "masters and server lists); or --favourites and --server; or --lan.\n"
+                       "Exit status: 0 finished, 1 every source failed (master timed out or failed), 2 usage error, "
+                       "3 a local port could not be bound, 4 the favourites hold no server."));
     parser.addHelpOption();
     parser.addVersionOption();
     const QCommandLineOption masterOption(QStringLiteral("master"),
-                                          QStringLiteral("Master server (default: the browser's setting)."),
+                                          QStringLiteral("Master server (repeatable; default: the browser's)."),
                                           QStringLiteral("HOST[:PORT]"));
+    const QCommandLineOption listUrlOption(QStringLiteral("list-url"),
+                                           QStringLiteral("Published server list, http or https (repeatable)."),
+                                           QStringLiteral("URL"));
+    const QCommandLineOption knownOption(QStringLiteral("known"),
+                                         QStringLiteral("Also query the servers of this servers.dat that no other "
+                                                        "source lists."),
+                                         QStringLiteral("FILE"));
+    const QCommandLineOption lanOption(QStringLiteral("lan"),
+                                       QStringLiteral("Search the local network by broadcast instead."));
+    const QCommandLineOption broadcastOption(
+        QStringLiteral("broadcast"),
+        QStringLiteral("Where --lan sends (repeatable; default: every local network's broadcast address)."),
+        QStringLiteral("ADDRESS"));
     const QCommandLineOption favouritesOption(QStringLiteral("favourites"),
                                               QStringLiteral("Query the servers of this favourites.dat instead."),
                                               QStringLiteral("FILE"));
@@ -61,7 +80,8 @@ int main(int argc, char* argv[])
                                              QStringLiteral("N"));
     const QCommandLineOption formatOption(QStringLiteral("format"), QStringLiteral("Output: text or json."),
                                           QStringLiteral("text|json"), QStringLiteral("text"));
-    parser.addOptions({masterOption, favouritesOption, serverOption, speedOption, startPortOption, formatOption});
+    parser.addOptions({masterOption, listUrlOption, knownOption, lanOption, broadcastOption, favouritesOption,
+                       serverOption, speedOption, startPortOption, formatOption});
     if (!parser.parse(QCoreApplication::arguments()))
         return usage(parser.errorText());
     if (parser.isSet(QStringLiteral("help")))
@@ -110,11 +130,49 @@ int main(int argc, char* argv[])
     }
     if (direct && table.isEmpty())
         return nothingToQuery(QStringLiteral("no servers to query in %1").arg(parser.value(favouritesOption)));
-    const QString masterText =
-        parser.isSet(masterOption) ? parser.value(masterOption) : settings.value(Keys::MasterServer);
-    const auto master = parseMasterAddress(masterText);
-    if (!direct && !master)
-        return usage(QStringLiteral("not a master server address: %1").arg(masterText));
+    const bool lan = parser.isSet(lanOption);
+    const bool sourcesGiven = parser.isSet(masterOption) || parser.isSet(listUrlOption) || parser.isSet(knownOption);
+    if (lan && (direct || sourcesGiven))
+        return usage(QStringLiteral("--lan searches the local network alone"));
+    if (direct && sourcesGiven)
+        return usage(QStringLiteral("--favourites and --server cannot be mixed with --master, --list-url or --known"));
+    QList<QHostAddress> broadcast;
+    for (const QString& text : parser.values(broadcastOption)) {
+        const QHostAddress address(text);
+        if (address.protocol() != QAbstractSocket::IPv4Protocol)
+            return usage(QStringLiteral("--broadcast wants an IPv4 address, not %1").arg(text));
+        broadcast.append(address);
+    }
+    if (lan && broadcast.isEmpty())
+        broadcast = LanQuery::broadcastAddresses();
+    if (lan && broadcast.isEmpty())
+        return nothingToQuery(QStringLiteral("no network interface can broadcast"));
+
+    SourcePlan sources;
+    if (!direct && !lan) {
+        // Sources on the command line replace the browser's; none at all
+        // means the browser's masters and lists.
+        const QString masterText = parser.isSet(masterOption) ? parser.values(masterOption).join(QLatin1Char(','))
+                                   : sourcesGiven             ? QString()
+                                                              : settings.value(Keys::MasterServer);
+        if (!masterText.isEmpty() || !sourcesGiven) {
+            const MasterList masters = parseMasterList(masterText);
+            if (!masters.refused.isEmpty())
+                return usage(QStringLiteral("not a master server address: %1").arg(masters.refused.first()));
+            sources.masters = masters.masters;
+        }
+        QStringList refused;
+        sources.listUrls = ServerListReader::parseUrls(parser.isSet(listUrlOption)
+                                                           ? parser.values(listUrlOption).join(QLatin1Char(' '))
+                                                       : sourcesGiven ? QString()
+                                                                      : settings.value(Keys::ServerListUrls),
+                                                       &refused);
+        if (!refused.isEmpty() && parser.isSet(listUrlOption))
+            return usage(QStringLiteral("--list-url wants an http or https address, not %1").arg(refused.first()));
+        sources.proxy = httpProxy(settings.value(Keys::Proxy), settings.value(Keys::ProxyAddress));
+        if (parser.isSet(knownOption))
+            sources.known = KnownServers::toAddressTable(KnownServers::readFile(parser.value(knownOption)));
+    }
 
     QuerySession session;
     session.setPool(plan);
@@ -123,9 +181,21 @@ int main(int argc, char* argv[])
     QObject::connect(&session, &QuerySession::serverAnswered, &app,
                      [&answers](const ServerRecord& server) { answers.append(server); });
     const auto report = [&] {
-        const QueryReport::Summary summary{session.addresses().count(), session.scheduler().answeredCount(),
-                                           session.scheduler().timedOutCount(), session.droppedDatagrams(),
-                                           session.elapsedMs()};
+        QueryReport::Summary summary{session.addresses().count(),
+                                     session.scheduler().answeredCount(),
+                                     session.scheduler().timedOutCount(),
+                                     session.droppedDatagrams(),
+                                     session.elapsedMs(),
+                                     session.sourceReports()};
+        if (lan) {
+            summary.addresses = session.lan().sentCount();
+            summary.answered = session.lan().answeredCount();
+            SourceReport broadcastReport;
+            broadcastReport.kind = SourceReport::Kind::Lan;
+            broadcastReport.name = QStringLiteral("broadcast");
+            broadcastReport.addresses = session.lan().answeredCount();
+            summary.sources = {broadcastReport};
+        }
         const QByteArray out =
             format == QLatin1String("json") ? QueryReport::json(summary, answers) : QueryReport::text(summary, answers);
         std::fwrite(out.constData(), 1, size_t(out.size()), stdout);
@@ -135,7 +205,10 @@ int main(int argc, char* argv[])
         QCoreApplication::exit(Finished);
     });
     QObject::connect(&session, &QuerySession::masterTimedOut, &app, [&] {
-        std::fprintf(stderr, "q4vantage-query: Master Servers Timed Out (%s)\n", qPrintable(master->host));
+        QStringList failed;
+        for (const SourceReport& source : session.sourceReports())
+            failed.append(QStringLiteral("%1: %2").arg(source.name, source.error));
+        std::fprintf(stderr, "q4vantage-query: Master Servers Timed Out (%s)\n", qPrintable(failed.join("; ")));
         QCoreApplication::exit(MasterFailed);
     });
     QObject::connect(&session, &QuerySession::failed, &app, [&](const QueryError& error) {
@@ -143,7 +216,9 @@ int main(int argc, char* argv[])
         QCoreApplication::exit(MasterFailed);
     });
 
-    const auto error = direct ? session.startAddresses(table) : session.startMaster(*master);
+    const auto error = direct ? session.startAddresses(table)
+                       : lan  ? session.startLan(broadcast)
+                              : session.startSources(sources);
     if (error) {
         std::fprintf(stderr, "q4vantage-query: %s\n", qPrintable(error->message()));
         return error->kind == QueryError::Kind::PortUnavailable ? PortUnavailable : MasterFailed;

@@ -45,6 +45,21 @@ QJsonObject server(const ServerRecord& record)
                        {QStringLiteral("player_list"), players}};
 }
 
+QString kindName(SourceReport::Kind kind)
+{
+    switch (kind) {
+    case SourceReport::Kind::Master:
+        return QStringLiteral("master");
+    case SourceReport::Kind::List:
+        return QStringLiteral("list");
+    case SourceReport::Kind::Known:
+        return QStringLiteral("known");
+    case SourceReport::Kind::Lan:
+        return QStringLiteral("lan");
+    }
+    return {};
+}
+
 } // namespace
 
 QByteArray json(const Summary& summary, const QList<ServerRecord>& servers)
@@ -52,7 +67,17 @@ QByteArray json(const Summary& summary, const QList<ServerRecord>& servers)
     QJsonArray list;
     for (const ServerRecord& record : servers)
         list.append(server(record));
-    const QJsonObject document{{QStringLiteral("addresses"), summary.addresses},
+    QJsonArray sources;
+    for (const SourceReport& source : summary.sources)
+        sources.append(
+            QJsonObject{{QStringLiteral("kind"), kindName(source.kind)},
+                        {QStringLiteral("name"), source.name},
+                        {QStringLiteral("addresses"), source.addresses},
+                        {QStringLiteral("skipped"), source.skipped},
+                        {QStringLiteral("truncated"), source.truncated},
+                        {QStringLiteral("error"), source.failed() ? QJsonValue(source.error) : QJsonValue()}});
+    const QJsonObject document{{QStringLiteral("sources"), sources},
+                               {QStringLiteral("addresses"), summary.addresses},
                                {QStringLiteral("answered"), summary.answered},
                                {QStringLiteral("timed_out"), summary.timedOut},
                                {QStringLiteral("dropped_datagrams"), summary.droppedDatagrams},
@@ -72,6 +97,13 @@ QByteArray text(const Summary& summary, const QList<ServerRecord>& servers)
                    .arg(record.passwordMark == QLatin1String("*") ? QStringLiteral("pw") : QStringLiteral("  "))
                    .arg(record.map, -10)
                    .arg(ColourCodes::StripColourCodesCounted(record.name));
+    }
+    for (const SourceReport& source : summary.sources) {
+        out += source.failed() ? QStringLiteral("%1 %2: %3\n").arg(kindName(source.kind), source.name, source.error)
+                               : QStringLiteral("%1 %2: %3 addresses, %4 skipped\n")
+                                     .arg(kindName(source.kind), source.name)
+                                     .arg(source.addresses)
+                                     .arg(source.skipped);
     }
     out += QStringLiteral("%1 addresses, %2 answered, %3 timed out, %4 dropped datagrams, %5 ms\n")
                .arg(summary.addresses)

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "records.h"
+#include "serversources.h"
 
 #include <QByteArray>
 #include <QList>
@@ -14,6 +15,8 @@ struct Summary {
     int timedOut = 0;
     int droppedDatagrams = 0;
     qint64 elapsedMs = 0;
+    // Where the addresses came from; empty for favourites and --server.
+    QList<SourceReport> sources;
 };
 
 // Every received byte is the Unicode character of the same code in the
