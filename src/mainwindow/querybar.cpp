@@ -36,14 +36,16 @@ QueryBar::QueryBar(QueryController& queries, QWidget* window)
     // "Query LAN" and "Cancel Query" share one place, each shown while the
     // other is of no use: the row keeps its width, so the lists are not laid
     // out again (slow with many rows) and the window's minimum stays.
-    m_swap = new QStackedLayout;
+    auto* swapPlace = new QWidget(fraQuery);
+    swapPlace->setSizePolicy(QSizePolicy::Maximum, QSizePolicy::Fixed);
+    m_swap = new QStackedLayout(swapPlace);
     m_swap->addWidget(cmdLan);
     m_swap->addWidget(cmdCancel);
     auto* layout = new QHBoxLayout(fraQuery);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(cmdGet);
     layout->addWidget(cmdFav);
-    layout->addLayout(m_swap);
+    layout->addWidget(swapPlace);
     layout->addStretch();
 
     prbProgress->setObjectName(QStringLiteral("prbProgress"));

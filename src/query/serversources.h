@@ -38,7 +38,6 @@ struct SourceReport {
     QString error;                        // empty while the source answered
 
     bool failed() const { return !error.isEmpty(); }
-    friend bool operator==(const SourceReport&, const SourceReport&) = default;
 };
 
 // The query's table from every source's: the sources in order, an address

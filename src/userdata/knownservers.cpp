@@ -1,6 +1,7 @@
 #include "knownservers.h"
 
 #include "datafield.h"
+#include "serverlistreader.h"
 
 #include <QDir>
 #include <QFile>
@@ -42,24 +43,24 @@ List parse(const QByteArray& bytes)
         const QList<QByteArray> fields = line.toByteArray().split('\t');
         if (fields.size() < 3)
             continue;
-        const QByteArray& endpoint = fields.at(0);
-        const qsizetype colon = endpoint.lastIndexOf(':');
-        bool portOk = false;
+        // Only what a list would accept: a host name or IPv4 address and a port.
+        const auto endpoint = ServerListReader::parseEndpoint(QString::fromLatin1(fields.at(0)));
         bool seenOk = false;
         bool missesOk = false;
         Server server;
-        server.address = QString::fromLatin1(endpoint.left(colon));
-        server.port = colon > 0 ? endpoint.mid(colon + 1).toInt(&portOk) : 0;
         server.lastSeen = fields.at(1).toLongLong(&seenOk);
         server.misses = fields.at(2).toInt(&missesOk);
-        // The name is the rest of the line, tabs and all.
+        if (!endpoint || !seenOk || !missesOk || server.misses < 0)
+            continue;
+        server.address = endpoint->address;
+        server.port = endpoint->port;
+        // The name is the rest of the line, tabs and all, as it will be
+        // written again.
         qsizetype nameStart = 0;
         for (int tab = 0; tab < 3 && nameStart >= 0; ++tab)
             nameStart = line.indexOf('\t', nameStart) + 1;
-        server.name = fields.size() > 3 ? QString::fromLatin1(line.sliced(nameStart)) : QString();
-        if (!portOk || !seenOk || !missesOk || server.port < 1 || server.port > 65535 || server.address.isEmpty() ||
-            server.address.contains(QLatin1Char(' ')) || server.misses < 0)
-            continue;
+        if (fields.size() > 3)
+            server.name = QString::fromLatin1(dataFileField(QString::fromLatin1(line.sliced(nameStart))));
         const QString key = endpointText(server.address, server.port);
         if (seen.contains(key))
             continue;

@@ -1,6 +1,6 @@
 // Takes a picture of every window of the program in every language: the
 // main window listing a simulated fleet (both views), the options dialog
-// (both tabs), the favourites and filters editors and the About box.
+// (every tab), the favourites and filters editors and the About box.
 //   q4vantage-shots OUTPUT_FOLDER [LANGUAGE_INDEX...]
 // Run it on a real display server (scripts/screenshots.sh uses Xvfb) to
 // see the fonts and style a user sees.
@@ -88,6 +88,8 @@ bool shootLanguage(int language, const QDir& out)
     settings.save(u"Language", QString::number(language));
     settings.save(u"MasterServer", QStringLiteral("127.0.0.1:27990"));
     settings.save(u"StartPort", QStringLiteral("41900"));
+    // The simulated fleet only: no public list fetched for a picture.
+    settings.save(u"ServerListUrls", QString());
     QtDesktop desktop;
     Language languages;
     FrmMain main(settings, desktop, languages, data.path());
@@ -119,6 +121,8 @@ bool shootLanguage(int language, const QDir& out)
     ok = save(options, out, QStringLiteral("options-settings")) && ok;
     tabs->setCurrentIndex(1);
     ok = save(options, out, QStringLiteral("options-theme")) && ok;
+    tabs->setCurrentIndex(2);
+    ok = save(options, out, QStringLiteral("options-servers")) && ok;
     child<QPushButton>(options, "cmdCancel")->click();
 
     auto* favourites = openedBy<QDialog>(main, "cmdOrganise", "frmFavourites");
