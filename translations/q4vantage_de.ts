@@ -36,6 +36,17 @@
     </message>
 </context>
 <context>
+    <name>Downloader</name>
+    <message>
+        <source>The site sent an empty file.</source>
+        <translation>Die Seite hat eine leere Datei gesendet.</translation>
+    </message>
+    <message>
+        <source>%1 of %2 bytes arrived.</source>
+        <translation>%1 von %2 Bytes sind angekommen.</translation>
+    </message>
+</context>
+<context>
     <name>EditableListDialog</name>
     <message>
         <source>Edit Cell</source>
@@ -120,6 +131,43 @@
     <message>
         <source>OK</source>
         <translation>OK</translation>
+    </message>
+</context>
+<context>
+    <name>FrmDownload</name>
+    <message>
+        <source>Error During Download</source>
+        <translation>Fehler beim Herunterladen</translation>
+    </message>
+    <message>
+        <source>The installer could not be saved to %1 (%2).</source>
+        <translation>Das Installationsprogramm konnte nicht unter %1 gespeichert werden (%2).</translation>
+    </message>
+    <message>
+        <source>Complete</source>
+        <translation>Fertig</translation>
+    </message>
+    <message>
+        <source>Downloading v%1
+%2 of %3</source>
+        <translation>Lade v%1 herunter
+%2 von %3</translation>
+    </message>
+    <message>
+        <source>Quake 4 Vantage Update</source>
+        <translation>Quake 4 Vantage Aktualisierung</translation>
+    </message>
+    <message>
+        <source>Downloading Quake 4 Vantage v%1</source>
+        <translation>Quake 4 Vantage v%1 wird heruntergeladen</translation>
+    </message>
+    <message>
+        <source>Connecting to download site...</source>
+        <translation>Verbindung zur Download-Seite wird hergestellt...</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
     </message>
 </context>
 <context>
@@ -453,6 +501,37 @@
     </message>
 </context>
 <context>
+    <name>FrmUpdate</name>
+    <message>
+        <source>Quake 4 Vantage Update Available</source>
+        <translation>Quake 4 Vantage Aktualisierung verfügbar</translation>
+    </message>
+    <message>
+        <source>An update is now available for Quake 4 Vantage, would you like to download it now?</source>
+        <translation>Eine Aktualisierung für Quake 4 Vantage ist verfügbar. Möchten Sie sie jetzt herunterladen?</translation>
+    </message>
+    <message>
+        <source>Current Version:</source>
+        <translation>Aktuelle Version:</translation>
+    </message>
+    <message>
+        <source>Latest Version:</source>
+        <translation>Neueste Version:</translation>
+    </message>
+    <message>
+        <source>Automatically check for updates in the future</source>
+        <translation>Künftig automatisch nach Aktualisierungen suchen</translation>
+    </message>
+    <message>
+        <source>Yes</source>
+        <translation>Ja</translation>
+    </message>
+    <message>
+        <source>No</source>
+        <translation>Nein</translation>
+    </message>
+</context>
+<context>
     <name>JoinFlow</name>
     <message>
         <source>Join server by IP Address</source>
@@ -690,12 +769,16 @@
     <message numerus="yes">
         <source>%1: %n servers</source>
         <translation>
-<numerusform>%1: %n Server</numerusform><numerusform>%1: %n Server</numerusform></translation>
+            <numerusform>%1: %n Server</numerusform>
+            <numerusform>%1: %n Server</numerusform>
+        </translation>
     </message>
     <message numerus="yes">
         <source>(%n entries skipped)</source>
         <translation>
-<numerusform>(%n Eintrag übersprungen)</numerusform><numerusform>(%n Einträge übersprungen)</numerusform></translation>
+            <numerusform>(%n Eintrag übersprungen)</numerusform>
+            <numerusform>(%n Einträge übersprungen)</numerusform>
+        </translation>
     </message>
     <message>
         <source>(list cut at %1)</source>
@@ -817,7 +900,9 @@
     <message numerus="yes">
         <source>Forget the %n servers that answered before? Query Masters asks them again only when a master or a server list names them.</source>
         <translation>
-<numerusform>Den %n Server vergessen, der früher geantwortet hat? Die Master-Anfrage fragt ihn nur wieder an, wenn ein Master oder eine Serverliste ihn nennt.</numerusform><numerusform>Die %n Server vergessen, die früher geantwortet haben? Die Master-Anfrage fragt sie nur wieder an, wenn ein Master oder eine Serverliste sie nennt.</numerusform></translation>
+            <numerusform>Den %n Server vergessen, der früher geantwortet hat? Die Master-Anfrage fragt ihn nur wieder an, wenn ein Master oder eine Serverliste ihn nennt.</numerusform>
+            <numerusform>Die %n Server vergessen, die früher geantwortet haben? Die Master-Anfrage fragt sie nur wieder an, wenn ein Master oder eine Serverliste sie nennt.</numerusform>
+        </translation>
     </message>
     <message>
         <source>The known servers could not be removed from %1.</source>
@@ -830,7 +915,24 @@
     <message numerus="yes">
         <source>%n servers known.</source>
         <translation>
-<numerusform>%n Server bekannt.</numerusform><numerusform>%n Server bekannt.</numerusform></translation>
+            <numerusform>%n Server bekannt.</numerusform>
+            <numerusform>%n Server bekannt.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>UpdateFlow</name>
+    <message>
+        <source>Quake 4 Vantage Update</source>
+        <translation>Quake 4 Vantage Aktualisierung</translation>
+    </message>
+    <message>
+        <source>The installer came without encryption (plain HTTP), so it will not be started. It was saved to %1.</source>
+        <translation>Das Installationsprogramm kam unverschlüsselt (einfaches HTTP) und wird daher nicht gestartet. Es wurde unter %1 gespeichert.</translation>
+    </message>
+    <message>
+        <source>The installer was saved to %1, but it cannot be started on this system.</source>
+        <translation>Das Installationsprogramm wurde unter %1 gespeichert, kann auf diesem System aber nicht gestartet werden.</translation>
     </message>
 </context>
 </TS>

@@ -36,6 +36,17 @@
     </message>
 </context>
 <context>
+    <name>Downloader</name>
+    <message>
+        <source>The site sent an empty file.</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>%1 of %2 bytes arrived.</source>
+        <translation type="unfinished" />
+    </message>
+</context>
+<context>
     <name>EditableListDialog</name>
     <message>
         <source>Edit Cell</source>
@@ -119,6 +130,42 @@
     </message>
     <message>
         <source>OK</source>
+        <translation type="unfinished" />
+    </message>
+</context>
+<context>
+    <name>FrmDownload</name>
+    <message>
+        <source>Error During Download</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>The installer could not be saved to %1 (%2).</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>Complete</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>Downloading v%1
+%2 of %3</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>Quake 4 Vantage Update</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>Downloading Quake 4 Vantage v%1</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>Connecting to download site...</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>Cancel</source>
         <translation type="unfinished" />
     </message>
 </context>
@@ -453,6 +500,37 @@
     </message>
 </context>
 <context>
+    <name>FrmUpdate</name>
+    <message>
+        <source>Quake 4 Vantage Update Available</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>An update is now available for Quake 4 Vantage, would you like to download it now?</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>Current Version:</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>Latest Version:</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>Automatically check for updates in the future</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>Yes</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>No</source>
+        <translation type="unfinished" />
+    </message>
+</context>
+<context>
     <name>JoinFlow</name>
     <message>
         <source>Join server by IP Address</source>
@@ -687,12 +765,16 @@
     <message numerus="yes">
         <source>%1: %n servers</source>
         <translation>
-<numerusform>%1: %n server</numerusform><numerusform>%1: %n servers</numerusform></translation>
+            <numerusform>%1: %n server</numerusform>
+            <numerusform>%1: %n servers</numerusform>
+        </translation>
     </message>
     <message numerus="yes">
         <source>(%n entries skipped)</source>
         <translation>
-<numerusform>(%n entry skipped)</numerusform><numerusform>(%n entries skipped)</numerusform></translation>
+            <numerusform>(%n entry skipped)</numerusform>
+            <numerusform>(%n entries skipped)</numerusform>
+        </translation>
     </message>
     <message>
         <source>(list cut at %1)</source>
@@ -814,7 +896,9 @@
     <message numerus="yes">
         <source>Forget the %n servers that answered before? Query Masters asks them again only when a master or a server list names them.</source>
         <translation>
-<numerusform>Forget the server that answered before? Query Masters asks it again only when a master or a server list names it.</numerusform><numerusform>Forget the %n servers that answered before? Query Masters asks them again only when a master or a server list names them.</numerusform></translation>
+            <numerusform>Forget the server that answered before? Query Masters asks it again only when a master or a server list names it.</numerusform>
+            <numerusform>Forget the %n servers that answered before? Query Masters asks them again only when a master or a server list names them.</numerusform>
+        </translation>
     </message>
     <message>
         <source>The known servers could not be removed from %1.</source>
@@ -827,7 +911,24 @@
     <message numerus="yes">
         <source>%n servers known.</source>
         <translation>
-<numerusform>%n server known.</numerusform><numerusform>%n servers known.</numerusform></translation>
+            <numerusform>%n server known.</numerusform>
+            <numerusform>%n servers known.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>UpdateFlow</name>
+    <message>
+        <source>Quake 4 Vantage Update</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>The installer came without encryption (plain HTTP), so it will not be started. It was saved to %1.</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>The installer was saved to %1, but it cannot be started on this system.</source>
+        <translation type="unfinished" />
     </message>
 </context>
 </TS>

@@ -36,6 +36,17 @@
     </message>
 </context>
 <context>
+    <name>Downloader</name>
+    <message>
+        <source>The site sent an empty file.</source>
+        <translation>Le site a envoyé un fichier vide.</translation>
+    </message>
+    <message>
+        <source>%1 of %2 bytes arrived.</source>
+        <translation>%1 octets sur %2 sont arrivés.</translation>
+    </message>
+</context>
+<context>
     <name>EditableListDialog</name>
     <message>
         <source>Edit Cell</source>
@@ -120,6 +131,43 @@
     <message>
         <source>OK</source>
         <translation>OK</translation>
+    </message>
+</context>
+<context>
+    <name>FrmDownload</name>
+    <message>
+        <source>Error During Download</source>
+        <translation>Erreur pendant le téléchargement</translation>
+    </message>
+    <message>
+        <source>The installer could not be saved to %1 (%2).</source>
+        <translation>Le programme d'installation n'a pas pu être enregistré dans %1 (%2).</translation>
+    </message>
+    <message>
+        <source>Complete</source>
+        <translation>Terminé</translation>
+    </message>
+    <message>
+        <source>Downloading v%1
+%2 of %3</source>
+        <translation>Téléchargement de la v%1
+%2 sur %3</translation>
+    </message>
+    <message>
+        <source>Quake 4 Vantage Update</source>
+        <translation>Mise à jour de Quake 4 Vantage</translation>
+    </message>
+    <message>
+        <source>Downloading Quake 4 Vantage v%1</source>
+        <translation>Téléchargement de Quake 4 Vantage v%1</translation>
+    </message>
+    <message>
+        <source>Connecting to download site...</source>
+        <translation>Connexion au site de téléchargement...</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuler</translation>
     </message>
 </context>
 <context>
@@ -453,6 +501,37 @@
     </message>
 </context>
 <context>
+    <name>FrmUpdate</name>
+    <message>
+        <source>Quake 4 Vantage Update Available</source>
+        <translation>Mise à jour de Quake 4 Vantage disponible</translation>
+    </message>
+    <message>
+        <source>An update is now available for Quake 4 Vantage, would you like to download it now?</source>
+        <translation>Une mise à jour de Quake 4 Vantage est disponible, voulez-vous la télécharger maintenant ?</translation>
+    </message>
+    <message>
+        <source>Current Version:</source>
+        <translation>Version actuelle :</translation>
+    </message>
+    <message>
+        <source>Latest Version:</source>
+        <translation>Dernière version :</translation>
+    </message>
+    <message>
+        <source>Automatically check for updates in the future</source>
+        <translation>Rechercher automatiquement les mises à jour à l'avenir</translation>
+    </message>
+    <message>
+        <source>Yes</source>
+        <translation>Oui</translation>
+    </message>
+    <message>
+        <source>No</source>
+        <translation>Non</translation>
+    </message>
+</context>
+<context>
     <name>JoinFlow</name>
     <message>
         <source>Join server by IP Address</source>
@@ -690,12 +769,16 @@
     <message numerus="yes">
         <source>%1: %n servers</source>
         <translation>
-<numerusform>%1 : %n serveur</numerusform><numerusform>%1 : %n serveurs</numerusform></translation>
+            <numerusform>%1 : %n serveur</numerusform>
+            <numerusform>%1 : %n serveurs</numerusform>
+        </translation>
     </message>
     <message numerus="yes">
         <source>(%n entries skipped)</source>
         <translation>
-<numerusform>(%n entrée ignorée)</numerusform><numerusform>(%n entrées ignorées)</numerusform></translation>
+            <numerusform>(%n entrée ignorée)</numerusform>
+            <numerusform>(%n entrées ignorées)</numerusform>
+        </translation>
     </message>
     <message>
         <source>(list cut at %1)</source>
@@ -817,7 +900,9 @@
     <message numerus="yes">
         <source>Forget the %n servers that answered before? Query Masters asks them again only when a master or a server list names them.</source>
         <translation>
-<numerusform>Oublier le serveur qui a répondu auparavant ? La recherche ne l'interrogera à nouveau que si un serveur maître ou une liste le nomme.</numerusform><numerusform>Oublier les %n serveurs qui ont répondu auparavant ? La recherche ne les interrogera à nouveau que si un serveur maître ou une liste les nomme.</numerusform></translation>
+            <numerusform>Oublier le serveur qui a répondu auparavant ? La recherche ne l'interrogera à nouveau que si un serveur maître ou une liste le nomme.</numerusform>
+            <numerusform>Oublier les %n serveurs qui ont répondu auparavant ? La recherche ne les interrogera à nouveau que si un serveur maître ou une liste les nomme.</numerusform>
+        </translation>
     </message>
     <message>
         <source>The known servers could not be removed from %1.</source>
@@ -830,7 +915,24 @@
     <message numerus="yes">
         <source>%n servers known.</source>
         <translation>
-<numerusform>%n serveur connu.</numerusform><numerusform>%n serveurs connus.</numerusform></translation>
+            <numerusform>%n serveur connu.</numerusform>
+            <numerusform>%n serveurs connus.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>UpdateFlow</name>
+    <message>
+        <source>Quake 4 Vantage Update</source>
+        <translation>Mise à jour de Quake 4 Vantage</translation>
+    </message>
+    <message>
+        <source>The installer came without encryption (plain HTTP), so it will not be started. It was saved to %1.</source>
+        <translation>Le programme d'installation est arrivé sans chiffrement (HTTP simple), il ne sera donc pas lancé. Il a été enregistré dans %1.</translation>
+    </message>
+    <message>
+        <source>The installer was saved to %1, but it cannot be started on this system.</source>
+        <translation>Le programme d'installation a été enregistré dans %1, mais il ne peut pas être lancé sur ce système.</translation>
     </message>
 </context>
 </TS>

@@ -36,6 +36,17 @@
     </message>
 </context>
 <context>
+    <name>Downloader</name>
+    <message>
+        <source>The site sent an empty file.</source>
+        <translation>Il sito ha inviato un file vuoto.</translation>
+    </message>
+    <message>
+        <source>%1 of %2 bytes arrived.</source>
+        <translation>Sono arrivati %1 byte su %2.</translation>
+    </message>
+</context>
+<context>
     <name>EditableListDialog</name>
     <message>
         <source>Edit Cell</source>
@@ -120,6 +131,43 @@
     <message>
         <source>OK</source>
         <translation>OK</translation>
+    </message>
+</context>
+<context>
+    <name>FrmDownload</name>
+    <message>
+        <source>Error During Download</source>
+        <translation>Errore durante lo scaricamento</translation>
+    </message>
+    <message>
+        <source>The installer could not be saved to %1 (%2).</source>
+        <translation>Non è stato possibile salvare il programma di installazione in %1 (%2).</translation>
+    </message>
+    <message>
+        <source>Complete</source>
+        <translation>Completato</translation>
+    </message>
+    <message>
+        <source>Downloading v%1
+%2 of %3</source>
+        <translation>Scaricamento v%1
+%2 di %3</translation>
+    </message>
+    <message>
+        <source>Quake 4 Vantage Update</source>
+        <translation>Aggiornamento di Quake 4 Vantage</translation>
+    </message>
+    <message>
+        <source>Downloading Quake 4 Vantage v%1</source>
+        <translation>Scaricamento di Quake 4 Vantage v%1</translation>
+    </message>
+    <message>
+        <source>Connecting to download site...</source>
+        <translation>Connessione al sito di download...</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annulla</translation>
     </message>
 </context>
 <context>
@@ -453,6 +501,37 @@
     </message>
 </context>
 <context>
+    <name>FrmUpdate</name>
+    <message>
+        <source>Quake 4 Vantage Update Available</source>
+        <translation>Aggiornamento di Quake 4 Vantage disponibile</translation>
+    </message>
+    <message>
+        <source>An update is now available for Quake 4 Vantage, would you like to download it now?</source>
+        <translation>È disponibile un aggiornamento di Quake 4 Vantage, vuoi scaricarlo ora?</translation>
+    </message>
+    <message>
+        <source>Current Version:</source>
+        <translation>Versione attuale:</translation>
+    </message>
+    <message>
+        <source>Latest Version:</source>
+        <translation>Ultima versione:</translation>
+    </message>
+    <message>
+        <source>Automatically check for updates in the future</source>
+        <translation>Controlla automaticamente gli aggiornamenti in futuro</translation>
+    </message>
+    <message>
+        <source>Yes</source>
+        <translation>Sì</translation>
+    </message>
+    <message>
+        <source>No</source>
+        <translation>No</translation>
+    </message>
+</context>
+<context>
     <name>JoinFlow</name>
     <message>
         <source>Join server by IP Address</source>
@@ -690,12 +769,16 @@
     <message numerus="yes">
         <source>%1: %n servers</source>
         <translation>
-<numerusform>%1: %n server</numerusform><numerusform>%1: %n server</numerusform></translation>
+            <numerusform>%1: %n server</numerusform>
+            <numerusform>%1: %n server</numerusform>
+        </translation>
     </message>
     <message numerus="yes">
         <source>(%n entries skipped)</source>
         <translation>
-<numerusform>(%n voce saltata)</numerusform><numerusform>(%n voci saltate)</numerusform></translation>
+            <numerusform>(%n voce saltata)</numerusform>
+            <numerusform>(%n voci saltate)</numerusform>
+        </translation>
     </message>
     <message>
         <source>(list cut at %1)</source>
@@ -817,7 +900,9 @@
     <message numerus="yes">
         <source>Forget the %n servers that answered before? Query Masters asks them again only when a master or a server list names them.</source>
         <translation>
-<numerusform>Dimenticare il server che ha risposto in passato? L'interrogazione lo chiederà di nuovo solo se un master o una lista lo nomina.</numerusform><numerusform>Dimenticare i %n server che hanno risposto in passato? L'interrogazione li chiederà di nuovo solo se un master o una lista li nomina.</numerusform></translation>
+            <numerusform>Dimenticare il server che ha risposto in passato? L'interrogazione lo chiederà di nuovo solo se un master o una lista lo nomina.</numerusform>
+            <numerusform>Dimenticare i %n server che hanno risposto in passato? L'interrogazione li chiederà di nuovo solo se un master o una lista li nomina.</numerusform>
+        </translation>
     </message>
     <message>
         <source>The known servers could not be removed from %1.</source>
@@ -830,7 +915,24 @@
     <message numerus="yes">
         <source>%n servers known.</source>
         <translation>
-<numerusform>%n server conosciuto.</numerusform><numerusform>%n server conosciuti.</numerusform></translation>
+            <numerusform>%n server conosciuto.</numerusform>
+            <numerusform>%n server conosciuti.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>UpdateFlow</name>
+    <message>
+        <source>Quake 4 Vantage Update</source>
+        <translation>Aggiornamento di Quake 4 Vantage</translation>
+    </message>
+    <message>
+        <source>The installer came without encryption (plain HTTP), so it will not be started. It was saved to %1.</source>
+        <translation>Il programma di installazione è arrivato senza cifratura (HTTP semplice), quindi non verrà avviato. È stato salvato in %1.</translation>
+    </message>
+    <message>
+        <source>The installer was saved to %1, but it cannot be started on this system.</source>
+        <translation>Il programma di installazione è stato salvato in %1, ma non può essere avviato su questo sistema.</translation>
     </message>
 </context>
 </TS>

@@ -36,6 +36,17 @@
     </message>
 </context>
 <context>
+    <name>Downloader</name>
+    <message>
+        <source>The site sent an empty file.</source>
+        <translation>De site stuurde een leeg bestand.</translation>
+    </message>
+    <message>
+        <source>%1 of %2 bytes arrived.</source>
+        <translation>%1 van %2 bytes zijn aangekomen.</translation>
+    </message>
+</context>
+<context>
     <name>EditableListDialog</name>
     <message>
         <source>Edit Cell</source>
@@ -120,6 +131,43 @@
     <message>
         <source>OK</source>
         <translation>OK</translation>
+    </message>
+</context>
+<context>
+    <name>FrmDownload</name>
+    <message>
+        <source>Error During Download</source>
+        <translation>Fout tijdens het downloaden</translation>
+    </message>
+    <message>
+        <source>The installer could not be saved to %1 (%2).</source>
+        <translation>Het installatieprogramma kon niet worden opgeslagen in %1 (%2).</translation>
+    </message>
+    <message>
+        <source>Complete</source>
+        <translation>Voltooid</translation>
+    </message>
+    <message>
+        <source>Downloading v%1
+%2 of %3</source>
+        <translation>Downloaden v%1
+%2 van %3</translation>
+    </message>
+    <message>
+        <source>Quake 4 Vantage Update</source>
+        <translation>Quake 4 Vantage update</translation>
+    </message>
+    <message>
+        <source>Downloading Quake 4 Vantage v%1</source>
+        <translation>Quake 4 Vantage v%1 downloaden</translation>
+    </message>
+    <message>
+        <source>Connecting to download site...</source>
+        <translation>Verbinden met de downloadsite...</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuleren</translation>
     </message>
 </context>
 <context>
@@ -453,6 +501,37 @@
     </message>
 </context>
 <context>
+    <name>FrmUpdate</name>
+    <message>
+        <source>Quake 4 Vantage Update Available</source>
+        <translation>Quake 4 Vantage update beschikbaar</translation>
+    </message>
+    <message>
+        <source>An update is now available for Quake 4 Vantage, would you like to download it now?</source>
+        <translation>Er is een update voor Quake 4 Vantage beschikbaar, wilt u deze nu downloaden?</translation>
+    </message>
+    <message>
+        <source>Current Version:</source>
+        <translation>Huidige versie:</translation>
+    </message>
+    <message>
+        <source>Latest Version:</source>
+        <translation>Nieuwste versie:</translation>
+    </message>
+    <message>
+        <source>Automatically check for updates in the future</source>
+        <translation>In de toekomst automatisch op updates controleren</translation>
+    </message>
+    <message>
+        <source>Yes</source>
+        <translation>Ja</translation>
+    </message>
+    <message>
+        <source>No</source>
+        <translation>Nee</translation>
+    </message>
+</context>
+<context>
     <name>JoinFlow</name>
     <message>
         <source>Join server by IP Address</source>
@@ -690,12 +769,16 @@
     <message numerus="yes">
         <source>%1: %n servers</source>
         <translation>
-<numerusform>%1: %n server</numerusform><numerusform>%1: %n servers</numerusform></translation>
+            <numerusform>%1: %n server</numerusform>
+            <numerusform>%1: %n servers</numerusform>
+        </translation>
     </message>
     <message numerus="yes">
         <source>(%n entries skipped)</source>
         <translation>
-<numerusform>(%n regel overgeslagen)</numerusform><numerusform>(%n regels overgeslagen)</numerusform></translation>
+            <numerusform>(%n regel overgeslagen)</numerusform>
+            <numerusform>(%n regels overgeslagen)</numerusform>
+        </translation>
     </message>
     <message>
         <source>(list cut at %1)</source>
@@ -817,7 +900,9 @@
     <message numerus="yes">
         <source>Forget the %n servers that answered before? Query Masters asks them again only when a master or a server list names them.</source>
         <translation>
-<numerusform>De %n server vergeten die eerder antwoordde? Query Masters vraagt hem alleen opnieuw als een master of een serverlijst hem noemt.</numerusform><numerusform>De %n servers vergeten die eerder antwoordden? Query Masters vraagt ze alleen opnieuw als een master of een serverlijst ze noemt.</numerusform></translation>
+            <numerusform>De %n server vergeten die eerder antwoordde? Query Masters vraagt hem alleen opnieuw als een master of een serverlijst hem noemt.</numerusform>
+            <numerusform>De %n servers vergeten die eerder antwoordden? Query Masters vraagt ze alleen opnieuw als een master of een serverlijst ze noemt.</numerusform>
+        </translation>
     </message>
     <message>
         <source>The known servers could not be removed from %1.</source>
@@ -830,7 +915,24 @@
     <message numerus="yes">
         <source>%n servers known.</source>
         <translation>
-<numerusform>%n server bekend.</numerusform><numerusform>%n servers bekend.</numerusform></translation>
+            <numerusform>%n server bekend.</numerusform>
+            <numerusform>%n servers bekend.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>UpdateFlow</name>
+    <message>
+        <source>Quake 4 Vantage Update</source>
+        <translation>Quake 4 Vantage update</translation>
+    </message>
+    <message>
+        <source>The installer came without encryption (plain HTTP), so it will not be started. It was saved to %1.</source>
+        <translation>Het installatieprogramma kwam zonder versleuteling (gewoon HTTP) en wordt daarom niet gestart. Het is opgeslagen in %1.</translation>
+    </message>
+    <message>
+        <source>The installer was saved to %1, but it cannot be started on this system.</source>
+        <translation>Het installatieprogramma is opgeslagen in %1, maar kan op dit systeem niet worden gestart.</translation>
     </message>
 </context>
 </TS>

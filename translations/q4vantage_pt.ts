@@ -36,6 +36,17 @@
     </message>
 </context>
 <context>
+    <name>Downloader</name>
+    <message>
+        <source>The site sent an empty file.</source>
+        <translation>O site enviou um ficheiro vazio.</translation>
+    </message>
+    <message>
+        <source>%1 of %2 bytes arrived.</source>
+        <translation>Chegaram %1 de %2 bytes.</translation>
+    </message>
+</context>
+<context>
     <name>EditableListDialog</name>
     <message>
         <source>Edit Cell</source>
@@ -120,6 +131,43 @@
     <message>
         <source>OK</source>
         <translation>OK</translation>
+    </message>
+</context>
+<context>
+    <name>FrmDownload</name>
+    <message>
+        <source>Error During Download</source>
+        <translation>Erro durante a transferência</translation>
+    </message>
+    <message>
+        <source>The installer could not be saved to %1 (%2).</source>
+        <translation>Não foi possível guardar o instalador em %1 (%2).</translation>
+    </message>
+    <message>
+        <source>Complete</source>
+        <translation>Concluído</translation>
+    </message>
+    <message>
+        <source>Downloading v%1
+%2 of %3</source>
+        <translation>A transferir v%1
+%2 de %3</translation>
+    </message>
+    <message>
+        <source>Quake 4 Vantage Update</source>
+        <translation>Atualização do Quake 4 Vantage</translation>
+    </message>
+    <message>
+        <source>Downloading Quake 4 Vantage v%1</source>
+        <translation>A transferir o Quake 4 Vantage v%1</translation>
+    </message>
+    <message>
+        <source>Connecting to download site...</source>
+        <translation>A ligar ao site de transferência...</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancelar</translation>
     </message>
 </context>
 <context>
@@ -453,6 +501,37 @@
     </message>
 </context>
 <context>
+    <name>FrmUpdate</name>
+    <message>
+        <source>Quake 4 Vantage Update Available</source>
+        <translation>Atualização do Quake 4 Vantage disponível</translation>
+    </message>
+    <message>
+        <source>An update is now available for Quake 4 Vantage, would you like to download it now?</source>
+        <translation>Está disponível uma atualização do Quake 4 Vantage, quer transferi-la agora?</translation>
+    </message>
+    <message>
+        <source>Current Version:</source>
+        <translation>Versão atual:</translation>
+    </message>
+    <message>
+        <source>Latest Version:</source>
+        <translation>Versão mais recente:</translation>
+    </message>
+    <message>
+        <source>Automatically check for updates in the future</source>
+        <translation>Procurar atualizações automaticamente no futuro</translation>
+    </message>
+    <message>
+        <source>Yes</source>
+        <translation>Sim</translation>
+    </message>
+    <message>
+        <source>No</source>
+        <translation>Não</translation>
+    </message>
+</context>
+<context>
     <name>JoinFlow</name>
     <message>
         <source>Join server by IP Address</source>
@@ -690,12 +769,16 @@
     <message numerus="yes">
         <source>%1: %n servers</source>
         <translation>
-<numerusform>%1: %n servidor</numerusform><numerusform>%1: %n servidores</numerusform></translation>
+            <numerusform>%1: %n servidor</numerusform>
+            <numerusform>%1: %n servidores</numerusform>
+        </translation>
     </message>
     <message numerus="yes">
         <source>(%n entries skipped)</source>
         <translation>
-<numerusform>(%n entrada ignorada)</numerusform><numerusform>(%n entradas ignoradas)</numerusform></translation>
+            <numerusform>(%n entrada ignorada)</numerusform>
+            <numerusform>(%n entradas ignoradas)</numerusform>
+        </translation>
     </message>
     <message>
         <source>(list cut at %1)</source>
@@ -817,7 +900,9 @@
     <message numerus="yes">
         <source>Forget the %n servers that answered before? Query Masters asks them again only when a master or a server list names them.</source>
         <translation>
-<numerusform>Esquecer o %n servidor que respondeu antes? Query Masters só o consulta de novo quando um mestre ou uma lista o indicar.</numerusform><numerusform>Esquecer os %n servidores que responderam antes? Query Masters só os consulta de novo quando um mestre ou uma lista os indicar.</numerusform></translation>
+            <numerusform>Esquecer o %n servidor que respondeu antes? Query Masters só o consulta de novo quando um mestre ou uma lista o indicar.</numerusform>
+            <numerusform>Esquecer os %n servidores que responderam antes? Query Masters só os consulta de novo quando um mestre ou uma lista os indicar.</numerusform>
+        </translation>
     </message>
     <message>
         <source>The known servers could not be removed from %1.</source>
@@ -830,7 +915,24 @@
     <message numerus="yes">
         <source>%n servers known.</source>
         <translation>
-<numerusform>%n servidor conhecido.</numerusform><numerusform>%n servidores conhecidos.</numerusform></translation>
+            <numerusform>%n servidor conhecido.</numerusform>
+            <numerusform>%n servidores conhecidos.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>UpdateFlow</name>
+    <message>
+        <source>Quake 4 Vantage Update</source>
+        <translation>Atualização do Quake 4 Vantage</translation>
+    </message>
+    <message>
+        <source>The installer came without encryption (plain HTTP), so it will not be started. It was saved to %1.</source>
+        <translation>O instalador chegou sem encriptação (HTTP simples), por isso não será iniciado. Foi guardado em %1.</translation>
+    </message>
+    <message>
+        <source>The installer was saved to %1, but it cannot be started on this system.</source>
+        <translation>O instalador foi guardado em %1, mas não pode ser iniciado neste sistema.</translation>
     </message>
 </context>
 </TS>

@@ -24,11 +24,13 @@
 #include "settingsstore.h"
 #include "statusline.h"
 #include "themeservice.h"
+#include "updateflow.h"
 #include "visiblelists.h"
 #include "windowstate.h"
 
 #include <QApplication>
 #include <QCloseEvent>
+#include <QFileInfo>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QProgressBar>
@@ -74,6 +76,14 @@ FrmMain::FrmMain(SettingsStore& settings, Desktop& desktop, Language& language, 
     m_serverPane->restoreSort();
     m_playerPane->restoreSort();
     m_themes->applyFile();
+
+    // The installer goes beside the program; installed where the user may
+    // not write, into the data folder instead.
+    const QString programFolder = QCoreApplication::applicationDirPath();
+    m_updates = new UpdateFlow(m_settings, m_desktop,
+                               QFileInfo(programFolder).isWritable() ? programFolder : m_dataFolder, this);
+    connect(m_updates, &UpdateFlow::quitRequested, this, &QWidget::close);
+    m_updates->checkAtStart();
 }
 
 FrmMain::~FrmMain() = default;

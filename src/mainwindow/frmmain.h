@@ -14,6 +14,7 @@ class QueryBar;
 class FrmOptions;
 class Language;
 class ThemeService;
+class UpdateFlow;
 class ListPane;
 class MulticolorLabel;
 class QAction;
@@ -62,6 +63,7 @@ public:
     const ServerLists& lists() const { return *m_lists; }
     const QueryController& queries() const { return *m_queries; }
     ThemeService& themes() const { return *m_themes; }
+    UpdateFlow& updates() const { return *m_updates; }
     // The options dialog, as cmdOptions opens it.
     FrmOptions* openOptions();
 
@@ -117,6 +119,7 @@ private:
     WindowState* m_state = nullptr;
     ListMenu* m_menu = nullptr;
     ThemeService* m_themes = nullptr;
+    UpdateFlow* m_updates = nullptr;
     FrmFilters* m_frmFilters = nullptr;
 
     QLabel* lblAbout = nullptr;

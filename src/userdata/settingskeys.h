@@ -2,6 +2,11 @@
 
 #include <QStringView>
 
+// The build names the update site; a build that does not has none.
+#ifndef Q4V_UPDATE_SITE
+#define Q4V_UPDATE_SITE ""
+#endif
+
 // Every key of the "Settings" group with its type and the default a reader
 // gets while the key was never written: one table, read and written only
 // through SettingsStore::value() and set(). Per-column and per-list keys
@@ -58,6 +63,8 @@ inline constexpr FlagSetting IncludePassworded{u"IncludePassworded", true};
 inline constexpr FlagSetting AutoUpdate{u"AutoUpdate", true};
 inline constexpr FlagSetting Proxy{u"Proxy", false};
 inline constexpr TextSetting ProxyAddress{u"ProxyAddress"};
+// The base address the update check asks; the build chooses the default.
+inline constexpr TextSetting UpdateSite{u"UpdateSite", u"" Q4V_UPDATE_SITE};
 // One or more "host[:port]" separated by commas or blanks; empty: the game
 // maker's master.
 inline constexpr TextSetting MasterServer{u"MasterServer"};

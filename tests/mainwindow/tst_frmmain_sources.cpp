@@ -1,8 +1,10 @@
 #include "fleet.h"
+#include "httpresponder.h"
 #include "knownservers.h"
 #include "lanquery.h"
 #include "querycontroller.h"
 #include "testwindow.h"
+#include "updateflow.h"
 
 #include <QDateTime>
 #include <QSignalSpy>
@@ -116,6 +118,27 @@ private slots:
         QCOMPARE(listedRows(w), 2);
         QVERIFY(lanButton->isVisible());
         QCOMPARE(KnownServers::readFile(w.dataFile(QStringLiteral("servers.dat"))).size(), 2);
+    }
+
+    void theUpdateSiteIsAskedAtStartOnlyWhenWanted()
+    {
+        HttpResponder site;
+        site.set(QStringLiteral("/downloads/vantageupdate.txt"), {200, "0.0.1", "text/plain", 0});
+        const auto aimed = [&site](bool wanted) {
+            return [&site, wanted](SettingsStore& settings) {
+                settings.save(u"UpdateSite", site.url(QString()).toString());
+                settings.save(u"AutoUpdate", QLatin1String(wanted ? "1" : "0"));
+            };
+        };
+        {
+            TestWindow w(25950, StartPort + 300, aimed(true));
+            QTRY_COMPARE_WITH_TIMEOUT(site.requests(), 1, 5000);
+            QTRY_VERIFY(!w.window->updates().isChecking());
+            QVERIFY(w.window->isVisible()); // an older version changes nothing
+        }
+        TestWindow w(25950, StartPort + 300, aimed(false));
+        QTest::qWait(200);
+        QCOMPARE(site.requests(), 1);
     }
 };
 

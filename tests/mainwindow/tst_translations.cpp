@@ -1,8 +1,10 @@
 #include "frmabout.h"
+#include "frmdownload.h"
 #include "frmfavourites.h"
 #include "frmfilters.h"
 #include "frmmain.h"
 #include "frmoptions.h"
+#include "frmupdate.h"
 #include "language.h"
 #include "scripteddesktop.h"
 #include "settingsstore.h"
@@ -70,7 +72,9 @@ const QSet<QString> SameEverywhere{QStringLiteral("Quake 4 Vantage"),
                                    QStringLiteral("ISDN (128k)"),
                                    QStringLiteral("Mod"),
                                    QStringLiteral("-"),
-                                   QStringLiteral("Version " Q4V_VERSION)};
+                                   QStringLiteral("Version " Q4V_VERSION),
+                                   QStringLiteral(Q4V_VERSION),
+                                   QStringLiteral("1.2.3")};
 
 // And the words one language shares with English (the Dutch and Portuguese
 // "Query Masters" are quoted as written).
@@ -83,7 +87,7 @@ QSet<QString> sameIn(int language)
     case 3:
         return {QStringLiteral("Options"), QStringLiteral("Type")};
     case 4:
-        return {QStringLiteral("Password"), QStringLiteral("Password:"), QStringLiteral("Pw")};
+        return {QStringLiteral("Password"), QStringLiteral("Password:"), QStringLiteral("Pw"), QStringLiteral("No")};
     case 5:
         return {QStringLiteral("Filters"), QStringLiteral("Servers"), QStringLiteral("Rate"),
                 QStringLiteral("Query Masters")};
@@ -112,11 +116,14 @@ class TestTranslations final : public QObject {
         FrmFavourites favourites{settings, dir.path()};
         FrmFilters filters{settings, dir.path()};
         FrmAbout about{desktop, QUrl()};
+        FrmUpdate update{settings, {QStringLiteral("1"), QStringLiteral("2"), QStringLiteral("3")}};
+        FrmDownload download{desktop, {QStringLiteral("1"), QStringLiteral("2"), QStringLiteral("3")}};
 
         QMap<QString, QString> texts()
         {
             QMap<QString, QString> all;
-            for (QWidget* window : std::initializer_list<QWidget*>{&main, &options, &favourites, &filters, &about}) {
+            for (QWidget* window :
+                 std::initializer_list<QWidget*>{&main, &options, &favourites, &filters, &about, &update, &download}) {
                 const QMap<QString, QString> own = textsOf(window);
                 for (auto it = own.cbegin(); it != own.cend(); ++it)
                     all.insert(window->objectName() + QLatin1Char('/') + it.key(), it.value());

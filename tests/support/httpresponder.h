@@ -8,6 +8,8 @@
 #include <QTimer>
 #include <QUrl>
 
+#include <memory>
+
 // A small HTTP/1.1 server on 127.0.0.1 for tests: each path answers with a
 // status, a body and, when asked, after a delay. Unknown paths get 404.
 // It reads the request line only, which is all a GET from Qt needs.
@@ -18,6 +20,9 @@ public:
         QByteArray body;
         QByteArray contentType = "application/json";
         int delayMs = 0;
+        // Above 0: the body goes out in pieces this large, 5 ms apart, as
+        // over a slow line.
+        int pieceBytes = 0;
     };
 
     HttpResponder()
@@ -55,8 +60,23 @@ private:
                               (reply.status == 200 ? " OK" : " Not Found") + "\r\nContent-Type: " + reply.contentType +
                               "\r\nContent-Length: " + QByteArray::number(reply.body.size()) +
                               "\r\nConnection: close\r\n\r\n";
-            socket->write(head + reply.body);
-            socket->disconnectFromHost();
+            if (reply.pieceBytes <= 0) {
+                socket->write(head + reply.body);
+                socket->disconnectFromHost();
+                return;
+            }
+            socket->write(head);
+            auto* pieces = new QTimer(socket);
+            auto sent = std::make_shared<qsizetype>(0);
+            connect(pieces, &QTimer::timeout, socket, [socket, pieces, sent, reply] {
+                socket->write(reply.body.mid(*sent, reply.pieceBytes));
+                *sent += reply.pieceBytes;
+                if (*sent >= reply.body.size()) {
+                    pieces->stop();
+                    socket->disconnectFromHost();
+                }
+            });
+            pieces->start(5);
         };
         connect(socket, &QTcpSocket::disconnected, socket, &QObject::deleteLater);
         if (reply.delayMs > 0)

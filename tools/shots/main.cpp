@@ -1,16 +1,20 @@
 // Takes a picture of every window of the program in every language: the
 // main window listing a simulated fleet (both views), the options dialog
-// (every tab), the favourites and filters editors and the About box.
+// (every tab), the favourites and filters editors, the About box and the
+// two update dialogs.
 //   q4vantage-shots OUTPUT_FOLDER [LANGUAGE_INDEX...]
 // Run it on a real display server (scripts/screenshots.sh uses Xvfb) to
 // see the fonts and style a user sees.
 #include "desktop.h"
+#include "frmdownload.h"
 #include "frmmain.h"
+#include "frmupdate.h"
 #include "language.h"
 #include "querycontroller.h"
 #include "reportview.h"
 #include "settingsstore.h"
 #include "simfleet.h"
+#include "updatetransfer.h"
 
 #include <QApplication>
 #include <QDialog>
@@ -150,6 +154,20 @@ bool shootLanguage(int language, const QDir& out)
         ok = save(about, out, QStringLiteral("about")) && ok;
         about->close();
     }
+
+    // The update dialogs as a newer version 1.2.3 would show them, the
+    // download half way.
+    const QStringList latest{QStringLiteral("1"), QStringLiteral("2"), QStringLiteral("3")};
+    FrmUpdate update(settings, latest, &main);
+    update.show();
+    ok = save(&update, out, QStringLiteral("update")) && ok;
+    update.hide();
+    FrmDownload download(desktop, latest, &main);
+    download.show();
+    QMetaObject::invokeMethod(download.findChild<Downloader*>(), "progress", Q_ARG(qint64, 1048576),
+                              Q_ARG(qint64, 2097152));
+    ok = save(&download, out, QStringLiteral("download")) && ok;
+    download.hide();
     main.close();
     return ok;
 }

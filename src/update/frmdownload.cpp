@@ -1,0 +1,93 @@
+#include "frmdownload.h"
+
+#include "desktop.h"
+#include "namedcontrol.h"
+#include "updatetransfer.h"
+#include "updateversion.h"
+
+#include <QEvent>
+#include <QLabel>
+#include <QProgressBar>
+#include <QVBoxLayout>
+
+FrmDownload::FrmDownload(Desktop& desktop, const QStringList& latest, QWidget* parent)
+    : QDialog(parent)
+    , m_desktop(desktop)
+    , m_latest(UpdateVersion::text(latest))
+    , m_downloader(new Downloader(this))
+{
+    setObjectName(QStringLiteral("frmDownload"));
+    prgBar = makeControl<QProgressBar>(this, "prgBar");
+    prgBar->setRange(0, 1);
+    prgBar->setValue(0);
+    prgBar->setTextVisible(false);
+    lblProgress = makeControl<QLabel>(this, "lblProgress");
+    cmdCancel = makeControl<QPushButton>(this, "cmdCancel");
+    auto* layout = new QVBoxLayout(this);
+    layout->addWidget(lblProgress);
+    layout->addWidget(prgBar);
+    layout->addWidget(cmdCancel, 0, Qt::AlignRight);
+    setMinimumWidth(360);
+
+    connect(cmdCancel, &QPushButton::clicked, this, &FrmDownload::reject);
+    connect(m_downloader, &Downloader::progress, this, &FrmDownload::showProgress);
+    connect(m_downloader, &Downloader::failed, this, [this] { fail(tr("Error During Download")); });
+    connect(m_downloader, &Downloader::notSaved, this, [this](const QString& target, const QString& reason) {
+        fail(tr("The installer could not be saved to %1 (%2).").arg(target, reason));
+    });
+    connect(m_downloader, &Downloader::completed, this, [this](const QString& target, bool trusted) {
+        m_target = target;
+        m_trusted = trusted;
+        prgBar->hide();
+        lblProgress->setText(tr("Complete"));
+        accept();
+    });
+    retranslateUi();
+}
+
+void FrmDownload::begin(const QUrl& url, const QString& target, const QNetworkProxy& proxy)
+{
+    m_downloader->begin(url, target, proxy);
+}
+
+void FrmDownload::showProgress(qint64 received, qint64 total)
+{
+    m_received = received;
+    m_total = std::max<qint64>(total, 0);
+    // The bar counts in kilobytes past 2 GB, where an int ends.
+    const int scale = m_total > std::numeric_limits<int>::max() ? 1024 : 1;
+    prgBar->setMaximum(int(std::max<qint64>(m_total / scale, 1)));
+    prgBar->setValue(int(std::min(received, m_total) / scale));
+    lblProgress->setText(tr("Downloading v%1\n%2 of %3").arg(m_latest).arg(received).arg(m_total));
+}
+
+void FrmDownload::fail(const QString& text)
+{
+    m_downloader->cancel();
+    m_desktop.message(this, Desktop::Icon::Critical, tr("Quake 4 Vantage Update"), text, QMessageBox::Ok);
+    QDialog::reject();
+}
+
+void FrmDownload::reject()
+{
+    // Cancel or the window's close: the transfer stops, nothing is started.
+    m_downloader->cancel();
+    QDialog::reject();
+}
+
+void FrmDownload::retranslateUi()
+{
+    setWindowTitle(tr("Downloading Quake 4 Vantage v%1").arg(m_latest));
+    if (m_received == 0 && prgBar->isVisibleTo(this))
+        lblProgress->setText(tr("Connecting to download site..."));
+    else if (prgBar->isVisibleTo(this))
+        showProgress(m_received, m_total);
+    cmdCancel->setText(tr("Cancel"));
+}
+
+void FrmDownload::changeEvent(QEvent* event)
+{
+    QDialog::changeEvent(event);
+    if (event->type() == QEvent::LanguageChange)
+        retranslateUi();
+}

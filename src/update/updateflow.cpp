@@ -1,0 +1,79 @@
+#include "updateflow.h"
+
+#include "desktop.h"
+#include "frmdownload.h"
+#include "frmupdate.h"
+#include "httpproxy.h"
+#include "settingsstore.h"
+#include "updatetransfer.h"
+#include "updateversion.h"
+
+#include <QDir>
+
+UpdateFlow::UpdateFlow(SettingsStore& settings, Desktop& desktop, QString installerFolder, QWidget* window)
+    : QObject(window)
+    , m_settings(settings)
+    , m_desktop(desktop)
+    , m_installerFolder(std::move(installerFolder))
+    , m_window(window)
+    , m_check(new UpdateCheck(this))
+{
+    connect(m_check, &UpdateCheck::checked, this, [this](bool newer, const QStringList& latest) {
+        if (newer)
+            offer(latest);
+    });
+}
+
+bool UpdateFlow::checkAtStart()
+{
+    if (!m_settings.value(Keys::AutoUpdate))
+        return false;
+    return m_check->start(m_settings.value(Keys::UpdateSite),
+                          httpProxy(m_settings.value(Keys::Proxy), m_settings.value(Keys::ProxyAddress)));
+}
+
+bool UpdateFlow::isChecking() const
+{
+    return m_check->isRunning();
+}
+
+void UpdateFlow::offer(const QStringList& latest)
+{
+    auto* dialog = new FrmUpdate(m_settings, latest, m_window);
+    dialog->setAttribute(Qt::WA_DeleteOnClose);
+    connect(dialog, &QDialog::accepted, this, [this, latest] { download(latest); });
+    dialog->open();
+}
+
+void UpdateFlow::download(const QStringList& latest)
+{
+    auto* dialog = new FrmDownload(m_desktop, latest, m_window);
+    dialog->setAttribute(Qt::WA_DeleteOnClose);
+    connect(dialog, &QDialog::accepted, this, [this, dialog] { downloaded(dialog->target(), dialog->trusted()); });
+    dialog->open();
+    dialog->begin(UpdateVersion::installerUrl(m_settings.value(Keys::UpdateSite)),
+                  QDir(m_installerFolder).filePath(QLatin1String(UpdateVersion::InstallerFileName)),
+                  httpProxy(m_settings.value(Keys::Proxy), m_settings.value(Keys::ProxyAddress)));
+}
+
+void UpdateFlow::downloaded(const QString& installer, bool trusted)
+{
+    const QString title = tr("Quake 4 Vantage Update");
+    if (!trusted) {
+        // Anyone between here and the site could have changed it.
+        m_desktop.message(m_window, Desktop::Icon::Warning, title,
+                          tr("The installer came without encryption (plain HTTP), so it will not be started. It was "
+                             "saved to %1.")
+                              .arg(QDir::toNativeSeparators(installer)),
+                          QMessageBox::Ok);
+        return;
+    }
+    if (!m_desktop.startDetached(installer, {}, QString())) {
+        m_desktop.message(m_window, Desktop::Icon::Warning, title,
+                          tr("The installer was saved to %1, but it cannot be started on this system.")
+                              .arg(QDir::toNativeSeparators(installer)),
+                          QMessageBox::Ok);
+        return;
+    }
+    emit quitRequested();
+}

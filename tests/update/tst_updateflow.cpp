@@ -1,0 +1,316 @@
+#include "frmdownload.h"
+#include "frmupdate.h"
+#include "httpresponder.h"
+#include "scripteddesktop.h"
+#include "settingsstore.h"
+#include "updateflow.h"
+#include "updatetransfer.h"
+#include "updateversion.h"
+
+#include <QCheckBox>
+#include <QElapsedTimer>
+#include <QFile>
+#include <QLabel>
+#include <QPushButton>
+#include <QSignalSpy>
+#include <QTemporaryDir>
+#include <QTest>
+
+namespace {
+
+const QString VersionPath = QStringLiteral("/downloads/vantageupdate.txt");
+const QString InstallerPath = QStringLiteral("/downloads/Quake%204%20Vantage%20Setup.exe");
+
+// A port nobody listens on.
+quint16 closedPort()
+{
+    QTcpServer server;
+    server.listen(QHostAddress::LocalHost, 0);
+    return server.serverPort();
+}
+
+QByteArray installerBytes(int size)
+{
+    QByteArray bytes(size, '\0');
+    for (int i = 0; i < size; ++i)
+        bytes[i] = char(i * 7 % 251);
+    return bytes;
+}
+
+} // namespace
+
+// The update as a user meets it: a window, a site on this machine, the
+// dialogs answered by clicks and the desktop's boxes by script.
+class TestUpdateFlow final : public QObject {
+    Q_OBJECT
+
+    std::unique_ptr<QTemporaryDir> m_dir;
+    std::unique_ptr<SettingsStore> m_settings;
+    std::unique_ptr<ScriptedDesktop> m_desktop;
+    std::unique_ptr<QWidget> m_window;
+    std::unique_ptr<HttpResponder> m_site;
+    UpdateFlow* m_flow = nullptr;
+
+    QString installer() const { return m_dir->filePath(QLatin1String(UpdateVersion::InstallerFileName)); }
+    template <typename T> T* dialog(const char* name) const { return m_window->findChild<T*>(QLatin1String(name)); }
+    template <typename T> T* control(QWidget* dialog, const char* name) const
+    {
+        T* found = dialog->findChild<T*>(QLatin1String(name));
+        if (!found)
+            qFatal("no control named %s", name);
+        return found;
+    }
+    void click(QWidget* dialog, const char* name) const
+    {
+        QTest::mouseClick(control<QAbstractButton>(dialog, name), Qt::LeftButton);
+    }
+    void serve(const QByteArray& version, const QByteArray& installerBody, int installerDelayMs = 0, int pieceBytes = 0)
+    {
+        m_site->set(VersionPath, {200, version, "text/plain", 0});
+        m_site->set(InstallerPath, {200, installerBody, "application/octet-stream", installerDelayMs, pieceBytes});
+    }
+    // Waits for the offer, then says Yes.
+    FrmDownload* acceptOffer() const
+    {
+        if (!QTest::qWaitFor([this] { return dialog<FrmUpdate>("frmUpdate") != nullptr; }, 6000))
+            return nullptr;
+        click(dialog<FrmUpdate>("frmUpdate"), "cmdYes");
+        return dialog<FrmDownload>("frmDownload");
+    }
+
+private slots:
+    void init()
+    {
+        m_dir = std::make_unique<QTemporaryDir>();
+        m_settings = std::make_unique<SettingsStore>(m_dir->filePath(QStringLiteral("settings.ini")));
+        m_desktop = std::make_unique<ScriptedDesktop>();
+        m_window = std::make_unique<QWidget>();
+        m_window->show();
+        m_site = std::make_unique<HttpResponder>();
+        m_settings->set(Keys::UpdateSite, m_site->url(QString()).toString());
+        m_flow = new UpdateFlow(*m_settings, *m_desktop, m_dir->path(), m_window.get());
+    }
+    void cleanup()
+    {
+        m_window.reset();
+        QCOMPARE(m_desktop->unexpectedCalls, 0);
+    }
+
+    void aNewerVersionIsOfferedDownloadedAndStarted()
+    {
+        const QByteArray body = installerBytes(256 * 1024);
+        serve("99.0.0\r\n", body, 0, 4 * 1024); // Qt reports progress at most every 100 ms
+        QSignalSpy quit(m_flow, &UpdateFlow::quitRequested);
+        QVERIFY(m_flow->checkAtStart());
+        QTRY_VERIFY_WITH_TIMEOUT(dialog<FrmUpdate>("frmUpdate"), 6000);
+        FrmUpdate* offer = dialog<FrmUpdate>("frmUpdate");
+        QVERIFY(offer->isVisible());
+        QCOMPARE(offer->windowTitle(), QStringLiteral("Quake 4 Vantage Update Available"));
+        QCOMPARE(control<QLabel>(offer, "lblCVersion2")->text(), QStringLiteral(Q4V_VERSION));
+        QCOMPARE(control<QLabel>(offer, "lblLVersion2")->text(), QStringLiteral("99.0.0"));
+        QVERIFY(control<QCheckBox>(offer, "chkAskAgain")->isChecked());
+
+        click(offer, "cmdYes");
+        FrmDownload* download = dialog<FrmDownload>("frmDownload");
+        QVERIFY(download);
+        QCOMPARE(download->windowTitle(), QStringLiteral("Downloading Quake 4 Vantage v99.0.0"));
+        QCOMPARE(control<QLabel>(download, "lblProgress")->text(), QStringLiteral("Connecting to download site..."));
+        // What the label said after each piece arrived (this connection runs
+        // after the dialog's own).
+        QStringList shown;
+        auto* label = control<QLabel>(download, "lblProgress");
+        auto* downloader = download->findChild<Downloader*>();
+        connect(downloader, &Downloader::progress, this, [&shown, label] { shown.append(label->text()); });
+        QTRY_COMPARE_WITH_TIMEOUT(quit.count(), 1, 10000);
+        QVERIFY2(shown.size() > 2, qPrintable(shown.join(QLatin1Char('|'))));
+        QCOMPARE(shown.last(), QStringLiteral("Downloading v99.0.0\n%1 of %1").arg(body.size()));
+
+        QCOMPARE(m_desktop->starts.size(), 1);
+        QCOMPARE(m_desktop->starts.first().program, installer());
+        QVERIFY(m_desktop->starts.first().arguments.isEmpty());
+        QFile file(installer());
+        QVERIFY(file.open(QIODevice::ReadOnly));
+        QCOMPARE(file.readAll(), body);
+        QVERIFY(m_settings->value(Keys::AutoUpdate));
+        QVERIFY(m_site->lastRequest().startsWith("GET " + InstallerPath.toLatin1() + " "));
+    }
+
+    void noUpdateShowsNothing_data()
+    {
+        QTest::addColumn<int>("status");
+        QTest::addColumn<QByteArray>("version");
+        QTest::newRow("older") << 200 << QByteArray("0.0.1");
+        QTest::newRow("same") << 200 << QByteArray(Q4V_VERSION);
+        QTest::newRow("missing file") << 404 << QByteArray("99.0.0");
+        QTest::newRow("too short") << 200 << QByteArray("9.");
+    }
+    void noUpdateShowsNothing()
+    {
+        QFETCH(int, status);
+        QFETCH(QByteArray, version);
+        m_site->set(VersionPath, {status, version, "text/plain", 0});
+        QSignalSpy checked(m_flow->findChild<UpdateCheck*>(), &UpdateCheck::checked);
+        QVERIFY(m_flow->checkAtStart());
+        QTRY_COMPARE_WITH_TIMEOUT(checked.count(), 1, 6000);
+        QVERIFY(!checked.first().at(0).toBool());
+        QTest::qWait(50);
+        QVERIFY(!dialog<FrmUpdate>("frmUpdate"));
+        QCOMPARE(m_site->requests(), 1);
+    }
+
+    void anUnreachableOrSlowSiteNeitherOffersNorBlocks()
+    {
+        auto* check = m_flow->findChild<UpdateCheck*>();
+        QSignalSpy checked(check, &UpdateCheck::checked);
+        m_settings->set(Keys::UpdateSite, QStringLiteral("http://127.0.0.1:%1").arg(closedPort()));
+        QVERIFY(m_flow->checkAtStart());
+        QTRY_COMPARE_WITH_TIMEOUT(checked.count(), 1, 3000);
+        QVERIFY(!checked.first().at(0).toBool());
+
+        m_settings->set(Keys::UpdateSite, m_site->url(QString()).toString());
+        m_site->set(VersionPath, {200, "99.0.0", "text/plain", UpdateCheck::TimeoutMs + 3000});
+        QElapsedTimer clock;
+        qint64 longestGap = 0;
+        QTimer ticker;
+        connect(&ticker, &QTimer::timeout, this, [&] { longestGap = std::max(longestGap, clock.restart()); });
+        QElapsedTimer total;
+        total.start();
+        QVERIFY(m_flow->checkAtStart());
+        clock.start();
+        ticker.start(10);
+        QTRY_COMPARE_WITH_TIMEOUT(checked.count(), 2, UpdateCheck::TimeoutMs + 2000);
+        QVERIFY(total.elapsed() >= UpdateCheck::TimeoutMs - 50);
+        QVERIFY(!checked.last().at(0).toBool());
+        QVERIFY2(longestGap < 300, qPrintable(QStringLiteral("the window stood still %1 ms").arg(longestGap)));
+        QTest::qWait(50);
+        QVERIFY(!dialog<FrmUpdate>("frmUpdate"));
+    }
+
+    void switchedOffOrWithoutASiteNothingIsAsked()
+    {
+        m_site->set(VersionPath, {200, "99.0.0", "text/plain", 0});
+        m_settings->set(Keys::AutoUpdate, false);
+        QVERIFY(!m_flow->checkAtStart());
+        m_settings->set(Keys::AutoUpdate, true);
+        m_settings->set(Keys::UpdateSite, QString());
+        QVERIFY(!m_flow->checkAtStart());
+        QTest::qWait(100);
+        QCOMPARE(m_site->requests(), 0);
+        QCOMPARE(QStringLiteral(Q4V_UPDATE_SITE), QString()); // our builds name no site
+    }
+
+    void noWithTheBoxClearedStopsFutureChecks()
+    {
+        serve("99.0.0", "x");
+        QVERIFY(m_flow->checkAtStart());
+        QTRY_VERIFY_WITH_TIMEOUT(dialog<FrmUpdate>("frmUpdate"), 6000);
+        FrmUpdate* offer = dialog<FrmUpdate>("frmUpdate");
+        control<QCheckBox>(offer, "chkAskAgain")->click();
+        click(offer, "cmdNo");
+        QVERIFY(!m_settings->value(Keys::AutoUpdate));
+        QVERIFY(!dialog<FrmDownload>("frmDownload"));
+        QVERIFY(!m_flow->checkAtStart());
+        QCOMPARE(m_site->requests(), 1);
+    }
+
+    void aFailedDownloadSaysSoAndStartsNothing_data()
+    {
+        QTest::addColumn<int>("status");
+        QTest::addColumn<QByteArray>("body");
+        QTest::newRow("missing") << 404 << QByteArray("gone");
+        QTest::newRow("empty") << 200 << QByteArray();
+    }
+    void aFailedDownloadSaysSoAndStartsNothing()
+    {
+        QFETCH(int, status);
+        QFETCH(QByteArray, body);
+        m_site->set(VersionPath, {200, "99.0.0", "text/plain", 0});
+        m_site->set(InstallerPath, {status, body, "application/octet-stream", 0});
+        m_desktop->messageAnswers.enqueue(QMessageBox::Ok);
+        QSignalSpy quit(m_flow, &UpdateFlow::quitRequested);
+        QVERIFY(m_flow->checkAtStart());
+        QVERIFY(acceptOffer());
+        QTRY_COMPARE_WITH_TIMEOUT(m_desktop->messages.size(), 1, 5000);
+        const auto& box = m_desktop->messages.first();
+        QCOMPARE(box.icon, Desktop::Icon::Critical);
+        QCOMPARE(box.title, QStringLiteral("Quake 4 Vantage Update"));
+        QCOMPARE(box.text, QStringLiteral("Error During Download"));
+        QTRY_VERIFY(!dialog<FrmDownload>("frmDownload"));
+        QVERIFY(m_desktop->starts.isEmpty());
+        QCOMPARE(quit.count(), 0);
+        QVERIFY(!QFile::exists(installer()));
+    }
+
+    void aShorterInstallerKeepsTheOldTail()
+    {
+        {
+            QFile old(installer());
+            QVERIFY(old.open(QIODevice::WriteOnly));
+            old.write("0123456789");
+        }
+        serve("99.0.0", "abc");
+        QVERIFY(m_flow->checkAtStart());
+        QVERIFY(acceptOffer());
+        QTRY_COMPARE_WITH_TIMEOUT(m_desktop->starts.size(), 1, 5000);
+        QFile file(installer());
+        QVERIFY(file.open(QIODevice::ReadOnly));
+        QCOMPARE(file.readAll(), QByteArray("abc3456789"));
+    }
+
+    void cancelStopsTheDownload()
+    {
+        serve("99.0.0", installerBytes(1000), 3000);
+        QVERIFY(m_flow->checkAtStart());
+        FrmDownload* download = acceptOffer();
+        QVERIFY(download);
+        QTest::qWait(100);
+        click(download, "cmdCancel");
+        QTRY_VERIFY(!dialog<FrmDownload>("frmDownload"));
+        QTest::qWait(3500);
+        QVERIFY(m_desktop->starts.isEmpty());
+        QVERIFY(!QFile::exists(installer()));
+    }
+
+    void anInstallerThatCannotStartLeavesTheProgramOpen()
+    {
+        serve("99.0.0", "MZ not for this system");
+        m_desktop->startSucceeds = false;
+        m_desktop->messageAnswers.enqueue(QMessageBox::Ok);
+        QSignalSpy quit(m_flow, &UpdateFlow::quitRequested);
+        QVERIFY(m_flow->checkAtStart());
+        QVERIFY(acceptOffer());
+        QTRY_COMPARE_WITH_TIMEOUT(m_desktop->messages.size(), 1, 5000);
+        QVERIFY(m_desktop->messages.first().text.contains(QDir::toNativeSeparators(installer())));
+        QVERIFY(m_desktop->messages.first().text.contains(QStringLiteral("cannot be started")));
+        QCOMPARE(quit.count(), 0);
+        QVERIFY(QFile::exists(installer()));
+    }
+
+    void plainHttpFromElsewhereIsNeverStarted()
+    {
+        // The site is somewhere else, reached through the proxy of the
+        // options (the responder plays the proxy): both transfers go through
+        // it, and an installer fetched without encryption is not run.
+        m_settings->set(Keys::UpdateSite, QStringLiteral("http://updates.invalid/q4v"));
+        m_settings->set(Keys::Proxy, true);
+        m_settings->set(Keys::ProxyAddress, QStringLiteral("127.0.0.1:%1").arg(m_site->url(QString()).port()));
+        m_site->set(QStringLiteral("http://updates.invalid/q4v") + VersionPath, {200, "99.0.0", "text/plain", 0});
+        m_site->set(QStringLiteral("http://updates.invalid/q4v") + InstallerPath, {200, "installer", "x", 0});
+        m_desktop->messageAnswers.enqueue(QMessageBox::Ok);
+        QVERIFY(m_flow->checkAtStart());
+        QVERIFY(acceptOffer());
+        QTRY_COMPARE_WITH_TIMEOUT(m_desktop->messages.size(), 1, 5000);
+        QVERIFY(m_desktop->messages.first().text.startsWith(QStringLiteral("The installer came without encryption")));
+        QVERIFY(m_desktop->starts.isEmpty());
+        QCOMPARE(m_site->requests(), 2);
+        QVERIFY(QFile::exists(installer()));
+
+        QVERIFY(Downloader::isTrusted(QUrl(QStringLiteral("https://updates.example/x"))));
+        QVERIFY(Downloader::isTrusted(QUrl(QStringLiteral("http://localhost:8080/x"))));
+        QVERIFY(Downloader::isTrusted(QUrl(QStringLiteral("http://127.0.0.2/x"))));
+        QVERIFY(!Downloader::isTrusted(QUrl(QStringLiteral("http://updates.example/x"))));
+    }
+};
+
+QTEST_MAIN(TestUpdateFlow)
+#include "tst_updateflow.moc"
