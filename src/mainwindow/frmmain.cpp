@@ -3,6 +3,7 @@
 #include "desktop.h"
 #include "favourites.h"
 #include "findbar.h"
+#include "folders.h"
 #include "frmabout.h"
 #include "frmfavourites.h"
 #include "frmfilters.h"
@@ -77,11 +78,13 @@ FrmMain::FrmMain(SettingsStore& settings, Desktop& desktop, Language& language, 
     m_playerPane->restoreSort();
     m_themes->applyFile();
 
-    // The installer goes beside the program; installed where the user may
-    // not write, into the data folder instead.
-    const QString programFolder = QCoreApplication::applicationDirPath();
-    m_updates = new UpdateFlow(m_settings, m_desktop,
-                               QFileInfo(programFolder).isWritable() ? programFolder : m_dataFolder, this);
+    // The installer goes beside a portable program; an installed one keeps
+    // it in the data folder, as it keeps everything it writes.
+    const QString programFolder = Folders::programFolder();
+    m_updates = new UpdateFlow(
+        m_settings, m_desktop,
+        !Folders::isInstalled(programFolder) && QFileInfo(programFolder).isWritable() ? programFolder : m_dataFolder,
+        this);
     connect(m_updates, &UpdateFlow::quitRequested, this, &QWidget::close);
     m_updates->checkAtStart();
 }

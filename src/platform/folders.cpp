@@ -19,10 +19,16 @@ QString dataFolder()
 
 QString chooseDataFolder(const QString& programFolder, const QString& userFolder)
 {
-    if (!programFolder.isEmpty() && canCreateFilesIn(programFolder))
+    if (!programFolder.isEmpty() && !isInstalled(programFolder) && canCreateFilesIn(programFolder))
         return QDir::cleanPath(programFolder);
     QDir().mkpath(userFolder);
     return QDir::cleanPath(userFolder);
+}
+
+bool isInstalled(const QString& programFolder)
+{
+    return QFileInfo::exists(
+        QDir(programFolder).filePath(QStringLiteral("../share/metainfo/org.q4vantage.Q4Vantage.metainfo.xml")));
 }
 
 bool canCreateFilesIn(const QString& folder)

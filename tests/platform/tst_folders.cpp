@@ -35,6 +35,22 @@ private slots:
         QCOMPARE(Folders::chooseDataFolder(QString(), user), user);
     }
 
+    void anInstalledProgramKeepsItsDataWithTheUser()
+    {
+        // A prefix as the install leaves it: bin/ and the metadata in share/,
+        // writable here as /usr/bin is for root.
+        const QString prefix = m_dir.filePath(QStringLiteral("usr"));
+        QVERIFY(QDir().mkpath(prefix + QStringLiteral("/bin")));
+        QVERIFY(QDir().mkpath(prefix + QStringLiteral("/share/metainfo")));
+        const QString user = m_dir.filePath(QStringLiteral("home-data"));
+        QCOMPARE(Folders::chooseDataFolder(prefix + QStringLiteral("/bin"), user), prefix + QStringLiteral("/bin"));
+        QFile metadata(prefix + QStringLiteral("/share/metainfo/org.q4vantage.Q4Vantage.metainfo.xml"));
+        QVERIFY(metadata.open(QIODevice::WriteOnly));
+        metadata.close();
+        QVERIFY(Folders::isInstalled(prefix + QStringLiteral("/bin")));
+        QCOMPARE(Folders::chooseDataFolder(prefix + QStringLiteral("/bin"), user), user);
+    }
+
     void canCreateFilesIn()
     {
         QVERIFY(Folders::canCreateFilesIn(m_dir.path()));
