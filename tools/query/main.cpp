@@ -176,10 +176,12 @@ int main(int argc, char* argv[])
 
     QuerySession session;
     session.setPool(plan);
-    QList<ServerRecord> answers;
     int exitCode = Finished;
+    // Each answer is written as it comes and then forgotten.
+    QueryReport::Writer writer(format == QLatin1String("json") ? QueryReport::Format::Json : QueryReport::Format::Text);
+    const auto write = [](const QByteArray& bytes) { std::fwrite(bytes.constData(), 1, size_t(bytes.size()), stdout); };
     QObject::connect(&session, &QuerySession::serverAnswered, &app,
-                     [&answers](const ServerRecord& server) { answers.append(server); });
+                     [&writer, &write](const ServerRecord& server) { write(writer.server(server)); });
     const auto report = [&] {
         QueryReport::Summary summary{session.addresses().count(),
                                      session.scheduler().answeredCount(),
@@ -196,9 +198,7 @@ int main(int argc, char* argv[])
             broadcastReport.addresses = session.lan().answeredCount();
             summary.sources = {broadcastReport};
         }
-        const QByteArray out =
-            format == QLatin1String("json") ? QueryReport::json(summary, answers) : QueryReport::text(summary, answers);
-        std::fwrite(out.constData(), 1, size_t(out.size()), stdout);
+        write(writer.finish(summary));
     };
     QObject::connect(&session, &QuerySession::finished, &app, [&] {
         report();

@@ -18,7 +18,7 @@ QJsonArray rules(const QStringList& tokens)
     return pairs;
 }
 
-QJsonObject server(const ServerRecord& record)
+QJsonObject serverObject(const ServerRecord& record)
 {
     QJsonArray players;
     for (const PlayerRecord& player : record.players) {
@@ -62,11 +62,45 @@ QString kindName(SourceReport::Kind kind)
 
 } // namespace
 
-QByteArray json(const Summary& summary, const QList<ServerRecord>& servers)
+QByteArray Writer::server(const ServerRecord& record)
 {
-    QJsonArray list;
-    for (const ServerRecord& record : servers)
-        list.append(server(record));
+    ++m_servers;
+    if (m_format == Format::Text) {
+        return QStringLiteral("%1  %2  %3ms  %4  %5  %6\n")
+            .arg(record.endpointText(), -21)
+            .arg(record.playersText(), 5)
+            .arg(record.ping, 3)
+            .arg(record.passwordMark == QLatin1String("*") ? QStringLiteral("pw") : QStringLiteral("  "))
+            .arg(record.map, -10)
+            .arg(ColourCodes::StripColourCodesCounted(record.name))
+            .toUtf8();
+    }
+    // One small document per server, indented to its place in the array.
+    QByteArray object = QJsonDocument(serverObject(record)).toJson(QJsonDocument::Indented);
+    object.chop(1);
+    object.replace('\n', "\n        ");
+    return (m_servers == 1 ? QByteArray("{\n    \"servers\": [\n        ") : QByteArray(",\n        ")) + object;
+}
+
+QByteArray Writer::finish(const Summary& summary)
+{
+    if (m_format == Format::Text) {
+        QString out;
+        for (const SourceReport& source : summary.sources) {
+            out += source.failed() ? QStringLiteral("%1 %2: %3\n").arg(kindName(source.kind), source.name, source.error)
+                                   : QStringLiteral("%1 %2: %3 addresses, %4 skipped\n")
+                                         .arg(kindName(source.kind), source.name)
+                                         .arg(source.addresses)
+                                         .arg(source.skipped);
+        }
+        out += QStringLiteral("%1 addresses, %2 answered, %3 timed out, %4 dropped datagrams, %5 ms\n")
+                   .arg(summary.addresses)
+                   .arg(summary.answered)
+                   .arg(summary.timedOut)
+                   .arg(summary.droppedDatagrams)
+                   .arg(summary.elapsedMs);
+        return out.toUtf8();
+    }
     QJsonArray sources;
     for (const SourceReport& source : summary.sources)
         sources.append(
@@ -76,42 +110,34 @@ QByteArray json(const Summary& summary, const QList<ServerRecord>& servers)
                         {QStringLiteral("skipped"), source.skipped},
                         {QStringLiteral("truncated"), source.truncated},
                         {QStringLiteral("error"), source.failed() ? QJsonValue(source.error) : QJsonValue()}});
-    const QJsonObject document{{QStringLiteral("sources"), sources},
-                               {QStringLiteral("addresses"), summary.addresses},
-                               {QStringLiteral("answered"), summary.answered},
-                               {QStringLiteral("timed_out"), summary.timedOut},
-                               {QStringLiteral("dropped_datagrams"), summary.droppedDatagrams},
-                               {QStringLiteral("elapsed_ms"), summary.elapsedMs},
-                               {QStringLiteral("servers"), list}};
-    return QJsonDocument(document).toJson(QJsonDocument::Indented);
+    const QJsonObject tail{{QStringLiteral("sources"), sources},
+                           {QStringLiteral("addresses"), summary.addresses},
+                           {QStringLiteral("answered"), summary.answered},
+                           {QStringLiteral("timed_out"), summary.timedOut},
+                           {QStringLiteral("dropped_datagrams"), summary.droppedDatagrams},
+                           {QStringLiteral("elapsed_ms"), summary.elapsedMs}};
+    // "{\n    ...keys...\n}\n": the keys follow the servers' array.
+    QByteArray keys = QJsonDocument(tail).toJson(QJsonDocument::Indented);
+    keys.remove(0, 2);
+    return (m_servers == 0 ? QByteArray("{\n    \"servers\": [],\n") : QByteArray("\n    ],\n")) + keys;
+}
+
+QByteArray json(const Summary& summary, const QList<ServerRecord>& servers)
+{
+    Writer writer(Format::Json);
+    QByteArray out;
+    for (const ServerRecord& record : servers)
+        out += writer.server(record);
+    return out + writer.finish(summary);
 }
 
 QByteArray text(const Summary& summary, const QList<ServerRecord>& servers)
 {
-    QString out;
-    for (const ServerRecord& record : servers) {
-        out += QStringLiteral("%1  %2  %3ms  %4  %5  %6\n")
-                   .arg(record.endpointText(), -21)
-                   .arg(record.playersText(), 5)
-                   .arg(record.ping, 3)
-                   .arg(record.passwordMark == QLatin1String("*") ? QStringLiteral("pw") : QStringLiteral("  "))
-                   .arg(record.map, -10)
-                   .arg(ColourCodes::StripColourCodesCounted(record.name));
-    }
-    for (const SourceReport& source : summary.sources) {
-        out += source.failed() ? QStringLiteral("%1 %2: %3\n").arg(kindName(source.kind), source.name, source.error)
-                               : QStringLiteral("%1 %2: %3 addresses, %4 skipped\n")
-                                     .arg(kindName(source.kind), source.name)
-                                     .arg(source.addresses)
-                                     .arg(source.skipped);
-    }
-    out += QStringLiteral("%1 addresses, %2 answered, %3 timed out, %4 dropped datagrams, %5 ms\n")
-               .arg(summary.addresses)
-               .arg(summary.answered)
-               .arg(summary.timedOut)
-               .arg(summary.droppedDatagrams)
-               .arg(summary.elapsedMs);
-    return out.toUtf8();
+    Writer writer(Format::Text);
+    QByteArray out;
+    for (const ServerRecord& record : servers)
+        out += writer.server(record);
+    return out + writer.finish(summary);
 }
 
 } // namespace QueryReport

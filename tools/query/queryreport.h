@@ -19,8 +19,27 @@ struct Summary {
     QList<SourceReport> sources;
 };
 
-// Every received byte is the Unicode character of the same code in the
+enum class Format { Text, Json };
+
+// Writes each server as it answers, and the summary at the end: nothing
+// of a query's answers is kept, however many servers there are. In JSON
+// every received byte is the Unicode character of the same code in the
 // strings, so the raw names survive exactly.
+class Writer final {
+public:
+    explicit Writer(Format format)
+        : m_format(format)
+    {
+    }
+    QByteArray server(const ServerRecord& record);
+    QByteArray finish(const Summary& summary);
+
+private:
+    Format m_format;
+    int m_servers = 0;
+};
+
+// A whole report at once.
 QByteArray json(const Summary& summary, const QList<ServerRecord>& servers);
 QByteArray text(const Summary& summary, const QList<ServerRecord>& servers);
 
