@@ -6,6 +6,8 @@
 //   q4vantage-bench cost      10,000 servers, no delay: engine CPU per answer
 //   q4vantage-bench window    5,000 servers into the main window: longest
 //                             event-loop stall while they arrive
+//   q4vantage-bench windowping  the same with every answer 50 ms late: the
+//                             error of the pings the window lists
 //   q4vantage-bench parse     infoResponse parsing throughput
 //   q4vantage-bench filter    re-filtering 10,000 servers and 150,000 players
 
@@ -34,7 +36,10 @@
 #include <QThread>
 #include <QTimer>
 
+#include <algorithm>
 #include <cstdio>
+#include <cstdlib>
+#include <vector>
 
 namespace {
 
@@ -169,7 +174,9 @@ int cost()
     return result.answered == 10000 ? 0 : 1;
 }
 
-int window()
+// delayMs > 0: every server answers that much later, and the pings the
+// window lists are compared with it.
+int window(int delayMs)
 {
     // The fleet runs as its own process here, as real servers do: an
     // in-process fleet of 5,000 sockets would share this process's event
@@ -180,7 +187,7 @@ int window()
                     {QStringLiteral("--servers"), QStringLiteral("5000"), QStringLiteral("--master-port"),
                      QStringLiteral("19999"), QStringLiteral("--first-port"), QStringLiteral("20000"),
                      QStringLiteral("--seed"), QStringLiteral("42"), QStringLiteral("--lifetime"),
-                     QStringLiteral("120")});
+                     QStringLiteral("120"), QStringLiteral("--delay"), QString::number(delayMs)});
     if (!simulator.waitForReadyRead(20000))
         qFatal("q4vantage-sim did not start");
     QTemporaryDir dir;
@@ -233,6 +240,16 @@ int window()
     std::printf("window: 5000 servers, %d players listed in %lld ms; longest event-loop stall %lld ms "
                 "(ending %lld ms after the click)\n",
                 main.lists().players().rowCount(), (long long)queryMs, (long long)longest, (long long)longestAt);
+    if (delayMs > 0) {
+        const ServerStore& store = main.lists().servers().store();
+        std::vector<int> errors;
+        for (int i = 0; i < store.count(); ++i)
+            errors.push_back(std::abs(store.at(i).ping - delayMs));
+        std::sort(errors.begin(), errors.end());
+        if (!errors.empty())
+            std::printf("window: pings of servers answering after %d ms: median error %d ms, 95th percentile %d ms\n",
+                        delayMs, errors[errors.size() / 2], errors[errors.size() * 95 / 100]);
+    }
     simulator.kill();
     simulator.waitForFinished();
     return main.lists().servers().rowCount() == 5000 ? 0 : 1;
@@ -379,11 +396,13 @@ int main(int argc, char* argv[])
     if (which == QLatin1String("cost"))
         return cost();
     if (which == QLatin1String("window"))
-        return window();
+        return window(0);
+    if (which == QLatin1String("windowping"))
+        return window(50);
     if (which == QLatin1String("parse"))
         return parse();
     if (which == QLatin1String("filter"))
         return filter();
-    std::fprintf(stderr, "usage: q4vantage-bench pool|cost|window|parse|filter\n");
+    std::fprintf(stderr, "usage: q4vantage-bench pool|cost|window|windowping|parse|filter\n");
     return 2;
 }
