@@ -5,7 +5,6 @@
 
 #include <QDir>
 #include <QFile>
-#include <QSaveFile>
 
 #include <algorithm>
 #include <limits>
@@ -147,11 +146,7 @@ std::optional<Themes> readFile(const QString& path)
 
 bool writeFile(const QString& path, const Themes& themes)
 {
-    QSaveFile file(path);
-    if (!file.open(QIODevice::WriteOnly))
-        return false;
-    file.write(toBytes(themes));
-    return file.commit();
+    return writeWholeFile(path, toBytes(themes));
 }
 
 } // namespace ThemeFile

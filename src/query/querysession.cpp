@@ -39,9 +39,8 @@ std::optional<QueryError> QuerySession::startSources(const SourcePlan& plan)
     m_addresses.clear();
     m_reports.clear();
     m_clock.start();
-    if (!m_plan.isValid())
-        return QueryError{QueryError::Kind::PortUnavailable, QString::number(m_plan.masterPort()),
-                          QStringLiteral("beyond 65535")};
+    if (auto error = planError())
+        return error;
     if (auto error = m_scheduler.openPool())
         return error;
     setPhase(Phase::Requesting);
@@ -75,9 +74,8 @@ std::optional<QueryError> QuerySession::startLan(const QList<QHostAddress>& targ
     m_addresses.clear();
     m_reports.clear();
     m_clock.start();
-    if (!m_plan.isValid())
-        return QueryError{QueryError::Kind::PortUnavailable, QString::number(m_plan.masterPort()),
-                          QStringLiteral("beyond 65535")};
+    if (auto error = planError())
+        return error;
     // The pool's first port: a firewall opened for the browser lets the
     // answers in.
     if (auto error = m_lan.start(targets, quint16(m_plan.startPort)))
@@ -116,6 +114,14 @@ std::optional<QueryError> QuerySession::refresh(const QString& address, int port
     if (isRunning())
         return std::nullopt;
     return m_scheduler.refresh(address, port);
+}
+
+std::optional<QueryError> QuerySession::planError() const
+{
+    if (m_plan.isValid())
+        return std::nullopt;
+    return QueryError{QueryError::Kind::PortUnavailable, QString::number(m_plan.masterPort()),
+                      QStringLiteral("beyond 65535")};
 }
 
 void QuerySession::setPhase(Phase phase)

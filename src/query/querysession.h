@@ -69,6 +69,8 @@ signals:
 
 private:
     void setPhase(Phase phase);
+    // The port plan reaches past the last port.
+    std::optional<QueryError> planError() const;
     void runTable(const AddressTable& table);
     void sourcesDone(const AddressTable& table, const QList<SourceReport>& reports);
 

@@ -1,5 +1,7 @@
 #include "datafield.h"
 
+#include <QSaveFile>
+
 QByteArray dataFileField(const QString& text)
 {
     QByteArray bytes = text.toLatin1();
@@ -8,4 +10,13 @@ QByteArray dataFileField(const QString& text)
             byte = ' ';
     }
     return bytes;
+}
+
+bool writeWholeFile(const QString& path, const QByteArray& bytes)
+{
+    QSaveFile file(path);
+    if (!file.open(QIODevice::WriteOnly))
+        return false;
+    file.write(bytes);
+    return file.commit();
 }

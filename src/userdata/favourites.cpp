@@ -4,7 +4,6 @@
 
 #include <QDir>
 #include <QFile>
-#include <QSaveFile>
 
 #include <cmath>
 
@@ -163,18 +162,9 @@ QByteArray appendBytes(const QByteArray& existing, const QByteArray& newLine)
     return newLine;
 }
 
-bool writeBytes(const QString& path, const QByteArray& bytes)
-{
-    QSaveFile file(path);
-    if (!file.open(QIODevice::WriteOnly))
-        return false;
-    file.write(bytes);
-    return file.commit();
-}
-
 bool writeFile(const QString& path, const QList<Favourite>& favourites)
 {
-    return writeBytes(path, toFileBytes(favourites));
+    return writeWholeFile(path, toFileBytes(favourites));
 }
 
 bool appendToFile(const QString& path, const QString& address, const QString& password, const QString& name)
@@ -188,7 +178,7 @@ bool appendToFile(const QString& path, const QString& address, const QString& pa
         existing = current.readAll();
         current.close();
     }
-    return writeBytes(path, existing + appendBytes(existing, line(address, password, name)));
+    return writeWholeFile(path, existing + appendBytes(existing, line(address, password, name)));
 }
 
 } // namespace Favourites

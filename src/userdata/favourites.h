@@ -62,10 +62,9 @@ QByteArray toFileBytes(const QList<Favourite>& favourites);
 // lacks its line end gets one first.
 QByteArray appendBytes(const QByteArray& existing, const QByteArray& line);
 
-// Both write the whole file through QSaveFile, so a crash or a full disk
+// Both write the whole file (writeWholeFile), so a crash or a full disk
 // never leaves half a file and an append never loses what was there.
 bool writeFile(const QString& path, const QList<Favourite>& favourites);
-bool writeBytes(const QString& path, const QByteArray& bytes);
 bool appendToFile(const QString& path, const QString& address, const QString& password, const QString& name);
 
 } // namespace Favourites

@@ -4,7 +4,6 @@
 
 #include <QDir>
 #include <QFile>
-#include <QSaveFile>
 
 namespace Filters {
 
@@ -184,11 +183,7 @@ std::optional<VariableFilter> firstFromFileBytes(const QByteArray& bytes)
 
 bool writeFile(const QString& path, const QList<VariableFilter>& filters)
 {
-    QSaveFile file(path);
-    if (!file.open(QIODevice::WriteOnly))
-        return false;
-    file.write(toFileBytes(filters));
-    return file.commit();
+    return writeWholeFile(path, toFileBytes(filters));
 }
 
 std::optional<VariableFilter> readFirstFromFile(const QString& path)

@@ -1,5 +1,6 @@
 #include "frmfavourites.h"
 
+#include "datafield.h"
 #include "favourites.h"
 #include "reportview.h"
 #include "settingscodec.h"
@@ -182,7 +183,7 @@ bool FrmFavourites::apply()
     for (const FavouritesModel::Row& row : m_model->rows())
         bytes += Favourites::line(row.at(FavouritesModel::Address), row.at(FavouritesModel::Password),
                                   row.at(FavouritesModel::Name));
-    if (!Favourites::writeBytes(m_path, bytes)) {
+    if (!writeWholeFile(m_path, bytes)) {
         showMessage(tr("The favourites could not be saved to %1. Your changes are still here.")
                         .arg(QDir::toNativeSeparators(m_path)));
         return false;

@@ -6,7 +6,6 @@
 #include <QDir>
 #include <QFile>
 #include <QHash>
-#include <QSaveFile>
 #include <QSet>
 
 #include <algorithm>
@@ -92,11 +91,7 @@ List readFile(const QString& path)
 
 bool writeFile(const QString& path, const List& servers)
 {
-    QSaveFile file(path);
-    if (!file.open(QIODevice::WriteOnly))
-        return false;
-    file.write(toBytes(servers));
-    return file.commit();
+    return writeWholeFile(path, toBytes(servers));
 }
 
 bool forget(const QString& path)
