@@ -27,4 +27,17 @@ int findRow(int rowCount, const std::function<QString(int row)>& textAt, QString
     }
 }
 
+int nextMarked(int rowCount, const std::function<bool(int row)>& isMarked, int after)
+{
+    if (rowCount <= 0)
+        return -1;
+    const int first = after < 0 || after >= rowCount ? 0 : after + 1;
+    for (int step = 0; step < rowCount; ++step) {
+        const int row = (first + step) % rowCount;
+        if (isMarked(row))
+            return row;
+    }
+    return -1;
+}
+
 } // namespace Find

@@ -20,4 +20,8 @@ int startRow(const QString& marker, int selectedRow, int rowCount);
 // nothing matched.
 int findRow(int rowCount, const std::function<QString(int row)>& textAt, QStringView text, int start);
 
+// The next marked row (a friend) after the row `after` (-1: from the top),
+// wrapping round to the first; -1 when no row is marked.
+int nextMarked(int rowCount, const std::function<bool(int row)>& isMarked, int after);
+
 } // namespace Find

@@ -2,6 +2,7 @@
 
 #include "find.h"
 #include "historycombobox.h"
+#include "reportmodel.h"
 #include "reportview.h"
 
 #include <QPushButton>
@@ -11,7 +12,11 @@ FindBar::FindBar(TargetOf target, QWidget* parent)
     , m_target(std::move(target))
     , m_box(new HistoryComboBox(parent))
     , m_button(new QPushButton(parent))
+    , m_friendButton(new QPushButton(parent))
 {
+    m_friendButton->setObjectName(QStringLiteral("cmdFindFriend"));
+    m_friendButton->setAutoDefault(false);
+    connect(m_friendButton, &QPushButton::clicked, this, &FindBar::findFriend);
     m_box->setObjectName(QStringLiteral("cmbFind"));
     m_button->setObjectName(QStringLiteral("cmdFind"));
     m_button->setAutoDefault(false);
@@ -26,6 +31,30 @@ void FindBar::retranslate()
 {
     m_button->setText(tr("Find"));
     m_box->setAccessibleName(tr("Find"));
+    m_friendButton->setText(tr("Next Friend"));
+    m_friendButton->setToolTip(tr("Select the next listed friend"));
+}
+
+void FindBar::findFriend()
+{
+    const Target target = m_target();
+    ReportView* list = target.view;
+    const QAbstractItemModel* model = list->model();
+    const int selected = list->currentIndex().isValid() ? list->currentIndex().row() : -1;
+    const int row = Find::nextMarked(
+        model->rowCount(),
+        [model](int row) { return model->index(row, 0).data(RowMarks::Role).toInt() & RowMarks::Friend; }, selected);
+    if (row < 0) {
+        emit status(m_hasFriends && !m_hasFriends()
+                        ? tr("No friends yet: right-click a player and choose \"Add To Friends\".")
+                        : tr("None of your friends is listed."),
+                    StatusTone::Hint);
+        return;
+    }
+    const QModelIndex index = model->index(row, 0);
+    list->setCurrentIndex(index);
+    list->scrollTo(index);
+    emit found(index);
 }
 
 void FindBar::findNext()

@@ -30,6 +30,10 @@ public:
 
     HistoryComboBox* box() const { return m_box; }
     QPushButton* button() const { return m_button; }
+    // "Next Friend": the next row marked as a friend's, wrapping round.
+    QPushButton* friendButton() const { return m_friendButton; }
+    // Whether the user has any friends, for what to say when none is found.
+    void setHasFriends(std::function<bool()> hasFriends) { m_hasFriends = std::move(hasFriends); }
     void retranslate();
 
 signals:
@@ -42,10 +46,13 @@ signals:
 private:
     void findNext();
     void run();
+    void findFriend();
 
     TargetOf m_target;
     HistoryComboBox* m_box = nullptr;
     QPushButton* m_button = nullptr;
+    QPushButton* m_friendButton = nullptr;
+    std::function<bool()> m_hasFriends;
     QPalette m_normalPalette;
     // "1": the next search continues after the selected row.
     QString m_marker = QStringLiteral("0");

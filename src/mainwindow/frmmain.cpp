@@ -1,5 +1,6 @@
 #include "frmmain.h"
 
+#include "autorefresh.h"
 #include "desktop.h"
 #include "favourites.h"
 #include "findbar.h"
@@ -7,6 +8,7 @@
 #include "frmabout.h"
 #include "frmfavourites.h"
 #include "frmfilters.h"
+#include "frmhistory.h"
 #include "frmoptions.h"
 #include "historycombobox.h"
 #include "joinflow.h"
@@ -16,6 +18,7 @@
 #include "listpane.h"
 #include "multicolorlabel.h"
 #include "namedcontrol.h"
+#include "playhistory.h"
 #include "querybar.h"
 #include "querycontroller.h"
 #include "reportview.h"
@@ -23,6 +26,7 @@
 #include "serverlists.h"
 #include "serverselection.h"
 #include "settingsstore.h"
+#include "slotwait.h"
 #include "statusline.h"
 #include "themeservice.h"
 #include "updateflow.h"
@@ -67,6 +71,7 @@ FrmMain::FrmMain(SettingsStore& settings, Desktop& desktop, Language& language, 
     createMenu();
     connectQueries();
     connectLists();
+    connectExtras();
     layOutControls();
     retranslateUi();
 
@@ -121,6 +126,8 @@ void FrmMain::createControls()
 
     m_themes = new ThemeService(m_dataFolder, this);
     m_lists = new ServerLists(this);
+    m_lists->setClock([this] { return m_desktop.clock().nowMs(); });
+    m_lists->setFriends(m_settings.value(Keys::Friends));
     m_frmFilters = new FrmFilters(m_settings, m_dataFolder, this);
     m_frmFilters->setObjectName(QStringLiteral("frmFilters"));
     m_lists->setRules(m_frmFilters->filters(), m_frmFilters->builtIn());
@@ -140,7 +147,8 @@ void FrmMain::createControls()
     m_playerPane = new ListPane(m_settings, Keys::PlayerList, m_lists->players(), m_lists->visiblePlayers(),
                                 m_lists->playerRows(), QStringLiteral("lstPlayerList"), this);
 
-    m_joinPanel = new JoinPanel(m_settings, m_desktop, Favourites::filePath(m_dataFolder), this);
+    m_joinPanel = new JoinPanel(m_settings, m_desktop, Favourites::filePath(m_dataFolder),
+                                PlayHistory::filePath(m_dataFolder), this);
     m_selection = new ServerSelection(
         *m_lists, *m_details, [this](const QString& name) { m_joinPanel->ShowPlayerName(name); }, this);
 
@@ -152,6 +160,12 @@ void FrmMain::createControls()
     cmdFilters = makeControl<QPushButton>(this, "cmdFilters");
     cmdOptions = makeControl<QPushButton>(this, "cmdOptions");
     connect(cmdOptions, &QPushButton::clicked, this, &FrmMain::openOptions);
+    cmdRecent = makeControl<QPushButton>(this, "cmdRecent");
+    cmdStopWaiting = makeControl<QPushButton>(this, "cmdStopWaiting");
+    cmdStopWaiting->hide();
+    m_autoRefresh =
+        new AutoRefresh(m_settings, m_desktop, *m_lists, *m_queries, Favourites::filePath(m_dataFolder), this);
+    m_waiter = new SlotWaiter(m_desktop.clock(), this);
     cmdExit = makeControl<QPushButton>(this, "cmdExit");
 
     WindowState::Controls state;
@@ -277,6 +291,7 @@ void FrmMain::layOutControls()
     auto* findRow = new QHBoxLayout;
     findRow->addWidget(m_find->box(), 1);
     findRow->addWidget(m_find->button());
+    findRow->addWidget(m_find->friendButton());
     findRow->addSpacing(12);
     findRow->addWidget(lblPlayers);
     findRow->addSpacing(12);
@@ -285,6 +300,7 @@ void FrmMain::layOutControls()
     auto* statusRow = new QHBoxLayout;
     statusRow->addWidget(m_queryBar->statusLine(), 1);
     statusRow->addWidget(m_queryBar->progressBar(), 1);
+    statusRow->addWidget(cmdStopWaiting);
 
     auto* buttonRow = new QHBoxLayout;
     buttonRow->addWidget(m_queryBar->buttons(), 1);
@@ -294,6 +310,7 @@ void FrmMain::layOutControls()
     dialogRow->addWidget(cmdOrganise);
     dialogRow->addWidget(cmdFilters);
     dialogRow->addWidget(cmdOptions);
+    dialogRow->addWidget(cmdRecent);
     dialogRow->addStretch();
 
     auto* main = new QVBoxLayout(this);
@@ -319,6 +336,8 @@ void FrmMain::retranslateUi()
     cmdOrganise->setText(tr("Favourites"));
     cmdFilters->setText(tr("Filters"));
     cmdOptions->setText(tr("Options"));
+    cmdRecent->setText(tr("Recently Played"));
+    cmdStopWaiting->setText(tr("Stop Waiting"));
     cmdExit->setText(tr("Exit"));
     m_joinPanel->retranslate();
     m_find->retranslate();
@@ -403,11 +422,72 @@ void FrmMain::addAnswers(const QList<ServerRecord>& batch)
 
 void FrmMain::applyRefresh(const ServerRecord& server)
 {
-    const int index = m_lists->replace(server);
-    if (index < 0)
-        return;
-    m_selection->refreshed(index);
+    applyUpdates({server});
+}
+
+void FrmMain::applyUpdates(const QList<ServerRecord>& batch)
+{
+    for (const ServerRecord& server : batch) {
+        const int index = m_lists->replace(server);
+        if (index >= 0 && index == m_selection->server())
+            m_selection->refreshed(index);
+        m_waiter->answered(server);
+    }
     updateCounters();
+}
+
+FrmHistory* FrmMain::openHistory()
+{
+    if (!m_history) {
+        m_history = new FrmHistory(m_settings, m_dataFolder, this);
+        m_history->setAttribute(Qt::WA_DeleteOnClose);
+        connect(m_history, &FrmHistory::queryRequested, m_queries, &QueryController::startHistoryQuery);
+    }
+    m_history->show();
+    m_history->raise();
+    m_history->activateWindow();
+    return m_history;
+}
+
+void FrmMain::connectExtras()
+{
+    connect(m_queries, &QueryController::updated, this, &FrmMain::applyUpdates);
+    connect(&m_settings, &SettingsStore::changed, this, [this](const QString& key) {
+        if (key == Keys::Friends.key)
+            m_lists->setFriends(m_settings.value(Keys::Friends));
+    });
+    m_find->setHasFriends([this] { return !m_lists->friends().isEmpty(); });
+    connect(cmdRecent, &QPushButton::clicked, this, &FrmMain::openHistory);
+
+    connect(m_autoRefresh, &AutoRefresh::status, this, &FrmMain::setStatus);
+    connect(m_autoRefresh, &AutoRefresh::selectServer, this, [this](const QString& address) {
+        showNormal();
+        raise();
+        activateWindow();
+        selectServer(address);
+    });
+
+    JoinFlow& flow = m_joinPanel->flow();
+    connect(&flow, &JoinFlow::joining, m_waiter, &SlotWaiter::cancel);
+    connect(&flow, &JoinFlow::waitRequested, this, [this](const JoinFlow::Target& target, const QString& password) {
+        const auto endpoint = target.address.lastIndexOf(QLatin1Char(':'));
+        const int index =
+            m_lists->servers().store().indexOf(target.address.left(endpoint), target.address.mid(endpoint + 1).toInt());
+        if (index >= 0)
+            m_waiter->begin(target, password, m_lists->server(index));
+    });
+    connect(&flow, &JoinFlow::joined, this, [this] {
+        if (m_history)
+            m_history->reload();
+    });
+    connect(m_waiter, &SlotWaiter::askAgain, m_queries, &QueryController::requery);
+    connect(m_waiter, &SlotWaiter::joinNow, &flow, &JoinFlow::start);
+    connect(m_waiter, &SlotWaiter::status, this, &FrmMain::setStatus);
+    connect(m_waiter, &SlotWaiter::waitingChanged, cmdStopWaiting, &QWidget::setVisible);
+    connect(cmdStopWaiting, &QPushButton::clicked, this, [this] {
+        m_waiter->cancel();
+        setStatus(tr("Stopped waiting for a free slot."), StatusTone::Hint);
+    });
 }
 
 void FrmMain::UpdateServerList()
@@ -481,8 +561,8 @@ void FrmMain::joinFrom(const ListPane& pane)
     if (pane.list().rowCount() == 0 || server < 0)
         return;
     const ServerRecord& record = m_lists->server(server);
-    m_joinPanel->flow().join(
-        JoinFlow::Target{record.endpointText(), record.isPassworded(), m_lists->servers().plainName(server)});
+    m_joinPanel->flow().join(JoinFlow::Target{record.endpointText(), record.isPassworded(),
+                                              m_lists->servers().plainName(server), !SlotWait::hasFreeSlot(record)});
 }
 
 void FrmMain::closeEvent(QCloseEvent* event)

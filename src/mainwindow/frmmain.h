@@ -3,9 +3,13 @@
 #include "columnlayout.h"
 #include "statustone.h"
 
+#include <QPointer>
 #include <QWidget>
 
+class AutoRefresh;
 class Desktop;
+class FrmHistory;
+class SlotWaiter;
 class FindBar;
 class FrmFilters;
 class HistoryComboBox;
@@ -64,6 +68,10 @@ public:
     const QueryController& queries() const { return *m_queries; }
     ThemeService& themes() const { return *m_themes; }
     UpdateFlow& updates() const { return *m_updates; }
+    AutoRefresh& autoRefresh() const { return *m_autoRefresh; }
+    SlotWaiter& slotWaiter() const { return *m_waiter; }
+    // "Recently Played", as cmdRecent opens it.
+    FrmHistory* openHistory();
     // The options dialog, as cmdOptions opens it.
     FrmOptions* openOptions();
 
@@ -95,6 +103,8 @@ private:
     void updateCounters();
     void addAnswers(const QList<ServerRecord>& batch);
     void applyRefresh(const ServerRecord& server);
+    void applyUpdates(const QList<ServerRecord>& batch);
+    void connectExtras();
     void showServer(const QModelIndex& index);
     void showPlayer(const QModelIndex& index);
     void showMenu(ListPane& pane, const QModelIndex& index);
@@ -121,6 +131,9 @@ private:
     ThemeService* m_themes = nullptr;
     UpdateFlow* m_updates = nullptr;
     FrmFilters* m_frmFilters = nullptr;
+    AutoRefresh* m_autoRefresh = nullptr;
+    SlotWaiter* m_waiter = nullptr;
+    QPointer<FrmHistory> m_history;
 
     QLabel* lblAbout = nullptr;
     QTabBar* tabSelect = nullptr;
@@ -131,5 +144,7 @@ private:
     QPushButton* cmdOrganise = nullptr;
     QPushButton* cmdFilters = nullptr;
     QPushButton* cmdOptions = nullptr;
+    QPushButton* cmdRecent = nullptr;
+    QPushButton* cmdStopWaiting = nullptr;
     QPushButton* cmdExit = nullptr;
 };

@@ -4,17 +4,20 @@
 #include "favourites.h"
 #include "historycombobox.h"
 #include "joincommand.h"
+#include "playhistory.h"
+#include "serverlistreader.h"
 #include "settingsstore.h"
 
 #include <QDir>
 #include <QFileInfo>
 
-JoinFlow::JoinFlow(SettingsStore& settings, Desktop& desktop, QString favouritesPath, const HistoryComboBox& playerName,
-                   const HistoryComboBox& password, QWidget* window)
+JoinFlow::JoinFlow(SettingsStore& settings, Desktop& desktop, QString favouritesPath, QString historyPath,
+                   const HistoryComboBox& playerName, const HistoryComboBox& password, QWidget* window)
     : QObject(window)
     , m_settings(settings)
     , m_desktop(desktop)
     , m_favouritesPath(std::move(favouritesPath))
+    , m_historyPath(std::move(historyPath))
     , m_playerName(playerName)
     , m_password(password)
     , m_window(window)
@@ -58,6 +61,7 @@ QString JoinFlow::executable()
 
 void JoinFlow::join(const Target& target)
 {
+    emit joining();
     QString password = passwordFor(target);
     if (target.passworded && password.isEmpty()) {
         password = m_desktop.inputText(m_window, target.serverName, tr("Please enter the password for this server"))
@@ -67,6 +71,25 @@ void JoinFlow::join(const Target& target)
                               QMessageBox::Yes | QMessageBox::No) != QMessageBox::Yes)
             return;
     }
+    if (target.full && m_settings.value(Keys::OfferSlotWait)) {
+        const auto answer = m_desktop.message(
+            m_window, Desktop::Icon::Question, target.serverName,
+            tr("%1 is full.\nWait for a free slot and join as soon as one opens?").arg(target.serverName),
+            QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel);
+        if (answer == QMessageBox::Yes) {
+            // Asked now, not when the slot opens minutes later.
+            if (!executable().isEmpty())
+                emit waitRequested(target, password);
+            return;
+        }
+        if (answer != QMessageBox::No)
+            return;
+    }
+    start(target, password);
+}
+
+void JoinFlow::start(const Target& target, const QString& password)
+{
     const QString program = executable();
     if (program.isEmpty())
         return;
@@ -81,6 +104,20 @@ void JoinFlow::join(const Target& target)
         emit status(why.arg(QDir::toNativeSeparators(program)), StatusTone::Failed);
         return;
     }
+    record(target);
+    emit joined(target.address);
     if (m_settings.value(Keys::CloseAfterJoin))
         emit closeRequested();
+}
+
+void JoinFlow::record(const Target& target)
+{
+    const auto endpoint = ServerListReader::parseEndpoint(target.address);
+    if (!endpoint)
+        return;
+    const PlayHistory::Entry entry{endpoint->address, endpoint->port, target.serverName,
+                                   m_desktop.clock().nowMs() / 1000};
+    if (!PlayHistory::writeFile(m_historyPath, PlayHistory::record(PlayHistory::readFile(m_historyPath), entry)))
+        emit status(tr("The game started, but the list of recently played servers could not be saved."),
+                    StatusTone::Failed);
 }

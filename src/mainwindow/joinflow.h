@@ -20,18 +20,31 @@ public:
         QString address;
         bool passworded = false;
         QString serverName;
+        // Every place taken when the list last heard from it.
+        bool full = false;
     };
 
     // The boxes give the player name and the password; window parents the
     // boxes this flow opens.
-    JoinFlow(SettingsStore& settings, Desktop& desktop, QString favouritesPath, const HistoryComboBox& playerName,
-             const HistoryComboBox& password, QWidget* window);
+    JoinFlow(SettingsStore& settings, Desktop& desktop, QString favouritesPath, QString historyPath,
+             const HistoryComboBox& playerName, const HistoryComboBox& password, QWidget* window);
 
+    // Settles the password and, for a full server, whether to wait for a
+    // slot; then starts the game or asks for the wait.
     void join(const Target& target);
+    // Starts the game with a settled password; each start is recorded in
+    // the history.
+    void start(const Target& target, const QString& password);
     // Asks for an address and joins it.
     void joinByAddress();
 
 signals:
+    // A new join begins (any wait for another server ends).
+    void joining();
+    // The user wants to wait for a free slot; the executable is known.
+    void waitRequested(const JoinFlow::Target& target, const QString& password);
+    // The game started for this server and it is in the history.
+    void joined(const QString& address);
     void status(const QString& text, StatusTone tone);
     // The game started and the user wants this program closed then.
     void closeRequested();
@@ -39,10 +52,12 @@ signals:
 private:
     QString passwordFor(const Target& target) const;
     QString executable();
+    void record(const Target& target);
 
     SettingsStore& m_settings;
     Desktop& m_desktop;
     QString m_favouritesPath;
+    QString m_historyPath;
     const HistoryComboBox& m_playerName;
     const HistoryComboBox& m_password;
     QWidget* m_window;

@@ -10,7 +10,8 @@
 #include <QLabel>
 #include <QPushButton>
 
-JoinPanel::JoinPanel(SettingsStore& settings, Desktop& desktop, const QString& favouritesPath, QWidget* window)
+JoinPanel::JoinPanel(SettingsStore& settings, Desktop& desktop, const QString& favouritesPath,
+                     const QString& historyPath, QWidget* window)
     : QFrame(window)
 {
     setObjectName(QStringLiteral("fraJoin"));
@@ -27,7 +28,7 @@ JoinPanel::JoinPanel(SettingsStore& settings, Desktop& desktop, const QString& f
     cmdJoinIP = makeControl<QPushButton>(this, "cmdJoinIP");
     cmdJoin->setAutoDefault(false);
     cmdJoinIP->setAutoDefault(false);
-    m_flow = new JoinFlow(settings, desktop, favouritesPath, *cmbPlayerName, *cmbPassword, window);
+    m_flow = new JoinFlow(settings, desktop, favouritesPath, historyPath, *cmbPlayerName, *cmbPassword, window);
 
     auto* layout = new QGridLayout(this);
     layout->setContentsMargins(6, 6, 6, 6);

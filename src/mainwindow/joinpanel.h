@@ -19,7 +19,8 @@ class JoinPanel final : public QFrame {
     Q_DISABLE_COPY_MOVE(JoinPanel)
 
 public:
-    JoinPanel(SettingsStore& settings, Desktop& desktop, const QString& favouritesPath, QWidget* window);
+    JoinPanel(SettingsStore& settings, Desktop& desktop, const QString& favouritesPath, const QString& historyPath,
+              QWidget* window);
 
     HistoryComboBox* playerName() const { return cmbPlayerName; }
     HistoryComboBox* password() const { return cmbPassword; }

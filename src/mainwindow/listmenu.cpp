@@ -5,6 +5,7 @@
 #include "listpane.h"
 #include "reportview.h"
 #include "serverlists.h"
+#include "settingsstore.h"
 
 #include <QClipboard>
 #include <QCursor>
@@ -15,6 +16,7 @@
 ListMenu::ListMenu(SettingsStore& settings, const ServerLists& lists, QString favouritesPath, ShownList shown,
                    QWidget* window)
     : QObject(window)
+    , m_settings(settings)
     , m_lists(lists)
     , m_favouritesPath(std::move(favouritesPath))
     , m_shown(std::move(shown))
@@ -31,6 +33,9 @@ ListMenu::ListMenu(SettingsStore& settings, const ServerLists& lists, QString fa
         CopyText::LineSeparator);
     mPopSelServer = mPopupAlt->addAction(QString());
     mPopSelServer->setObjectName(QStringLiteral("mPopSelServer"));
+    mPopAddFriend = mPopupAlt->addAction(QString());
+    mPopAddFriend->setObjectName(QStringLiteral("mPopAddFriend"));
+    connect(mPopAddFriend, &QAction::triggered, this, &ListMenu::addToFriends);
     connect(mPopAdd, &QAction::triggered, this, &ListMenu::addToFavourites);
     connect(mPopSelServer, &QAction::triggered, this, [this] {
         const int server = m_shown().currentServer();
@@ -47,6 +52,7 @@ void ListMenu::popup()
 void ListMenu::setPlayersShown(bool players)
 {
     mPopSelServer->setVisible(players);
+    mPopAddFriend->setVisible(players);
 }
 
 void ListMenu::retranslate()
@@ -54,6 +60,27 @@ void ListMenu::retranslate()
     mPopAdd->setText(tr("&Add To Favourites"));
     m_copy->retranslate();
     mPopSelServer->setText(tr("&Select Server"));
+    mPopAddFriend->setText(tr("Add To F&riends"));
+}
+
+void ListMenu::addToFriends()
+{
+    const ListPane& players = m_shown();
+    const int row = players.sourceRow(players.view()->currentIndex());
+    if (row < 0)
+        return;
+    const QString name = m_lists.players().row(row).plainName;
+    QStringList friends = m_settings.value(Keys::Friends);
+    if (m_lists.friends().matches(name)) {
+        emit status(tr("%1 is one of your friends already.").arg(name), StatusTone::Hint);
+        return;
+    }
+    friends.append(Friends::patternFor(name));
+    if (!m_settings.set(Keys::Friends, friends)) {
+        emit status(tr("Your friends could not be saved."), StatusTone::Failed);
+        return;
+    }
+    emit status(tr("%1 was added to your friends.").arg(name), StatusTone::Done);
 }
 
 void ListMenu::addToFavourites()

@@ -15,7 +15,8 @@ class ServerLists;
 class SettingsStore;
 
 // The pop-up menu of the two big lists, for the list on show: "Add To
-// Favourites", the copy commands and, on the player list, "Select Server".
+// Favourites", the copy commands and, on the player list, "Select Server"
+// and "Add To Friends".
 class ListMenu final : public QObject {
     Q_OBJECT
     Q_DISABLE_COPY_MOVE(ListMenu)
@@ -43,7 +44,9 @@ protected:
 
 private:
     void addToFavourites();
+    void addToFriends();
 
+    SettingsStore& m_settings;
     const ServerLists& m_lists;
     QString m_favouritesPath;
     ShownList m_shown;
@@ -51,6 +54,7 @@ private:
     QAction* mPopAdd = nullptr;
     CopyCommands* m_copy = nullptr;
     QAction* mPopSelServer = nullptr;
+    QAction* mPopAddFriend = nullptr;
     // Guarded: while the window is torn down the pane may go before its
     // view, which still sends events on its way out.
     QPointer<const ListPane> m_players;

@@ -2,6 +2,7 @@
 
 #include "reportmodel.h"
 #include "reportview.h"
+#include "rowmarkdelegate.h"
 #include "settingscodec.h"
 #include "settingsstore.h"
 #include "visiblelists.h"
@@ -18,6 +19,7 @@ ListPane::ListPane(SettingsStore& settings, Keys::ListKeys keys, const ReportMod
     , m_view(new ReportView(&list, model.designWidths(), parent))
 {
     m_view->setObjectName(objectName);
+    m_view->setItemDelegate(new RowMarkDelegate(m_view));
     connect(m_view, &QAbstractItemView::clicked, this, &ListPane::rowClicked);
     connect(m_view, &ReportView::menuRequested, this, [this](const QModelIndex& index) {
         if (index.isValid())

@@ -16,10 +16,16 @@ int PlayerListModel::rowCount(const QModelIndex& parent) const
 
 QVariant PlayerListModel::data(const QModelIndex& index, int role) const
 {
-    if (!index.isValid() || index.row() >= m_rows.size() || role != Qt::DisplayRole)
+    if (!index.isValid() || index.row() >= m_rows.size())
         return {};
     const Row& row = m_rows.at(index.row());
+    if (role == RowMarks::Role)
+        return row.isFriend ? RowMarks::Friend : 0;
+    if (role != Qt::DisplayRole)
+        return {};
     const ServerRecord& server = m_servers.record(row.server);
+    if (row.player >= server.players.size())
+        return {};
     const PlayerRecord& player = server.players.at(row.player);
     switch (index.column()) {
     case Name:
@@ -53,20 +59,47 @@ void PlayerListModel::clear()
 {
     beginResetModel();
     m_rows.clear();
+    m_friendsOn.clear();
     endResetModel();
+}
+
+PlayerListModel::Row PlayerListModel::rowOf(int server, int player) const
+{
+    const PlayerRecord& stored = m_servers.record(server).players.at(player);
+    Row row{server, player, ColourCodes::StripColourCodes(stored.name), ColourCodes::StripColourCodes(stored.clan),
+            stored.name};
+    row.isFriend = m_friends.matches(row.plainName);
+    return row;
 }
 
 QList<PlayerListModel::Row> PlayerListModel::rowsOf(int server) const
 {
     QList<Row> rows;
-    const ServerRecord& record = m_servers.record(server);
-    rows.reserve(record.players.size());
-    for (int player = 0; player < record.players.size(); ++player) {
-        const PlayerRecord& stored = record.players.at(player);
-        rows.append(Row{server, player, ColourCodes::StripColourCodes(stored.name),
-                        ColourCodes::StripColourCodes(stored.clan)});
-    }
+    const int players = int(m_servers.record(server).players.size());
+    rows.reserve(players);
+    for (int player = 0; player < players; ++player)
+        rows.append(rowOf(server, player));
     return rows;
+}
+
+void PlayerListModel::count(const Row& row, int change)
+{
+    if (!row.isFriend)
+        return;
+    if (m_friendsOn.size() <= size_t(row.server))
+        m_friendsOn.resize(size_t(row.server) + 1, 0);
+    m_friendsOn[size_t(row.server)] += change;
+}
+
+void PlayerListModel::appendRows(const QList<Row>& rows)
+{
+    if (rows.isEmpty())
+        return;
+    for (const Row& row : rows)
+        count(row, 1);
+    beginInsertRows({}, int(m_rows.size()), int(m_rows.size() + rows.size()) - 1);
+    m_rows += rows;
+    endInsertRows();
 }
 
 void PlayerListModel::appendServersFrom(int firstServer)
@@ -74,15 +107,63 @@ void PlayerListModel::appendServersFrom(int firstServer)
     QList<Row> rows;
     for (int server = firstServer; server < m_servers.store().count(); ++server)
         rows += rowsOf(server);
-    if (rows.isEmpty())
-        return;
-    beginInsertRows({}, int(m_rows.size()), int(m_rows.size() + rows.size()) - 1);
-    m_rows += rows;
-    endInsertRows();
+    appendRows(rows);
+}
+
+void PlayerListModel::setFriends(const Friends::Matcher& friends)
+{
+    m_friends = friends;
+    m_friendsOn.clear();
+    for (Row& row : m_rows) {
+        row.isFriend = m_friends.matches(row.plainName);
+        count(row, 1);
+    }
+    if (!m_rows.isEmpty())
+        emit dataChanged(index(0, 0), index(int(m_rows.size()) - 1, ColumnCount - 1), {RowMarks::Role});
+}
+
+void PlayerListModel::updateServer(int server)
+{
+    const ServerRecord& record = m_servers.record(server);
+    // The new answer's players by raw name; each old row takes one of its
+    // name, so two players of the same name both stay.
+    QHash<QString, QList<int>> fresh;
+    for (int player = int(record.players.size()) - 1; player >= 0; --player)
+        fresh[record.players.at(player).name].append(player);
+    for (qsizetype at = m_rows.size() - 1; at >= 0; --at) {
+        Row& row = m_rows[at];
+        if (row.server != server)
+            continue;
+        // The old record is gone: the row keeps the name it was built from.
+        auto same = fresh.find(row.rawName);
+        if (same == fresh.end() || same->isEmpty()) {
+            count(row, -1);
+            beginRemoveRows({}, int(at), int(at));
+            m_rows.remove(at);
+            endRemoveRows();
+            continue;
+        }
+        count(row, -1);
+        row = rowOf(server, same->takeLast());
+        count(row, 1);
+        emit dataChanged(index(int(at), 0), index(int(at), ColumnCount - 1));
+    }
+    QList<int> newcomers;
+    for (const QList<int>& left : std::as_const(fresh))
+        newcomers += left;
+    std::sort(newcomers.begin(), newcomers.end());
+    QList<Row> rows;
+    for (int player : newcomers)
+        rows.append(rowOf(server, player));
+    appendRows(rows);
 }
 
 void PlayerListModel::replaceServer(int server)
 {
+    for (const Row& row : std::as_const(m_rows)) {
+        if (row.server == server)
+            count(row, -1);
+    }
     // Remove the server's old rows in contiguous runs, from the end, so the
     // views keep their other rows.
     for (qsizetype end = m_rows.size(); end > 0;) {
@@ -98,12 +179,7 @@ void PlayerListModel::replaceServer(int server)
         endRemoveRows();
         end = begin;
     }
-    const QList<Row> rows = rowsOf(server);
-    if (rows.isEmpty())
-        return;
-    beginInsertRows({}, int(m_rows.size()), int(m_rows.size() + rows.size()) - 1);
-    m_rows += rows;
-    endInsertRows();
+    appendRows(rowsOf(server));
 }
 
 SortKeys PlayerListModel::sortKeys(int column) const

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "friends.h"
 #include "reportmodel.h"
 #include "visiblelists.h"
 
@@ -33,6 +34,8 @@ public:
         int player = 0;
         QString plainName;
         QString plainClan;
+        QString rawName; // as the server sent it, to know the player again
+        bool isFriend = false;
     };
 
     explicit PlayerListModel(const ServerListModel& servers, QObject* parent = nullptr);
@@ -45,13 +48,30 @@ public:
     void appendServersFrom(int firstServer);
     // Drops the rows of one server and appends its players anew.
     void replaceServer(int server);
+    // The server answered again: players still there keep their rows (and
+    // their places in the views), those gone lose them, newcomers are
+    // appended.
+    void updateServer(int server);
+
+    // Marks the friends' rows; the server list asks friendsOn().
+    void setFriends(const Friends::Matcher& friends);
+    bool hasFriendOn(int server) const
+    {
+        return server >= 0 && size_t(server) < m_friendsOn.size() && m_friendsOn[size_t(server)] > 0;
+    }
 
     const Row& row(int row) const { return m_rows.at(row); }
     SortKeys sortKeys(int column) const;
 
 private:
     QList<Row> rowsOf(int server) const;
+    Row rowOf(int server, int player) const;
+    void count(const Row& row, int change);
+    void appendRows(const QList<Row>& rows);
 
     const ServerListModel& m_servers;
     QList<Row> m_rows;
+    Friends::Matcher m_friends;
+    // Friends' rows per server, by store index.
+    std::vector<int> m_friendsOn;
 };

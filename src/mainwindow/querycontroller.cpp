@@ -3,25 +3,34 @@
 #include "favourites.h"
 #include "httpproxy.h"
 #include "knownservers.h"
+#include "playhistory.h"
 #include "serverlistreader.h"
 #include "settingsstore.h"
 
 #include <QDateTime>
+#include <QSet>
 
 QueryController::QueryController(SettingsStore& settings, const QString& dataFolder, QObject* parent)
     : QObject(parent)
     , m_settings(settings)
     , m_favouritesPath(Favourites::filePath(dataFolder))
     , m_knownPath(KnownServers::filePath(dataFolder))
+    , m_historyPath(PlayHistory::filePath(dataFolder))
 {
     m_flushTimer.setSingleShot(true);
     m_flushTimer.setInterval(40);
     connect(&m_flushTimer, &QTimer::timeout, this, &QueryController::flush);
     connect(&m_session, &QuerySession::phaseChanged, this, &QueryController::showPhase);
-    connect(&m_session, &QuerySession::requestSent, this,
-            [this](int sent, int total) { emit progress(sent, std::max(total, 1)); });
+    connect(&m_session, &QuerySession::requestSent, this, [this](int sent, int total) {
+        if (!m_quiet)
+            emit progress(sent, std::max(total, 1));
+    });
     connect(&m_session, &QuerySession::serverAnswered, this, &QueryController::queue);
     connect(&m_session, &QuerySession::finished, this, [this] {
+        if (m_quiet) {
+            finishRound();
+            return;
+        }
         remember(true);
         stop(tr("Done"), StatusTone::Done);
     });
@@ -70,6 +79,7 @@ bool QueryController::begin()
 
 void QueryController::startMasterQuery()
 {
+    endRound();
     if (m_session.isRunning())
         return;
     const MasterList masters = parseMasterList(m_settings.value(Keys::MasterServer));
@@ -100,6 +110,7 @@ void QueryController::startMasterQuery()
 
 void QueryController::startFavouritesQuery()
 {
+    endRound();
     if (m_session.isRunning())
         return;
     const auto favourites = Favourites::readFile(m_favouritesPath);
@@ -114,8 +125,82 @@ void QueryController::startFavouritesQuery()
         fail(*error);
 }
 
+void QueryController::startHistoryQuery()
+{
+    endRound();
+    if (m_session.isRunning())
+        return;
+    const PlayHistory::List history = PlayHistory::readFile(m_historyPath);
+    if (history.isEmpty()) {
+        emit status(tr("No servers played yet: the servers you join are listed here."), StatusTone::Hint);
+        return;
+    }
+    if (!begin())
+        return;
+    const AddressTable table = PlayHistory::toAddressTable(history);
+    if (const auto error = m_session.startAddresses(table))
+        fail(*error);
+}
+
+bool QueryController::startRefreshRound(const AddressTable& table)
+{
+    if (m_session.isRunning() || table.isEmpty() || !preparePool())
+        return false;
+    m_flushTimer.stop();
+    m_pending.clear();
+    m_answered.clear();
+    m_quiet = true;
+    if (const auto error = m_session.startAddresses(table)) {
+        m_quiet = false;
+        // Said, but the lists stay: the next round tries again.
+        emit status(error->message(), StatusTone::Failed);
+        return false;
+    }
+    return true;
+}
+
+void QueryController::requery(const QString& address, int port)
+{
+    if (m_session.isRunning() || !preparePool())
+        return;
+    if (const auto error = m_session.refresh(address, port))
+        emit status(error->message(), StatusTone::Failed);
+}
+
+void QueryController::endRound()
+{
+    if (!m_quiet)
+        return;
+    m_quiet = false;
+    m_session.cancel();
+    // The rows already updated stay; the rest keep their last answer.
+    const QList<ServerRecord> batch = std::exchange(m_pending, {});
+    m_flushTimer.stop();
+    if (!batch.isEmpty())
+        emit updated(batch);
+    remember(false);
+}
+
+void QueryController::finishRound()
+{
+    m_quiet = false;
+    flushTo(true);
+    QSet<QString> answered;
+    for (const AddressEntry& entry : std::as_const(m_answered))
+        answered.insert(entry.endpointText());
+    QStringList silent;
+    for (const AddressEntry& entry : m_session.addresses().entries()) {
+        if (!answered.contains(entry.endpointText()))
+            silent.append(entry.endpointText());
+    }
+    // A silent round costs no known server a miss: rounds come often.
+    remember(false);
+    emit roundEnded(m_session.addresses().count(), silent);
+}
+
 void QueryController::startLanQuery()
 {
+    endRound();
     if (m_session.isRunning())
         return;
     QList<QHostAddress> targets;
@@ -145,6 +230,10 @@ void QueryController::refresh(const ServerRecord& server)
 
 void QueryController::cancel()
 {
+    if (m_quiet) {
+        endRound();
+        return;
+    }
     if (m_session.isRunning())
         remember(false);
     stop(tr("Cancelled"), StatusTone::Failed);
@@ -152,6 +241,8 @@ void QueryController::cancel()
 
 void QueryController::showPhase(QuerySession::Phase phase)
 {
+    if (m_quiet)
+        return;
     switch (phase) {
     case QuerySession::Phase::Requesting:
         emit status(tr("Requesting Server List from\n%1").arg(m_sourceNames), StatusTone::Requesting);
@@ -196,11 +287,16 @@ void QueryController::queue(const ServerRecord& server, bool refresh)
 
 void QueryController::flush()
 {
+    flushTo(m_quiet);
+}
+
+void QueryController::flushTo(bool inPlace)
+{
     m_flushTimer.stop();
     if (m_pending.isEmpty())
         return;
     const QList<ServerRecord> batch = std::exchange(m_pending, {});
-    emit answers(batch);
+    inPlace ? emit updated(batch) : emit answers(batch);
 }
 
 void QueryController::stop(const QString& text, StatusTone tone)

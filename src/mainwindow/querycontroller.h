@@ -29,6 +29,17 @@ public:
     void startMasterQuery();
     void startFavouritesQuery();
     void startLanQuery();
+    // The servers joined lately, as the favourites are queried.
+    void startHistoryQuery();
+    // Asks these listed servers again in the background: their rows are
+    // updated in place (updated), nothing is cleared, the query buttons
+    // stay as they are. A query the user starts ends the round first.
+    // False when a query runs.
+    bool startRefreshRound(const AddressTable& table);
+    bool isRefreshing() const { return m_quiet; }
+    // One request to one server, whatever the refresh setting says (the
+    // wait for a free slot); nothing while a query runs.
+    void requery(const QString& address, int port);
     // Queries one listed server again, when no query runs and the user
     // wants selected servers refreshed.
     void refresh(const ServerRecord& server);
@@ -53,6 +64,11 @@ signals:
     // What each source of the query gave, one line each; empty for a query
     // without sources.
     void sourcesReported(const QString& summary);
+    // Answers of a refresh round, for the rows already listed.
+    void updated(const QList<ServerRecord>& batch);
+    // A refresh round is over: how many were asked and which stayed silent
+    // ("address:port").
+    void roundEnded(int asked, const QStringList& silent);
 
 private:
     bool preparePool();
@@ -60,14 +76,21 @@ private:
     void showPhase(QuerySession::Phase phase);
     void queue(const ServerRecord& server, bool refresh);
     void flush();
+    void flushTo(bool inPlace);
     void stop(const QString& text, StatusTone tone);
     void fail(const QueryError& error);
     void reportSources();
     void remember(bool finished);
+    // The user starts a query while a refresh round runs: the round ends
+    // quietly and what it heard is kept.
+    void endRound();
+    void finishRound();
+    bool m_quiet = false;
 
     SettingsStore& m_settings;
     QString m_favouritesPath;
     QString m_knownPath;
+    QString m_historyPath;
     QuerySession m_session;
     QString m_sourceNames;
     QString m_failedSources;

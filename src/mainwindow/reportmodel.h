@@ -7,6 +7,16 @@
 
 #include <array>
 
+// How a row of the big lists stands out, without a column of its own: the
+// view's delegate draws the marks (the theme's colours, never the model's).
+namespace RowMarks {
+inline constexpr int Role = Qt::UserRole + 7;
+enum : int {
+    Friend = 1, // a friend's row, or a server with a friend on it
+    Silent = 2, // the server did not answer the last refresh
+};
+} // namespace RowMarks
+
 // Base of the report-style lists: fixed columns with translated captions.
 // The lists that show records derive from it and supply the rows.
 class ReportModel : public QAbstractTableModel {

@@ -2,6 +2,9 @@
 
 #include "colourcodes.h"
 
+#include <QDateTime>
+#include <QLocale>
+
 ServerListModel::ServerListModel(QObject* parent)
     : ReportModel(Columns, parent)
 {
@@ -40,9 +43,22 @@ QVariant ServerListModel::data(const QModelIndex& index, int role) const
 {
     if (!index.isValid() || index.row() >= m_store.count())
         return {};
-    if (role == Qt::DisplayRole)
-        return cellText(m_store.at(index.row()), m_plainNames.at(index.row()), index.column());
-    return {};
+    const int row = index.row();
+    switch (role) {
+    case Qt::DisplayRole:
+        return cellText(m_store.at(row), m_plainNames.at(row), index.column());
+    case RowMarks::Role:
+        return (m_hasFriend && m_hasFriend(row) ? RowMarks::Friend : 0) |
+               (m_silent.at(size_t(row)) ? RowMarks::Silent : 0);
+    case Qt::ToolTipRole:
+        if (!m_silent.at(size_t(row)))
+            return {};
+        return tr("No answer to the last refresh; last seen at %1")
+            .arg(QLocale().toString(QDateTime::fromMSecsSinceEpoch(m_lastSeen.at(size_t(row))).time(),
+                                    QLocale::ShortFormat));
+    default:
+        return {};
+    }
 }
 
 void ServerListModel::clear()
@@ -50,10 +66,12 @@ void ServerListModel::clear()
     beginResetModel();
     m_store.clear();
     m_plainNames.clear();
+    m_lastSeen.clear();
+    m_silent.clear();
     endResetModel();
 }
 
-int ServerListModel::append(const QList<ServerRecord>& servers)
+int ServerListModel::append(const QList<ServerRecord>& servers, qint64 nowMs)
 {
     const int first = m_store.count();
     if (servers.isEmpty())
@@ -62,16 +80,34 @@ int ServerListModel::append(const QList<ServerRecord>& servers)
     for (const ServerRecord& server : servers) {
         m_plainNames.append(ColourCodes::StripColourCodesCounted(server.name));
         m_store.add(server);
+        m_lastSeen.push_back(nowMs);
+        m_silent.push_back(false);
     }
     endInsertRows();
     return first;
 }
 
-void ServerListModel::replace(int storeIndex, const ServerRecord& server)
+void ServerListModel::replace(int storeIndex, const ServerRecord& server, qint64 nowMs)
 {
     m_plainNames[storeIndex] = ColourCodes::StripColourCodesCounted(server.name);
     m_store.replace(storeIndex, server);
+    m_lastSeen[size_t(storeIndex)] = nowMs;
+    m_silent[size_t(storeIndex)] = false;
     emit dataChanged(index(storeIndex, 0), index(storeIndex, ColumnCount - 1));
+}
+
+void ServerListModel::setSilent(int storeIndex)
+{
+    if (m_silent.at(size_t(storeIndex)))
+        return;
+    m_silent[size_t(storeIndex)] = true;
+    emit dataChanged(index(storeIndex, 0), index(storeIndex, ColumnCount - 1));
+}
+
+void ServerListModel::marksChanged()
+{
+    if (m_store.count() > 0)
+        emit dataChanged(index(0, 0), index(m_store.count() - 1, ColumnCount - 1), {RowMarks::Role});
 }
 
 SortKeys ServerListModel::sortKeys(int column) const

@@ -4,6 +4,8 @@
 #include "reportmodel.h"
 #include "visiblelists.h"
 
+#include <functional>
+
 // Every server that answered, in answer order: the hidden full server
 // list. The visible list is a proxy over it. Each row refers to its record
 // in the per-server store by the store's index.
@@ -30,10 +32,20 @@ public:
     QVariant data(const QModelIndex& index, int role = Qt::DisplayRole) const override;
 
     void clear();
-    // Appends the servers as new rows; returns the store index of the first.
-    int append(const QList<ServerRecord>& servers);
+    // Appends the servers as new rows, seen at nowMs; returns the store
+    // index of the first.
+    int append(const QList<ServerRecord>& servers, qint64 nowMs = 0);
     // Puts a new answer of a listed server in place of its old one.
-    void replace(int storeIndex, const ServerRecord& server);
+    void replace(int storeIndex, const ServerRecord& server, qint64 nowMs = 0);
+    // The server did not answer a refresh: its row stays, greyed, with the
+    // time it was last seen.
+    void setSilent(int storeIndex);
+    bool isSilent(int storeIndex) const { return m_silent.at(size_t(storeIndex)); }
+    qint64 lastSeenMs(int storeIndex) const { return m_lastSeen.at(size_t(storeIndex)); }
+    // Whether a friend plays on a server (the player list knows).
+    void setFriendLookup(std::function<bool(int storeIndex)> hasFriend) { m_hasFriend = std::move(hasFriend); }
+    // The friends changed: every row's mark may have.
+    void marksChanged();
 
     const ServerStore& store() const { return m_store; }
     const ServerRecord& record(int row) const { return m_store.at(row); }
@@ -46,4 +58,7 @@ public:
 private:
     ServerStore m_store;
     QStringList m_plainNames;
+    std::vector<qint64> m_lastSeen;
+    std::vector<bool> m_silent;
+    std::function<bool(int)> m_hasFriend;
 };

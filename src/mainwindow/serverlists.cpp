@@ -7,6 +7,7 @@ ServerLists::ServerLists(QObject* parent)
     , m_visiblePlayers([this](int row) { return m_visibility.isVisible(m_players.row(row).server); },
                        [this](int column) { return m_players.sortKeys(column); })
 {
+    m_servers.setFriendLookup([this](int server) { return m_players.hasFriendOn(server); });
     m_visibleServers.setSourceModel(&m_servers);
     m_visiblePlayers.setSourceModel(&m_players);
 }
@@ -30,7 +31,8 @@ void ServerLists::clear()
 
 void ServerLists::append(const QList<ServerRecord>& batch)
 {
-    m_players.appendServersFrom(m_servers.append(batch));
+    const int first = m_servers.append(batch, m_nowMs ? m_nowMs() : 0);
+    m_players.appendServersFrom(first);
 }
 
 int ServerLists::replace(const ServerRecord& server)
@@ -38,12 +40,49 @@ int ServerLists::replace(const ServerRecord& server)
     const int index = m_servers.store().indexOf(server.address, server.port);
     if (index < 0)
         return -1;
-    m_servers.replace(index, server);
-    m_players.replaceServer(index);
-    m_visibility.forget(index);
-    m_visibleServers.refilter();
-    m_visiblePlayers.refilter();
+    m_servers.replace(index, server, m_nowMs ? m_nowMs() : 0);
+    m_players.updateServer(index);
     return index;
+}
+
+void ServerLists::markSilent(const QList<int>& storeIndexes)
+{
+    for (int index : storeIndexes)
+        m_servers.setSilent(index);
+}
+
+void ServerLists::setFriends(const QStringList& entries)
+{
+    if (entries == m_friends.entries())
+        return;
+    m_friends = Friends::Matcher(entries);
+    m_players.setFriends(m_friends);
+    m_servers.marksChanged();
+}
+
+QList<Alerts::Sighting> ServerLists::sightings() const
+{
+    QList<Alerts::Sighting> seen;
+    for (int row = 0; row < m_players.rowCount(); ++row) {
+        const PlayerListModel::Row& player = m_players.row(row);
+        if (player.isFriend)
+            seen.append(
+                {player.plainName, m_servers.record(player.server).endpointText(), m_servers.plainName(player.server)});
+    }
+    return seen;
+}
+
+Alerts::Counts ServerLists::counts(const QSet<QString>& addresses) const
+{
+    Alerts::Counts counts;
+    if (addresses.isEmpty())
+        return counts;
+    for (int server = 0; server < m_servers.store().count(); ++server) {
+        const QString address = m_servers.record(server).endpointText();
+        if (addresses.contains(address))
+            counts.insert(address, {m_servers.plainName(server), m_servers.record(server).playerCount});
+    }
+    return counts;
 }
 
 void ServerLists::setRules(const QList<Filters::VariableFilter>& filters, Filters::BuiltIn builtIn)

@@ -1,6 +1,8 @@
 #pragma once
 
+#include "alerts.h"
 #include "filters.h"
+#include "friends.h"
 #include "listpane.h"
 #include "playerlistmodel.h"
 #include "records.h"
@@ -8,6 +10,7 @@
 #include "visiblelists.h"
 
 #include <QObject>
+#include <QSet>
 
 // The answers of one query: the hidden full server and player lists, and
 // the visible lists over them that hold what passes the filters. A player
@@ -34,15 +37,31 @@ public:
     ListPane::Rows serverRows() const;
     ListPane::Rows playerRows() const;
 
+    // When rows were last seen (the window's clock).
+    void setClock(std::function<qint64()> nowMs) { m_nowMs = std::move(nowMs); }
+
     void clear();
     void append(const QList<ServerRecord>& batch);
-    // A listed server answered again: its rows take the new answer and
-    // pass the filters anew. Its store index, or -1 when not listed.
+    // A listed server answered again: its rows take the new answer where
+    // they are, so order, selection and scroll position stay; whether it
+    // passes the filters is asked again at the next rebuild. Its store
+    // index, or -1 when not listed.
     int replace(const ServerRecord& server);
+    // The servers that did not answer a refresh stay listed, greyed.
+    void markSilent(const QList<int>& storeIndexes);
+
+    void setFriends(const QStringList& entries);
+    const Friends::Matcher& friends() const { return m_friends; }
+    // Every friend listed on a server now.
+    QList<Alerts::Sighting> sightings() const;
+    // The players on these servers ("address:port") now.
+    Alerts::Counts counts(const QSet<QString>& addresses) const;
     // New filters; the caller rebuilds the visible lists.
     void setRules(const QList<Filters::VariableFilter>& filters, Filters::BuiltIn builtIn);
 
 private:
+    std::function<qint64()> m_nowMs;
+    Friends::Matcher m_friends;
     ServerListModel m_servers;
     PlayerListModel m_players{m_servers};
     ServerVisibility m_visibility{m_servers.store()};

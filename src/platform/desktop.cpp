@@ -3,8 +3,10 @@
 #include <QColorDialog>
 #include <QDesktopServices>
 #include <QFileDialog>
+#include <QGuiApplication>
 #include <QInputDialog>
 #include <QProcess>
+#include <QSystemTrayIcon>
 
 namespace {
 
@@ -76,4 +78,33 @@ std::optional<QColor> QtDesktop::pickColour(QWidget* parent, const QColor& start
 bool QtDesktop::startDetached(const QString& program, const QStringList& arguments, const QString& workingFolder)
 {
     return QProcess::startDetached(program, arguments, workingFolder);
+}
+
+QtDesktop::QtDesktop() = default;
+QtDesktop::~QtDesktop() = default;
+
+void QtDesktop::setNotifying(bool on)
+{
+    if (!on) {
+        m_tray.reset();
+        return;
+    }
+    if (m_tray || !QSystemTrayIcon::isSystemTrayAvailable())
+        return;
+    m_tray = std::make_unique<QSystemTrayIcon>(QGuiApplication::windowIcon());
+    m_tray->setToolTip(QGuiApplication::applicationDisplayName());
+    QObject::connect(m_tray.get(), &QSystemTrayIcon::messageClicked, [this] {
+        if (m_clicked)
+            m_clicked();
+    });
+    m_tray->show();
+}
+
+bool QtDesktop::notify(const QString& title, const QString& text, std::function<void()> clicked)
+{
+    if (!m_tray || !QSystemTrayIcon::supportsMessages())
+        return false;
+    m_clicked = std::move(clicked);
+    m_tray->showMessage(title, text, QSystemTrayIcon::Information);
+    return true;
 }

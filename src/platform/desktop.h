@@ -1,13 +1,18 @@
 #pragma once
 
+#include "clock.h"
+
 #include <QColor>
 #include <QMessageBox>
 #include <QString>
 #include <QStringList>
 #include <QUrl>
 
+#include <functional>
+#include <memory>
 #include <optional>
 
+class QSystemTrayIcon;
 class QWidget;
 
 // Everything that would block a test or leave the program: modal boxes,
@@ -46,6 +51,16 @@ public:
     // Starts a program that outlives this one. The arguments are passed as
     // they are, never through a shell.
     virtual bool startDetached(const QString& program, const QStringList& arguments, const QString& workingFolder) = 0;
+
+    // The time and the slow timers (minutes, not the query's milliseconds).
+    virtual Clock& clock() = 0;
+
+    // The tray icon is there only while the user wants notifications.
+    virtual void setNotifying(bool on) = 0;
+    // A desktop notification; clicked runs when the user clicks it (the
+    // latest notification's, as the tray keeps only one). False when this
+    // desktop cannot show notifications.
+    virtual bool notify(const QString& title, const QString& text, std::function<void()> clicked) = 0;
 };
 
 // The real desktop: Qt's dialogs and QProcess.
@@ -59,4 +74,17 @@ public:
     std::optional<QColor> pickColour(QWidget* parent, const QColor& start) override;
     bool openUrl(const QUrl& url) override;
     bool startDetached(const QString& program, const QStringList& arguments, const QString& workingFolder) override;
+    Clock& clock() override { return m_clock; }
+    void setNotifying(bool on) override;
+    bool notify(const QString& title, const QString& text, std::function<void()> clicked) override;
+
+    QtDesktop();
+    ~QtDesktop() override;
+    QtDesktop(const QtDesktop&) = delete;
+    QtDesktop& operator=(const QtDesktop&) = delete;
+
+private:
+    SystemClock m_clock;
+    std::unique_ptr<QSystemTrayIcon> m_tray;
+    std::function<void()> m_clicked;
 };

@@ -2,6 +2,7 @@
 
 #include "colourswatch.h"
 #include "desktop.h"
+#include "friendstab.h"
 #include "knownservers.h"
 #include "language.h"
 #include "namedcontrol.h"
@@ -55,6 +56,9 @@ FrmOptions::FrmOptions(SettingsStore& settings, Desktop& desktop, Language& lang
     m_serversTab = new ServersTab(settings, desktop, KnownServers::filePath(dataFolder), tabOptions);
     m_serversTab->setObjectName(QStringLiteral("tabServers"));
     tabOptions->addTab(m_serversTab, QString());
+    m_friendsTab = new FriendsTab(settings, desktop, tabOptions);
+    m_friendsTab->setObjectName(QStringLiteral("tabFriends"));
+    tabOptions->addTab(m_friendsTab, QString());
     buildSettingsTab(settingsPage);
     buildThemeTab(themePage);
 
@@ -198,7 +202,9 @@ void FrmOptions::retranslateUi()
     tabOptions->setTabText(SettingsTab, tr("Settings"));
     tabOptions->setTabText(ThemeTab, tr("Theme"));
     tabOptions->setTabText(SourcesTab, tr("Servers"));
+    tabOptions->setTabText(FriendsTabIndex, tr("Friends"));
     m_serversTab->retranslateUi();
+    m_friendsTab->retranslateUi();
     lblLanguage->setText(tr("Language:"));
     lblSpeed->setText(tr("Query Speed:"));
     const QStringList speeds{tr("Dial Up (56k)"), tr("ISDN (64k)"), tr("ISDN (128k)"),
@@ -261,6 +267,7 @@ void FrmOptions::load()
     txtPath->setText(m_settings.value(Keys::Path));
 
     m_serversTab->load();
+    m_friendsTab->load();
     showTheme(m_themeService.applied());
     runStartPortRule();
     loadThemes();
@@ -396,6 +403,10 @@ void FrmOptions::resetToDefaults()
         m_serversTab->resetToDefaults();
         return;
     }
+    if (tabOptions->currentIndex() == FriendsTabIndex) {
+        m_friendsTab->resetToDefaults();
+        return;
+    }
     cmbLanguage->setCurrentIndex(0);
     cmbSpeed->setCurrentIndex(5);
     chkAutoUpdate->setChecked(true);
@@ -433,6 +444,7 @@ bool FrmOptions::save()
         m_settings.set(Keys::Path, txtPath->text());
         m_settings.set(Keys::Speed, cmbSpeed->currentIndex());
         m_serversTab->save();
+        m_friendsTab->save();
     }
     const QString name = cmbThemes->currentText().isEmpty() ? ThemeFile::DefaultName : cmbThemes->currentText();
     saveTheme(name);

@@ -13,6 +13,7 @@ class QLabel;
 class QLineEdit;
 class QPushButton;
 class QTabWidget;
+class FriendsTab;
 class ServersTab;
 class SettingsStore;
 class ThemeService;
@@ -26,7 +27,7 @@ class FrmOptions final : public QDialog {
     Q_DISABLE_COPY_MOVE(FrmOptions)
 
 public:
-    enum Tab { SettingsTab = 0, ThemeTab = 1, SourcesTab = 2 };
+    enum Tab { SettingsTab = 0, ThemeTab = 1, SourcesTab = 2, FriendsTabIndex = 3 };
 
     // dataFolder holds the known servers the "Servers" tab can forget.
     FrmOptions(SettingsStore& settings, Desktop& desktop, Language& language, ThemeService& themes,
@@ -103,6 +104,7 @@ private:
     QPushButton* cmdRemove = nullptr;
 
     ServersTab* m_serversTab = nullptr;
+    FriendsTab* m_friendsTab = nullptr;
 
     QLabel* lblMessage = nullptr;
     QPushButton* cmdOK = nullptr;

@@ -27,14 +27,19 @@ QString ServerRecord::playersText() const
 void ServerStore::clear()
 {
     m_servers.clear();
+    m_first.clear();
     m_storedPlayers = 0;
 }
 
 int ServerStore::add(ServerRecord record)
 {
     m_storedPlayers += int(record.players.size());
+    const int index = int(m_servers.size());
+    const QString key = record.endpointText();
+    if (!m_first.contains(key))
+        m_first.insert(key, index);
     m_servers.append(std::move(record));
-    return int(m_servers.size()) - 1;
+    return index;
 }
 
 void ServerStore::replace(int index, ServerRecord record)
@@ -45,9 +50,5 @@ void ServerStore::replace(int index, ServerRecord record)
 
 int ServerStore::indexOf(const QString& address, int port) const
 {
-    for (int i = 0; i < m_servers.size(); ++i) {
-        if (m_servers.at(i).port == port && m_servers.at(i).address == address)
-            return i;
-    }
-    return -1;
+    return m_first.value(endpointText(address, port), -1);
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QHash>
 #include <QList>
 #include <QString>
 #include <QStringList>
@@ -101,5 +102,8 @@ public:
 
 private:
     QList<ServerRecord> m_servers;
+    // "address:port" to the first server there: a refresh of thousands of
+    // servers finds each row without walking the list.
+    QHash<QString, int> m_first;
     int m_storedPlayers = 0;
 };

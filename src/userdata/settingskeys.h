@@ -75,6 +75,16 @@ inline constexpr FlagSetting QueryKnownServers{u"QueryKnownServers", true};
 // Where "Query LAN" sends: addresses separated by blanks; empty: the
 // broadcast address of every local network.
 inline constexpr TextSetting LanBroadcast{u"LanBroadcast"};
+// The user's friends: names or wildcard patterns, as remembered entries.
+inline constexpr EntriesSetting Friends{u"Friends"};
+// Re-query the listed servers every this many minutes; 0: never.
+inline constexpr NumberSetting AutoRefreshMinutes{u"AutoRefreshMinutes", 0};
+// While refreshing automatically: a notification when a friend starts
+// playing, and when a favourite server reaches this many players (0: never).
+inline constexpr FlagSetting NotifyFriends{u"NotifyFriends", true};
+inline constexpr NumberSetting NotifyPlayerCount{u"NotifyPlayerCount", 0};
+// Joining a full server offers to wait for a free slot.
+inline constexpr FlagSetting OfferSlotWait{u"OfferSlotWait", true};
 
 // List prefixes: columns use the first, sorting the second (the selected
 // server's player pane is the one list where they differ).

@@ -30,6 +30,26 @@ private slots:
         QCOMPARE(find({}, "a", 0), -1);
     }
 
+    // "Next Friend": after the selection, round to the top, never the
+    // selected row again unless it is the only one.
+    void nextMarkedWrapsRound()
+    {
+        const QList<bool> marks{false, true, false, true, false};
+        const auto marked = [&marks](int row) { return marks.at(row); };
+        QCOMPARE(Find::nextMarked(5, marked, -1), 1);
+        QCOMPARE(Find::nextMarked(5, marked, 1), 3);
+        QCOMPARE(Find::nextMarked(5, marked, 3), 1);
+        QCOMPARE(Find::nextMarked(5, marked, 4), 1);
+        QCOMPARE(Find::nextMarked(5, marked, 9), 1); // a stale selection: from the top
+        QCOMPARE(Find::nextMarked(
+                     5, [](int row) { return row == 2; }, 2),
+                 2);
+        QCOMPARE(Find::nextMarked(
+                     5, [](int) { return false; }, 0),
+                 -1);
+        QCOMPARE(Find::nextMarked(0, marked, -1), -1);
+    }
+
     void startRowFollowsTheMarker()
     {
         QCOMPARE(Find::startRow(QStringLiteral("1"), 2, 5), 3);

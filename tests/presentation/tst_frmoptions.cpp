@@ -17,6 +17,7 @@
 #include <QLineEdit>
 #include <QListWidget>
 #include <QPushButton>
+#include <QSpinBox>
 #include <QTableView>
 #include <QTabWidget>
 #include <QTemporaryDir>
@@ -371,6 +372,58 @@ private slots:
         QCOMPARE(m_settings->value(Keys::ServerListUrls), QStringLiteral("http://lists.example/q4.txt"));
         QVERIFY(!m_settings->value(Keys::QueryKnownServers));
         QCOMPARE(parseMasterList(m_settings->value(Keys::MasterServer)).masters.size(), 2);
+    }
+
+    void theFriendsTabKeepsFriendsRefreshAndNotifications()
+    {
+        m_settings->set(Keys::Friends, QStringList{QStringLiteral("Bob*")});
+        m_settings->save(u"AutoRefreshMinutes", QStringLiteral("7")); // typed into the file by hand
+        open();
+        find<QTabWidget>("tabOptions")->setCurrentIndex(FrmOptions::FriendsTabIndex);
+        auto* friends = find<QListWidget>("lstFriends");
+        auto* interval = find<QComboBox>("cmbAutoRefresh");
+        QCOMPARE(friends->count(), 1);
+        // A value the list does not offer is kept, not turned into another.
+        QCOMPARE(interval->currentText(), QStringLiteral("Every 7 minutes"));
+        QVERIFY(find<QCheckBox>("chkNotifyFriends")->isEnabled());
+
+        // A control character is refused and offered again; a real one goes in.
+        m_desktop->inputAnswers.enqueue(QStringLiteral("Bob\x01"));
+        m_desktop->messageAnswers.enqueue(QMessageBox::Ok);
+        m_desktop->inputAnswers.enqueue(QStringLiteral(" [UFO]* "));
+        click("cmdFriendsAdd");
+        QCOMPARE(m_desktop->messages.size(), 1);
+        QCOMPARE(friends->count(), 2);
+        QCOMPARE(friends->item(1)->text(), QStringLiteral("[UFO]*"));
+
+        // "Never" turns the notifications off with it.
+        choose("cmbAutoRefresh", 0);
+        QVERIFY(!find<QCheckBox>("chkNotifyFriends")->isEnabled());
+        QVERIFY(!find<QCheckBox>("chkNotifyPlayers")->isEnabled());
+        choose("cmbAutoRefresh", 3); // every 5 minutes
+        find<QCheckBox>("chkNotifyPlayers")->click();
+        QVERIFY(find<QSpinBox>("spnNotifyPlayers")->isEnabled());
+        auto* players = find<QSpinBox>("spnNotifyPlayers");
+        players->setFocus(Qt::MouseFocusReason);
+        QTest::keyClick(players, Qt::Key_A, Qt::ControlModifier);
+        QTest::keyClicks(players, QStringLiteral("12"));
+        find<QCheckBox>("chkOfferWait")->click();
+        click("cmdOK");
+        QCOMPARE(m_settings->value(Keys::Friends), (QStringList{QStringLiteral("Bob*"), QStringLiteral("[UFO]*")}));
+        QCOMPARE(m_settings->value(Keys::AutoRefreshMinutes), 5);
+        QCOMPARE(m_settings->value(Keys::NotifyPlayerCount), 12);
+        QVERIFY(!m_settings->value(Keys::OfferSlotWait));
+
+        // Defaults on this tab: the settings go back, the friends stay.
+        open();
+        find<QTabWidget>("tabOptions")->setCurrentIndex(FrmOptions::FriendsTabIndex);
+        m_desktop->messageAnswers.enqueue(QMessageBox::Yes);
+        click("cmdDefaults");
+        click("cmdOK");
+        QCOMPARE(m_settings->value(Keys::AutoRefreshMinutes), 0);
+        QCOMPARE(m_settings->value(Keys::NotifyPlayerCount), 0);
+        QVERIFY(m_settings->value(Keys::OfferSlotWait));
+        QCOMPARE(m_settings->value(Keys::Friends).size(), 2);
     }
 
     void knownServersAreForgottenOnlyWhenConfirmed()

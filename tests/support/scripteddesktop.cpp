@@ -53,3 +53,11 @@ bool ScriptedDesktop::startDetached(const QString& program, const QStringList& a
     starts.append({program, arguments, workingFolder});
     return startSucceeds;
 }
+
+bool ScriptedDesktop::notify(const QString& title, const QString& text, std::function<void()> clicked)
+{
+    if (!notifying)
+        ++unexpectedCalls;
+    notifications.append({title, text, std::move(clicked)});
+    return true;
+}

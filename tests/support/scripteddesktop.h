@@ -1,6 +1,7 @@
 #pragma once
 
 #include "desktop.h"
+#include "manualclock.h"
 
 #include <QList>
 #include <QQueue>
@@ -29,6 +30,11 @@ public:
         QString folder;
         QString filter;
     };
+    struct Notification {
+        QString title;
+        QString text;
+        std::function<void()> clicked;
+    };
     struct Start {
         QString program;
         QStringList arguments;
@@ -47,6 +53,9 @@ public:
     QList<QColor> colourRequests;
     QList<QUrl> openedUrls;
     QList<Start> starts;
+    QList<Notification> notifications;
+    bool notifying = false;
+    ManualClock manualClock;
     int unexpectedCalls = 0;
 
     QMessageBox::StandardButton message(QWidget* parent, Icon icon, const QString& title, const QString& text,
@@ -57,4 +66,7 @@ public:
     std::optional<QColor> pickColour(QWidget* parent, const QColor& start) override;
     bool openUrl(const QUrl& url) override;
     bool startDetached(const QString& program, const QStringList& arguments, const QString& workingFolder) override;
+    Clock& clock() override { return manualClock; }
+    void setNotifying(bool on) override { notifying = on; }
+    bool notify(const QString& title, const QString& text, std::function<void()> clicked) override;
 };

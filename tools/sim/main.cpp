@@ -49,6 +49,9 @@ int main(int argc, char* argv[])
          QString::number(defaults.playersPerServer)},
         {QStringLiteral("seed"), QStringLiteral("Seed for names, maps and players."), QStringLiteral("N"),
          QStringLiteral("1")},
+        {QStringLiteral("churn"),
+         QStringLiteral("Every this many seconds players join and leave on a fifth of the servers (0: never)."),
+         QStringLiteral("SECONDS"), QStringLiteral("0")},
         {QStringLiteral("lifetime"), QStringLiteral("Stop after this many seconds (0: run until stopped)."),
          QStringLiteral("SECONDS"), QStringLiteral("0")},
     });
@@ -59,14 +62,22 @@ int main(int argc, char* argv[])
     options.servers = number(parser, QStringLiteral("servers"), &ok);
     options.masterPort = quint16(number(parser, QStringLiteral("master-port"), &ok));
     options.firstServerPort = quint16(number(parser, QStringLiteral("first-port"), &ok));
-    options.silentFraction = parser.value(QStringLiteral("silent")).toDouble(&ok);
+    // Each number checked on its own: a later valid one must not hide an
+    // earlier invalid one.
+    bool silentOk = false;
+    options.silentFraction = parser.value(QStringLiteral("silent")).toDouble(&silentOk);
+    ok = ok && silentOk;
     options.delayMs = number(parser, QStringLiteral("delay"), &ok);
     options.jitterMs = number(parser, QStringLiteral("jitter"), &ok);
     options.playersPerServer = number(parser, QStringLiteral("players"), &ok);
     options.seed = quint32(number(parser, QStringLiteral("seed"), &ok));
     const int lifetime = number(parser, QStringLiteral("lifetime"), &ok);
+    bool churnOk = false;
+    const double churn = parser.value(QStringLiteral("churn")).toDouble(&churnOk);
+    ok = ok && churnOk;
+    options.churnMs = int(churn * 1000);
     if (!ok || options.servers < 0 || options.delayMs < 0 || options.jitterMs < 0 || options.playersPerServer < 0 ||
-        lifetime < 0 || options.firstServerPort + options.servers > 65536) {
+        lifetime < 0 || churn < 0 || options.firstServerPort + options.servers > 65536) {
         std::fprintf(stderr, "q4vantage-sim: invalid option value (see --help)\n");
         return 2;
     }

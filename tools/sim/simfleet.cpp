@@ -52,6 +52,7 @@ SimFleet::SimFleet(const FleetOptions& options, QObject* parent)
     : QObject(parent)
     , m_options(options)
     , m_jitterState(options.seed * 2654435761u + 1)
+    , m_churnRandom(options.seed ^ 0x5eedu)
 {
     generate();
 }
@@ -138,11 +139,45 @@ std::optional<QString> SimFleet::start()
         connect(socket, &QUdpSocket::readyRead, this, [this, i] { answer(i); });
         m_sockets.append(socket);
     }
+    if (m_options.churnMs > 0) {
+        m_churnTimer = new QTimer(this);
+        connect(m_churnTimer, &QTimer::timeout, this, &SimFleet::churn);
+        m_churnTimer->start(m_options.churnMs);
+    }
     return std::nullopt;
+}
+
+void SimFleet::churn()
+{
+    ++m_churnSteps;
+    for (int index = 0; index < m_servers.size(); ++index) {
+        if (m_churnRandom.generateDouble() >= m_options.churnShare)
+            continue;
+        Server& server = m_servers[index];
+        int maxPlayers = 0;
+        for (const auto& [key, value] : std::as_const(server.rules))
+            if (key == "si_maxplayers")
+                maxPlayers = value.toInt();
+        const bool join =
+            server.players.isEmpty() || (server.players.size() < maxPlayers && m_churnRandom.bounded(2) == 0);
+        if (join) {
+            QByteArray name = playerName(m_churnRandom) + QByteArray::number(++m_newPlayers);
+            server.players.append(SimReplies::Player{quint8(server.players.size()),
+                                                     quint16(10 + m_churnRandom.bounded(250)), 25000, name,
+                                                     pick(Clans, m_churnRandom)});
+        } else {
+            server.players.removeAt(m_churnRandom.bounded(int(server.players.size())));
+        }
+        for (int p = 0; p < server.players.size(); ++p)
+            server.players[p].number = quint8(p);
+        server.reply = SimReplies::infoResponse(server.rules, server.players);
+    }
 }
 
 void SimFleet::stop()
 {
+    delete m_churnTimer;
+    m_churnTimer = nullptr;
     qDeleteAll(m_sockets);
     m_sockets.clear();
     delete m_master;

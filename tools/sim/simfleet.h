@@ -5,9 +5,11 @@
 #include <QHostAddress>
 #include <QList>
 #include <QObject>
+#include <QRandomGenerator>
 
 #include <optional>
 
+class QTimer;
 class QUdpSocket;
 
 struct FleetOptions {
@@ -20,6 +22,8 @@ struct FleetOptions {
     int jitterMs = 0;            // added at random, 0 to this
     int playersPerServer = 8;    // at most; each server gets 0 to this many
     quint32 seed = 1;            // same seed, same names, maps and players
+    int churnMs = 0;             // every this often players come and go (0: never)
+    double churnShare = 0.2;     // share of servers that change each time
 };
 
 // A master server and a fleet of game servers, each on its own UDP port,
@@ -57,8 +61,17 @@ public:
     // Changes what one server answers from now on (a map change, players
     // joining).
     void setServer(int index, const SimReplies::Rules& rules, const QList<SimReplies::Player>& players);
+    // Makes one server stop answering (or answer again), as one that
+    // crashed or came back.
+    void setSilent(int index, bool silent) { m_servers[index].silent = silent; }
     // Makes the master keep quiet, as an unreachable one is.
     void setMasterSilent(bool silent) { m_masterSilent = silent; }
+    // One step of life on the servers: on a share of them a player joins
+    // (a new name) or one leaves, so servers fill and empty over time. The
+    // same seed gives the same steps. Runs by itself every churnMs once
+    // started.
+    void churn();
+    int churnSteps() const { return m_churnSteps; }
 
 signals:
     void masterQueried();
@@ -77,4 +90,8 @@ private:
     int m_masterRequests = 0;
     int m_infoRequests = 0;
     quint32 m_jitterState = 0;
+    QRandomGenerator m_churnRandom;
+    QTimer* m_churnTimer = nullptr;
+    int m_churnSteps = 0;
+    int m_newPlayers = 0;
 };

@@ -1,0 +1,46 @@
+#include "alerts.h"
+
+#include <QSet>
+
+namespace Alerts {
+
+namespace {
+
+QString keyOf(const Sighting& sighting)
+{
+    return sighting.player + QChar(0) + sighting.address;
+}
+
+} // namespace
+
+QList<Sighting> arrivals(const QList<Sighting>& before, const QList<Sighting>& after)
+{
+    QSet<QString> known;
+    for (const Sighting& sighting : before)
+        known.insert(keyOf(sighting));
+    QList<Sighting> arrived;
+    for (const Sighting& sighting : after) {
+        const QString key = keyOf(sighting);
+        if (known.contains(key))
+            continue;
+        known.insert(key);
+        arrived.append(sighting);
+    }
+    return arrived;
+}
+
+QList<QString> reached(const Counts& before, const Counts& after, int threshold)
+{
+    QList<QString> servers;
+    if (threshold < 1)
+        return servers;
+    for (auto it = after.cbegin(); it != after.cend(); ++it) {
+        const auto old = before.constFind(it.key());
+        if (old != before.cend() && old->players < threshold && it->players >= threshold)
+            servers.append(it.key());
+    }
+    std::sort(servers.begin(), servers.end());
+    return servers;
+}
+
+} // namespace Alerts

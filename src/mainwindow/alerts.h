@@ -1,0 +1,36 @@
+#pragma once
+
+#include <QHash>
+#include <QList>
+#include <QString>
+
+// When the automatic refresh tells the user something: a friend who starts
+// playing, a watched server that fills up. Both compare what the list
+// showed before a refresh with what it shows after it.
+namespace Alerts {
+
+// A friend seen on a server.
+struct Sighting {
+    QString player;  // plain name
+    QString address; // the server's "address:port"
+    QString server;  // plain server name
+    friend bool operator==(const Sighting&, const Sighting&) = default;
+};
+
+// The friends on a server where they were not before: newly arrived, or
+// moved to another server. A friend seen twice counts once.
+QList<Sighting> arrivals(const QList<Sighting>& before, const QList<Sighting>& after);
+
+// Players on a watched server, by "address:port".
+struct Count {
+    QString server; // plain name
+    int players = 0;
+};
+using Counts = QHash<QString, Count>;
+
+// The watched servers that reached the threshold in this refresh: fewer
+// players before, at least that many now. A server not listed before is
+// not news (it has no "before"); a threshold below 1 means never.
+QList<QString> reached(const Counts& before, const Counts& after, int threshold);
+
+} // namespace Alerts

@@ -1,0 +1,51 @@
+#include "rowmarkdelegate.h"
+
+#include "reportmodel.h"
+
+#include <QHash>
+#include <QPainter>
+#include <QPainterPath>
+#include <QtMath>
+
+QIcon RowMarkDelegate::star(const QColor& colour)
+{
+    static QHash<QRgb, QIcon> drawn;
+    const auto found = drawn.constFind(colour.rgba());
+    if (found != drawn.cend())
+        return *found;
+    constexpr int Size = 32;
+    QPixmap pixmap(Size, Size);
+    pixmap.fill(Qt::transparent);
+    QPainterPath path;
+    for (int point = 0; point < 10; ++point) {
+        const double radius = point % 2 == 0 ? Size * 0.48 : Size * 0.2;
+        const double angle = -M_PI / 2 + point * M_PI / 5;
+        const QPointF at(Size / 2.0 + radius * std::cos(angle), Size / 2.0 + radius * std::sin(angle));
+        point == 0 ? path.moveTo(at) : path.lineTo(at);
+    }
+    path.closeSubpath();
+    QPainter painter(&pixmap);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.fillPath(path, colour);
+    painter.end();
+    return *drawn.insert(colour.rgba(), QIcon(pixmap));
+}
+
+void RowMarkDelegate::initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const
+{
+    QStyledItemDelegate::initStyleOption(option, index);
+    const int marks = index.data(RowMarks::Role).toInt();
+    if (marks & RowMarks::Friend) {
+        option->font.setBold(true);
+        if (index.column() == 0) {
+            option->icon = star(option->palette.color(QPalette::Highlight));
+            option->features |= QStyleOptionViewItem::HasDecoration;
+            const int side = option->fontMetrics.height() - 2;
+            option->decorationSize = QSize(side, side);
+        }
+    }
+    if (marks & RowMarks::Silent) {
+        option->state &= ~QStyle::State_Enabled;
+        option->palette.setCurrentColorGroup(QPalette::Disabled);
+    }
+}

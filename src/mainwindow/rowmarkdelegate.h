@@ -1,0 +1,20 @@
+#pragma once
+
+#include <QStyledItemDelegate>
+
+// Draws the marks of the big lists' rows: a friend's row (or a server with
+// a friend) in bold with a star before its name, a server that did not
+// answer the last refresh greyed as disabled text. The colours are those
+// of the view's palette, so every theme keeps them readable.
+class RowMarkDelegate final : public QStyledItemDelegate {
+    Q_OBJECT
+    Q_DISABLE_COPY_MOVE(RowMarkDelegate)
+
+public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+
+    static QIcon star(const QColor& colour);
+
+protected:
+    void initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const override;
+};

@@ -1,0 +1,170 @@
+#include "frmhistory.h"
+
+#include "copycommands.h"
+#include "reportview.h"
+
+#include <QDateTime>
+#include <QEvent>
+#include <QHBoxLayout>
+#include <QHeaderView>
+#include <QLabel>
+#include <QLocale>
+#include <QMenu>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+namespace {
+
+// Nobody saves this list's column order: the copy commands find none
+// under this prefix and take the columns as they are.
+constexpr QStringView OrderPrefix = u"H";
+
+} // namespace
+
+HistoryModel::HistoryModel(QObject* parent)
+    : QAbstractTableModel(parent)
+{
+}
+
+int HistoryModel::rowCount(const QModelIndex& parent) const
+{
+    return parent.isValid() ? 0 : int(m_entries.size());
+}
+
+int HistoryModel::columnCount(const QModelIndex& parent) const
+{
+    return parent.isValid() ? 0 : ColumnCount;
+}
+
+QVariant HistoryModel::data(const QModelIndex& index, int role) const
+{
+    if (!index.isValid() || index.row() >= m_entries.size() || role != Qt::DisplayRole)
+        return {};
+    const PlayHistory::Entry& entry = m_entries.at(index.row());
+    switch (index.column()) {
+    case Name:
+        return entry.name;
+    case Address:
+        return entry.endpointText();
+    case Played:
+        return QLocale().toString(QDateTime::fromSecsSinceEpoch(entry.joinedAt), QLocale::ShortFormat);
+    default:
+        return {};
+    }
+}
+
+QVariant HistoryModel::headerData(int section, Qt::Orientation orientation, int role) const
+{
+    if (orientation != Qt::Horizontal || role != Qt::DisplayRole)
+        return {};
+    switch (section) {
+    case Name:
+        return tr("Server");
+    case Address:
+        return tr("Server IP Address");
+    case Played:
+        return tr("Last Played");
+    default:
+        return {};
+    }
+}
+
+void HistoryModel::sort(int column, Qt::SortOrder order)
+{
+    emit layoutAboutToBeChanged();
+    std::stable_sort(m_entries.begin(), m_entries.end(),
+                     [column, order](const PlayHistory::Entry& a, const PlayHistory::Entry& b) {
+                         const PlayHistory::Entry& first = order == Qt::AscendingOrder ? a : b;
+                         const PlayHistory::Entry& second = order == Qt::AscendingOrder ? b : a;
+                         if (column == Played)
+                             return first.joinedAt < second.joinedAt;
+                         const QString left = column == Name ? first.name : first.endpointText();
+                         const QString right = column == Name ? second.name : second.endpointText();
+                         return left.compare(right, Qt::CaseInsensitive) < 0;
+                     });
+    emit layoutChanged();
+}
+
+void HistoryModel::setEntries(const PlayHistory::List& entries)
+{
+    beginResetModel();
+    m_entries = entries;
+    endResetModel();
+}
+
+void HistoryModel::retranslate()
+{
+    emit headerDataChanged(Qt::Horizontal, 0, ColumnCount - 1);
+}
+
+FrmHistory::FrmHistory(SettingsStore& settings, QString dataFolder, QWidget* parent)
+    : QDialog(parent)
+    , m_path(PlayHistory::filePath(dataFolder))
+    , m_model(new HistoryModel(this))
+{
+    setObjectName(QStringLiteral("frmHistory"));
+    lstHistory = new ReportView(m_model, {200, 150, 130}, this);
+    lstHistory->setObjectName(QStringLiteral("lstHistory"));
+    lstHistory->setSortingEnabled(true);
+    // Newest first, as the file keeps them; a click sorts by a column.
+    lstHistory->header()->setSortIndicator(-1, Qt::DescendingOrder);
+    lblEmpty = new QLabel(this);
+    lblEmpty->setObjectName(QStringLiteral("lblEmpty"));
+    lblEmpty->setWordWrap(true);
+    m_menu = new QMenu(this);
+    m_copy = new CopyCommands(
+        *m_menu, settings,
+        [this] {
+            return CopyCommands::Target{lstHistory, OrderPrefix};
+        },
+        CopyText::LineSeparator);
+    connect(lstHistory, &ReportView::menuRequested, this, [this](const QModelIndex& index, const QPoint& at) {
+        if (index.isValid())
+            m_menu->popup(at);
+    });
+
+    cmdQueryHistory = new QPushButton(this);
+    cmdQueryHistory->setObjectName(QStringLiteral("cmdQueryHistory"));
+    cmdClose = new QPushButton(this);
+    cmdClose->setObjectName(QStringLiteral("cmdClose"));
+    connect(cmdQueryHistory, &QPushButton::clicked, this, &FrmHistory::queryRequested);
+    connect(cmdClose, &QPushButton::clicked, this, &QDialog::close);
+
+    auto* buttons = new QHBoxLayout;
+    buttons->addWidget(cmdQueryHistory);
+    buttons->addStretch();
+    buttons->addWidget(cmdClose);
+    auto* layout = new QVBoxLayout(this);
+    layout->addWidget(lstHistory, 1);
+    layout->addWidget(lblEmpty);
+    layout->addLayout(buttons);
+    resize(540, 340);
+
+    retranslateUi();
+    reload();
+}
+
+void FrmHistory::reload()
+{
+    m_model->setEntries(PlayHistory::readFile(m_path));
+    lstHistory->header()->setSortIndicator(-1, Qt::DescendingOrder);
+    lblEmpty->setVisible(m_model->rowCount() == 0);
+    cmdQueryHistory->setEnabled(m_model->rowCount() > 0);
+}
+
+void FrmHistory::changeEvent(QEvent* event)
+{
+    QDialog::changeEvent(event);
+    if (event->type() == QEvent::LanguageChange)
+        retranslateUi();
+}
+
+void FrmHistory::retranslateUi()
+{
+    setWindowTitle(tr("Recently Played"));
+    lblEmpty->setText(tr("No servers yet: every server you join from this program is listed here."));
+    cmdQueryHistory->setText(tr("Query Recently Played"));
+    cmdClose->setText(tr("Close"));
+    m_copy->retranslate();
+    m_model->retranslate();
+}
