@@ -17,6 +17,25 @@
     </message>
 </context>
 <context>
+    <name>AutoRefresh</name>
+    <message>
+        <source>Refreshed at %1: %2 of %3 servers answered</source>
+        <translation>Aktualisiert um %1: %2 von %3 Servern haben geantwortet</translation>
+    </message>
+    <message>
+        <source>%1 is playing on %2</source>
+        <translation>%1 spielt auf %2</translation>
+    </message>
+    <message>
+        <source>%1 has %2 players</source>
+        <translation>%1 hat %2 Spieler</translation>
+    </message>
+    <message>
+        <source>Quake 4 Vantage</source>
+        <translation>Quake 4 Vantage</translation>
+    </message>
+</context>
+<context>
     <name>CopyCommands</name>
     <message>
         <source>Copy Cell</source>
@@ -96,6 +115,80 @@
     <message>
         <source>Text Not Found</source>
         <translation>Text nicht gefunden</translation>
+    </message>
+    <message>
+        <source>Next Friend</source>
+        <translation>Nächster Freund</translation>
+    </message>
+    <message>
+        <source>Select the next listed friend</source>
+        <translation>Den nächsten aufgelisteten Freund auswählen</translation>
+    </message>
+    <message>
+        <source>No friends yet: right-click a player and choose "Add To Friends".</source>
+        <translation>Noch keine Freunde: Klicken Sie mit der rechten Maustaste auf einen Spieler und wählen Sie „Zu Freunden hinzufügen“.</translation>
+    </message>
+    <message>
+        <source>None of your friends is listed.</source>
+        <translation>Keiner Ihrer Freunde ist in der Liste.</translation>
+    </message>
+</context>
+<context>
+    <name>FriendsTab</name>
+    <message>
+        <source>Friends (names, or patterns such as *Bob*):</source>
+        <translation>Freunde (Namen oder Muster wie *Bob*):</translation>
+    </message>
+    <message>
+        <source>Friend</source>
+        <translation>Freund</translation>
+    </message>
+    <message>
+        <source>Name of a friend as the player list shows it, or a pattern such as *Hammer*:</source>
+        <translation>Name eines Freundes, wie ihn die Spielerliste zeigt, oder ein Muster wie *Hammer*:</translation>
+    </message>
+    <message>
+        <source>"%1" holds a control character. Type a name or a pattern.</source>
+        <translation>„%1“ enthält ein Steuerzeichen. Geben Sie einen Namen oder ein Muster ein.</translation>
+    </message>
+    <message>
+        <source>Refresh the listed servers:</source>
+        <translation>Aufgelistete Server aktualisieren:</translation>
+    </message>
+    <message>
+        <source>Never</source>
+        <translation>Nie</translation>
+    </message>
+    <message numerus="yes">
+        <source>Every %n minutes</source>
+        <translation>
+            <numerusform>Alle %n Minuten</numerusform>
+            <numerusform>Alle %n Minuten</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Tell me when a friend starts playing</source>
+        <translation>Melden, wenn ein Freund zu spielen beginnt</translation>
+    </message>
+    <message>
+        <source>Tell me when a favourite server has</source>
+        <translation>Melden, wenn ein Favoriten-Server</translation>
+    </message>
+    <message>
+        <source>players or more</source>
+        <translation>oder mehr Spieler hat</translation>
+    </message>
+    <message>
+        <source>Notifications come with the automatic refresh.</source>
+        <translation>Benachrichtigungen kommen mit der automatischen Aktualisierung.</translation>
+    </message>
+    <message>
+        <source>Offer to wait for a slot on a full server</source>
+        <translation>Bei vollem Server Warten auf einen Platz anbieten</translation>
+    </message>
+    <message>
+        <source>Every minute</source>
+        <translation>Jede Minute</translation>
     </message>
 </context>
 <context>
@@ -253,6 +346,25 @@
     </message>
 </context>
 <context>
+    <name>FrmHistory</name>
+    <message>
+        <source>Recently Played</source>
+        <translation>Zuletzt gespielt</translation>
+    </message>
+    <message>
+        <source>No servers yet: every server you join from this program is listed here.</source>
+        <translation>Noch keine Server: Jeder Server, dem Sie mit diesem Programm beitreten, wird hier aufgeführt.</translation>
+    </message>
+    <message>
+        <source>Query Recently Played</source>
+        <translation>Zuletzt gespielte anfragen</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Schließen</translation>
+    </message>
+</context>
+<context>
     <name>FrmMain</name>
     <message>
         <source>Quake 4 Vantage</source>
@@ -303,6 +415,18 @@
             <numerusform>%n Spieler gefunden</numerusform>
             <numerusform>%n Spieler gefunden</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>Recently Played</source>
+        <translation>Zuletzt gespielt</translation>
+    </message>
+    <message>
+        <source>Stop Waiting</source>
+        <translation>Warten beenden</translation>
+    </message>
+    <message>
+        <source>Stopped waiting for a free slot.</source>
+        <translation>Warten auf einen freien Platz beendet.</translation>
     </message>
 </context>
 <context>
@@ -499,6 +623,10 @@
         <source>Servers</source>
         <translation>Server</translation>
     </message>
+    <message>
+        <source>Friends</source>
+        <translation>Freunde</translation>
+    </message>
 </context>
 <context>
     <name>FrmUpdate</name>
@@ -529,6 +657,21 @@
     <message>
         <source>No</source>
         <translation>Nein</translation>
+    </message>
+</context>
+<context>
+    <name>HistoryModel</name>
+    <message>
+        <source>Server</source>
+        <translation>Server</translation>
+    </message>
+    <message>
+        <source>Server IP Address</source>
+        <translation>Server-IP-Adresse</translation>
+    </message>
+    <message>
+        <source>Last Played</source>
+        <translation>Zuletzt gespielt</translation>
     </message>
 </context>
 <context>
@@ -576,6 +719,16 @@
     <message>
         <source>The game could not be started: %1.</source>
         <translation>Das Spiel konnte nicht gestartet werden: %1.</translation>
+    </message>
+    <message>
+        <source>%1 is full.
+Wait for a free slot and join as soon as one opens?</source>
+        <translation>%1 ist voll.
+Auf einen freien Platz warten und beitreten, sobald einer frei wird?</translation>
+    </message>
+    <message>
+        <source>The game started, but the list of recently played servers could not be saved.</source>
+        <translation>Das Spiel wurde gestartet, aber die Liste der zuletzt gespielten Server konnte nicht gespeichert werden.</translation>
     </message>
 </context>
 <context>
@@ -682,6 +835,22 @@
         <source>The favourites file could not be written.</source>
         <translation>Die Favoritendatei konnte nicht geschrieben werden.</translation>
     </message>
+    <message>
+        <source>Add To F&amp;riends</source>
+        <translation>Zu F&amp;reunden hinzufügen</translation>
+    </message>
+    <message>
+        <source>%1 is one of your friends already.</source>
+        <translation>%1 ist bereits einer Ihrer Freunde.</translation>
+    </message>
+    <message>
+        <source>Your friends could not be saved.</source>
+        <translation>Ihre Freunde konnten nicht gespeichert werden.</translation>
+    </message>
+    <message>
+        <source>%1 was added to your friends.</source>
+        <translation>%1 wurde zu Ihren Freunden hinzugefügt.</translation>
+    </message>
 </context>
 <context>
     <name>QueryBar</name>
@@ -784,6 +953,10 @@
         <source>(list cut at %1)</source>
         <translation>(Liste nach %1 abgeschnitten)</translation>
     </message>
+    <message>
+        <source>No servers played yet: the servers you join are kept in "Recently Played".</source>
+        <translation>Noch keine Server gespielt: Die Server, denen Sie beitreten, stehen unter „Zuletzt gespielt“.</translation>
+    </message>
 </context>
 <context>
     <name>QueryError</name>
@@ -824,6 +997,13 @@
     <message>
         <source>the reply is larger than %1 MiB</source>
         <translation>die Antwort ist größer als %1 MiB</translation>
+    </message>
+</context>
+<context>
+    <name>ServerListModel</name>
+    <message>
+        <source>No answer to the last refresh; last seen at %1</source>
+        <translation>Keine Antwort auf die letzte Aktualisierung; zuletzt gesehen um %1</translation>
     </message>
 </context>
 <context>
@@ -918,6 +1098,17 @@
             <numerusform>%n Server bekannt.</numerusform>
             <numerusform>%n Server bekannt.</numerusform>
         </translation>
+    </message>
+</context>
+<context>
+    <name>SlotWaiter</name>
+    <message>
+        <source>No slot came free on %1 in 30 minutes: stopped waiting.</source>
+        <translation>Auf %1 wurde in 30 Minuten kein Platz frei: Warten beendet.</translation>
+    </message>
+    <message>
+        <source>%1 is full (%2): waiting for a free slot...</source>
+        <translation>%1 ist voll (%2): warte auf einen freien Platz...</translation>
     </message>
 </context>
 <context>

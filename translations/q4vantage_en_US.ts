@@ -17,6 +17,25 @@
     </message>
 </context>
 <context>
+    <name>AutoRefresh</name>
+    <message>
+        <source>Refreshed at %1: %2 of %3 servers answered</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>%1 is playing on %2</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>%1 has %2 players</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>Quake 4 Vantage</source>
+        <translation type="unfinished" />
+    </message>
+</context>
+<context>
     <name>CopyCommands</name>
     <message>
         <source>Copy Cell</source>
@@ -95,6 +114,80 @@
     </message>
     <message>
         <source>Text Not Found</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>Next Friend</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>Select the next listed friend</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>No friends yet: right-click a player and choose "Add To Friends".</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>None of your friends is listed.</source>
+        <translation type="unfinished" />
+    </message>
+</context>
+<context>
+    <name>FriendsTab</name>
+    <message>
+        <source>Friends (names, or patterns such as *Bob*):</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>Friend</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>Name of a friend as the player list shows it, or a pattern such as *Hammer*:</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>"%1" holds a control character. Type a name or a pattern.</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>Refresh the listed servers:</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>Never</source>
+        <translation type="unfinished" />
+    </message>
+    <message numerus="yes">
+        <source>Every %n minutes</source>
+        <translation type="unfinished">
+            <numerusform />
+            <numerusform />
+        </translation>
+    </message>
+    <message>
+        <source>Tell me when a friend starts playing</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>Tell me when a favourite server has</source>
+        <translation>Tell me when a favorite server has</translation>
+    </message>
+    <message>
+        <source>players or more</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>Notifications come with the automatic refresh.</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>Offer to wait for a slot on a full server</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>Every minute</source>
         <translation type="unfinished" />
     </message>
 </context>
@@ -252,6 +345,25 @@
     </message>
 </context>
 <context>
+    <name>FrmHistory</name>
+    <message>
+        <source>Recently Played</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>No servers yet: every server you join from this program is listed here.</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>Query Recently Played</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>Close</source>
+        <translation type="unfinished" />
+    </message>
+</context>
+<context>
     <name>FrmMain</name>
     <message>
         <source>Favourites</source>
@@ -302,6 +414,18 @@
             <numerusform />
             <numerusform />
         </translation>
+    </message>
+    <message>
+        <source>Recently Played</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>Stop Waiting</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>Stopped waiting for a free slot.</source>
+        <translation type="unfinished" />
     </message>
 </context>
 <context>
@@ -498,6 +622,10 @@
         <source>Servers</source>
         <translation type="unfinished" />
     </message>
+    <message>
+        <source>Friends</source>
+        <translation type="unfinished" />
+    </message>
 </context>
 <context>
     <name>FrmUpdate</name>
@@ -527,6 +655,21 @@
     </message>
     <message>
         <source>No</source>
+        <translation type="unfinished" />
+    </message>
+</context>
+<context>
+    <name>HistoryModel</name>
+    <message>
+        <source>Server</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>Server IP Address</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>Last Played</source>
         <translation type="unfinished" />
     </message>
 </context>
@@ -574,6 +717,15 @@
     </message>
     <message>
         <source>The game could not be started: %1.</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>%1 is full.
+Wait for a free slot and join as soon as one opens?</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>The game started, but the list of recently played servers could not be saved.</source>
         <translation type="unfinished" />
     </message>
 </context>
@@ -681,6 +833,22 @@
         <source>&amp;Select Server</source>
         <translation type="unfinished" />
     </message>
+    <message>
+        <source>Add To F&amp;riends</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>%1 is one of your friends already.</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>Your friends could not be saved.</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>%1 was added to your friends.</source>
+        <translation type="unfinished" />
+    </message>
 </context>
 <context>
     <name>QueryBar</name>
@@ -780,6 +948,10 @@
         <source>(list cut at %1)</source>
         <translation type="unfinished" />
     </message>
+    <message>
+        <source>No servers played yet: the servers you join are kept in "Recently Played".</source>
+        <translation type="unfinished" />
+    </message>
 </context>
 <context>
     <name>QueryError</name>
@@ -819,6 +991,13 @@
     </message>
     <message>
         <source>the reply is larger than %1 MiB</source>
+        <translation type="unfinished" />
+    </message>
+</context>
+<context>
+    <name>ServerListModel</name>
+    <message>
+        <source>No answer to the last refresh; last seen at %1</source>
         <translation type="unfinished" />
     </message>
 </context>
@@ -914,6 +1093,17 @@
             <numerusform>%n server known.</numerusform>
             <numerusform>%n servers known.</numerusform>
         </translation>
+    </message>
+</context>
+<context>
+    <name>SlotWaiter</name>
+    <message>
+        <source>No slot came free on %1 in 30 minutes: stopped waiting.</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>%1 is full (%2): waiting for a free slot...</source>
+        <translation type="unfinished" />
     </message>
 </context>
 <context>

@@ -17,6 +17,25 @@
     </message>
 </context>
 <context>
+    <name>AutoRefresh</name>
+    <message>
+        <source>Refreshed at %1: %2 of %3 servers answered</source>
+        <translation>Actualisé à %1 : %2 serveurs sur %3 ont répondu</translation>
+    </message>
+    <message>
+        <source>%1 is playing on %2</source>
+        <translation>%1 joue sur %2</translation>
+    </message>
+    <message>
+        <source>%1 has %2 players</source>
+        <translation>%1 a %2 joueurs</translation>
+    </message>
+    <message>
+        <source>Quake 4 Vantage</source>
+        <translation>Quake 4 Vantage</translation>
+    </message>
+</context>
+<context>
     <name>CopyCommands</name>
     <message>
         <source>Copy Cell</source>
@@ -96,6 +115,80 @@
     <message>
         <source>Text Not Found</source>
         <translation>Texte Non trouvé</translation>
+    </message>
+    <message>
+        <source>Next Friend</source>
+        <translation>Ami suivant</translation>
+    </message>
+    <message>
+        <source>Select the next listed friend</source>
+        <translation>Sélectionner l'ami suivant de la liste</translation>
+    </message>
+    <message>
+        <source>No friends yet: right-click a player and choose "Add To Friends".</source>
+        <translation>Pas encore d'amis : faites un clic droit sur un joueur et choisissez « Ajouter aux amis ».</translation>
+    </message>
+    <message>
+        <source>None of your friends is listed.</source>
+        <translation>Aucun de vos amis n'est dans la liste.</translation>
+    </message>
+</context>
+<context>
+    <name>FriendsTab</name>
+    <message>
+        <source>Friends (names, or patterns such as *Bob*):</source>
+        <translation>Amis (noms, ou motifs comme *Bob*) :</translation>
+    </message>
+    <message>
+        <source>Friend</source>
+        <translation>Ami</translation>
+    </message>
+    <message>
+        <source>Name of a friend as the player list shows it, or a pattern such as *Hammer*:</source>
+        <translation>Nom d'un ami tel que la liste des joueurs l'affiche, ou un motif comme *Hammer* :</translation>
+    </message>
+    <message>
+        <source>"%1" holds a control character. Type a name or a pattern.</source>
+        <translation>« %1 » contient un caractère de contrôle. Saisissez un nom ou un motif.</translation>
+    </message>
+    <message>
+        <source>Refresh the listed servers:</source>
+        <translation>Actualiser les serveurs listés :</translation>
+    </message>
+    <message>
+        <source>Never</source>
+        <translation>Jamais</translation>
+    </message>
+    <message numerus="yes">
+        <source>Every %n minutes</source>
+        <translation>
+            <numerusform>Toutes les %n minutes</numerusform>
+            <numerusform>Toutes les %n minutes</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Tell me when a friend starts playing</source>
+        <translation>Me prévenir quand un ami commence à jouer</translation>
+    </message>
+    <message>
+        <source>Tell me when a favourite server has</source>
+        <translation>Me prévenir quand un serveur favori a</translation>
+    </message>
+    <message>
+        <source>players or more</source>
+        <translation>joueurs ou plus</translation>
+    </message>
+    <message>
+        <source>Notifications come with the automatic refresh.</source>
+        <translation>Les notifications accompagnent l'actualisation automatique.</translation>
+    </message>
+    <message>
+        <source>Offer to wait for a slot on a full server</source>
+        <translation>Proposer d'attendre une place sur un serveur plein</translation>
+    </message>
+    <message>
+        <source>Every minute</source>
+        <translation>Chaque minute</translation>
     </message>
 </context>
 <context>
@@ -253,6 +346,25 @@
     </message>
 </context>
 <context>
+    <name>FrmHistory</name>
+    <message>
+        <source>Recently Played</source>
+        <translation>Joués récemment</translation>
+    </message>
+    <message>
+        <source>No servers yet: every server you join from this program is listed here.</source>
+        <translation>Aucun serveur pour l'instant : chaque serveur que vous rejoignez depuis ce programme apparaît ici.</translation>
+    </message>
+    <message>
+        <source>Query Recently Played</source>
+        <translation>Rechercher Joués récemment</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Fermer</translation>
+    </message>
+</context>
+<context>
     <name>FrmMain</name>
     <message>
         <source>Quake 4 Vantage</source>
@@ -303,6 +415,18 @@
             <numerusform>%n joueur trouvé</numerusform>
             <numerusform>%n joueurs trouvés</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>Recently Played</source>
+        <translation>Joués récemment</translation>
+    </message>
+    <message>
+        <source>Stop Waiting</source>
+        <translation>Arrêter d'attendre</translation>
+    </message>
+    <message>
+        <source>Stopped waiting for a free slot.</source>
+        <translation>Attente d'une place libre arrêtée.</translation>
     </message>
 </context>
 <context>
@@ -499,6 +623,10 @@
         <source>Servers</source>
         <translation>Serveurs</translation>
     </message>
+    <message>
+        <source>Friends</source>
+        <translation>Amis</translation>
+    </message>
 </context>
 <context>
     <name>FrmUpdate</name>
@@ -529,6 +657,21 @@
     <message>
         <source>No</source>
         <translation>Non</translation>
+    </message>
+</context>
+<context>
+    <name>HistoryModel</name>
+    <message>
+        <source>Server</source>
+        <translation>Serveur</translation>
+    </message>
+    <message>
+        <source>Server IP Address</source>
+        <translation>Adresse IP du serveur</translation>
+    </message>
+    <message>
+        <source>Last Played</source>
+        <translation>Dernière partie</translation>
     </message>
 </context>
 <context>
@@ -576,6 +719,16 @@
     <message>
         <source>The game could not be started: %1.</source>
         <translation>Le jeu n'a pas pu être lancé : %1.</translation>
+    </message>
+    <message>
+        <source>%1 is full.
+Wait for a free slot and join as soon as one opens?</source>
+        <translation>%1 est plein.
+Attendre une place libre et rejoindre dès qu'une place se libère ?</translation>
+    </message>
+    <message>
+        <source>The game started, but the list of recently played servers could not be saved.</source>
+        <translation>Le jeu a démarré, mais la liste des serveurs joués récemment n'a pas pu être enregistrée.</translation>
     </message>
 </context>
 <context>
@@ -682,6 +835,22 @@
         <source>The favourites file could not be written.</source>
         <translation>Le fichier des favoris n'a pas pu être écrit.</translation>
     </message>
+    <message>
+        <source>Add To F&amp;riends</source>
+        <translation>Ajouter aux &amp;amis</translation>
+    </message>
+    <message>
+        <source>%1 is one of your friends already.</source>
+        <translation>%1 fait déjà partie de vos amis.</translation>
+    </message>
+    <message>
+        <source>Your friends could not be saved.</source>
+        <translation>Vos amis n'ont pas pu être enregistrés.</translation>
+    </message>
+    <message>
+        <source>%1 was added to your friends.</source>
+        <translation>%1 a été ajouté à vos amis.</translation>
+    </message>
 </context>
 <context>
     <name>QueryBar</name>
@@ -784,6 +953,10 @@
         <source>(list cut at %1)</source>
         <translation>(liste coupée à %1)</translation>
     </message>
+    <message>
+        <source>No servers played yet: the servers you join are kept in "Recently Played".</source>
+        <translation>Aucun serveur joué pour l'instant : les serveurs que vous rejoignez sont gardés dans « Joués récemment ».</translation>
+    </message>
 </context>
 <context>
     <name>QueryError</name>
@@ -824,6 +997,13 @@
     <message>
         <source>the reply is larger than %1 MiB</source>
         <translation>la réponse dépasse %1 Mio</translation>
+    </message>
+</context>
+<context>
+    <name>ServerListModel</name>
+    <message>
+        <source>No answer to the last refresh; last seen at %1</source>
+        <translation>Aucune réponse à la dernière actualisation ; vu pour la dernière fois à %1</translation>
     </message>
 </context>
 <context>
@@ -918,6 +1098,17 @@
             <numerusform>%n serveur connu.</numerusform>
             <numerusform>%n serveurs connus.</numerusform>
         </translation>
+    </message>
+</context>
+<context>
+    <name>SlotWaiter</name>
+    <message>
+        <source>No slot came free on %1 in 30 minutes: stopped waiting.</source>
+        <translation>Aucune place ne s'est libérée sur %1 en 30 minutes : attente arrêtée.</translation>
+    </message>
+    <message>
+        <source>%1 is full (%2): waiting for a free slot...</source>
+        <translation>%1 est plein (%2) : attente d'une place libre...</translation>
     </message>
 </context>
 <context>

@@ -17,6 +17,25 @@
     </message>
 </context>
 <context>
+    <name>AutoRefresh</name>
+    <message>
+        <source>Refreshed at %1: %2 of %3 servers answered</source>
+        <translation>Aggiornato alle %1: hanno risposto %2 server su %3</translation>
+    </message>
+    <message>
+        <source>%1 is playing on %2</source>
+        <translation>%1 sta giocando su %2</translation>
+    </message>
+    <message>
+        <source>%1 has %2 players</source>
+        <translation>%1 ha %2 giocatori</translation>
+    </message>
+    <message>
+        <source>Quake 4 Vantage</source>
+        <translation>Quake 4 Vantage</translation>
+    </message>
+</context>
+<context>
     <name>CopyCommands</name>
     <message>
         <source>Copy Cell</source>
@@ -96,6 +115,80 @@
     <message>
         <source>Text Not Found</source>
         <translation>Testo Non Cercato</translation>
+    </message>
+    <message>
+        <source>Next Friend</source>
+        <translation>Amico successivo</translation>
+    </message>
+    <message>
+        <source>Select the next listed friend</source>
+        <translation>Seleziona il prossimo amico in elenco</translation>
+    </message>
+    <message>
+        <source>No friends yet: right-click a player and choose "Add To Friends".</source>
+        <translation>Ancora nessun amico: fai clic destro su un giocatore e scegli «Aggiungi agli amici».</translation>
+    </message>
+    <message>
+        <source>None of your friends is listed.</source>
+        <translation>Nessuno dei tuoi amici è in elenco.</translation>
+    </message>
+</context>
+<context>
+    <name>FriendsTab</name>
+    <message>
+        <source>Friends (names, or patterns such as *Bob*):</source>
+        <translation>Amici (nomi, o modelli come *Bob*):</translation>
+    </message>
+    <message>
+        <source>Friend</source>
+        <translation>Amico</translation>
+    </message>
+    <message>
+        <source>Name of a friend as the player list shows it, or a pattern such as *Hammer*:</source>
+        <translation>Nome di un amico come appare nell'elenco dei giocatori, o un modello come *Hammer*:</translation>
+    </message>
+    <message>
+        <source>"%1" holds a control character. Type a name or a pattern.</source>
+        <translation>«%1» contiene un carattere di controllo. Scrivi un nome o un modello.</translation>
+    </message>
+    <message>
+        <source>Refresh the listed servers:</source>
+        <translation>Aggiorna i server in elenco:</translation>
+    </message>
+    <message>
+        <source>Never</source>
+        <translation>Mai</translation>
+    </message>
+    <message numerus="yes">
+        <source>Every %n minutes</source>
+        <translation>
+            <numerusform>Ogni %n minuti</numerusform>
+            <numerusform>Ogni %n minuti</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Tell me when a friend starts playing</source>
+        <translation>Avvisami quando un amico inizia a giocare</translation>
+    </message>
+    <message>
+        <source>Tell me when a favourite server has</source>
+        <translation>Avvisami quando un server preferito ha</translation>
+    </message>
+    <message>
+        <source>players or more</source>
+        <translation>giocatori o più</translation>
+    </message>
+    <message>
+        <source>Notifications come with the automatic refresh.</source>
+        <translation>Le notifiche arrivano con l'aggiornamento automatico.</translation>
+    </message>
+    <message>
+        <source>Offer to wait for a slot on a full server</source>
+        <translation>Offri di attendere un posto su un server pieno</translation>
+    </message>
+    <message>
+        <source>Every minute</source>
+        <translation>Ogni minuto</translation>
     </message>
 </context>
 <context>
@@ -253,6 +346,25 @@
     </message>
 </context>
 <context>
+    <name>FrmHistory</name>
+    <message>
+        <source>Recently Played</source>
+        <translation>Giocati di recente</translation>
+    </message>
+    <message>
+        <source>No servers yet: every server you join from this program is listed here.</source>
+        <translation>Ancora nessun server: ogni server a cui ti unisci da questo programma compare qui.</translation>
+    </message>
+    <message>
+        <source>Query Recently Played</source>
+        <translation>Interroga Giocati di recente</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Chiudi</translation>
+    </message>
+</context>
+<context>
     <name>FrmMain</name>
     <message>
         <source>Quake 4 Vantage</source>
@@ -303,6 +415,18 @@
             <numerusform>%n giocatore trovato</numerusform>
             <numerusform>%n giocatori trovati</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>Recently Played</source>
+        <translation>Giocati di recente</translation>
+    </message>
+    <message>
+        <source>Stop Waiting</source>
+        <translation>Smetti di attendere</translation>
+    </message>
+    <message>
+        <source>Stopped waiting for a free slot.</source>
+        <translation>Attesa di un posto libero interrotta.</translation>
     </message>
 </context>
 <context>
@@ -499,6 +623,10 @@
         <source>Servers</source>
         <translation>Server</translation>
     </message>
+    <message>
+        <source>Friends</source>
+        <translation>Amici</translation>
+    </message>
 </context>
 <context>
     <name>FrmUpdate</name>
@@ -529,6 +657,21 @@
     <message>
         <source>No</source>
         <translation>No</translation>
+    </message>
+</context>
+<context>
+    <name>HistoryModel</name>
+    <message>
+        <source>Server</source>
+        <translation>Server</translation>
+    </message>
+    <message>
+        <source>Server IP Address</source>
+        <translation>Indirizzo IP del server</translation>
+    </message>
+    <message>
+        <source>Last Played</source>
+        <translation>Ultima partita</translation>
     </message>
 </context>
 <context>
@@ -576,6 +719,16 @@
     <message>
         <source>The game could not be started: %1.</source>
         <translation>Impossibile avviare il gioco: %1.</translation>
+    </message>
+    <message>
+        <source>%1 is full.
+Wait for a free slot and join as soon as one opens?</source>
+        <translation>%1 è pieno.
+Attendere un posto libero ed entrare appena se ne libera uno?</translation>
+    </message>
+    <message>
+        <source>The game started, but the list of recently played servers could not be saved.</source>
+        <translation>Il gioco è partito, ma non è stato possibile salvare l'elenco dei server giocati di recente.</translation>
     </message>
 </context>
 <context>
@@ -682,6 +835,22 @@
         <source>The favourites file could not be written.</source>
         <translation>Impossibile scrivere il file dei preferiti.</translation>
     </message>
+    <message>
+        <source>Add To F&amp;riends</source>
+        <translation>Aggiungi agli &amp;amici</translation>
+    </message>
+    <message>
+        <source>%1 is one of your friends already.</source>
+        <translation>%1 è già tra i tuoi amici.</translation>
+    </message>
+    <message>
+        <source>Your friends could not be saved.</source>
+        <translation>Impossibile salvare i tuoi amici.</translation>
+    </message>
+    <message>
+        <source>%1 was added to your friends.</source>
+        <translation>%1 è stato aggiunto ai tuoi amici.</translation>
+    </message>
 </context>
 <context>
     <name>QueryBar</name>
@@ -784,6 +953,10 @@
         <source>(list cut at %1)</source>
         <translation>(lista tagliata a %1)</translation>
     </message>
+    <message>
+        <source>No servers played yet: the servers you join are kept in "Recently Played".</source>
+        <translation>Nessun server giocato finora: i server a cui ti unisci restano in «Giocati di recente».</translation>
+    </message>
 </context>
 <context>
     <name>QueryError</name>
@@ -824,6 +997,13 @@
     <message>
         <source>the reply is larger than %1 MiB</source>
         <translation>la risposta supera %1 MiB</translation>
+    </message>
+</context>
+<context>
+    <name>ServerListModel</name>
+    <message>
+        <source>No answer to the last refresh; last seen at %1</source>
+        <translation>Nessuna risposta all'ultimo aggiornamento; visto l'ultima volta alle %1</translation>
     </message>
 </context>
 <context>
@@ -918,6 +1098,17 @@
             <numerusform>%n server conosciuto.</numerusform>
             <numerusform>%n server conosciuti.</numerusform>
         </translation>
+    </message>
+</context>
+<context>
+    <name>SlotWaiter</name>
+    <message>
+        <source>No slot came free on %1 in 30 minutes: stopped waiting.</source>
+        <translation>Nessun posto si è liberato su %1 in 30 minuti: attesa interrotta.</translation>
+    </message>
+    <message>
+        <source>%1 is full (%2): waiting for a free slot...</source>
+        <translation>%1 è pieno (%2): in attesa di un posto libero...</translation>
     </message>
 </context>
 <context>

@@ -17,6 +17,25 @@
     </message>
 </context>
 <context>
+    <name>AutoRefresh</name>
+    <message>
+        <source>Refreshed at %1: %2 of %3 servers answered</source>
+        <translation>Vernieuwd om %1: %2 van %3 servers antwoordden</translation>
+    </message>
+    <message>
+        <source>%1 is playing on %2</source>
+        <translation>%1 speelt op %2</translation>
+    </message>
+    <message>
+        <source>%1 has %2 players</source>
+        <translation>%1 heeft %2 spelers</translation>
+    </message>
+    <message>
+        <source>Quake 4 Vantage</source>
+        <translation>Quake 4 Vantage</translation>
+    </message>
+</context>
+<context>
     <name>CopyCommands</name>
     <message>
         <source>Copy Cell</source>
@@ -96,6 +115,80 @@
     <message>
         <source>Text Not Found</source>
         <translation>Text Niet Gevonden</translation>
+    </message>
+    <message>
+        <source>Next Friend</source>
+        <translation>Volgende vriend</translation>
+    </message>
+    <message>
+        <source>Select the next listed friend</source>
+        <translation>Selecteer de volgende vriend in de lijst</translation>
+    </message>
+    <message>
+        <source>No friends yet: right-click a player and choose "Add To Friends".</source>
+        <translation>Nog geen vrienden: klik met de rechtermuisknop op een speler en kies 'Toevoegen aan vrienden'.</translation>
+    </message>
+    <message>
+        <source>None of your friends is listed.</source>
+        <translation>Geen van uw vrienden staat in de lijst.</translation>
+    </message>
+</context>
+<context>
+    <name>FriendsTab</name>
+    <message>
+        <source>Friends (names, or patterns such as *Bob*):</source>
+        <translation>Vrienden (namen, of patronen zoals *Bob*):</translation>
+    </message>
+    <message>
+        <source>Friend</source>
+        <translation>Vriend</translation>
+    </message>
+    <message>
+        <source>Name of a friend as the player list shows it, or a pattern such as *Hammer*:</source>
+        <translation>Naam van een vriend zoals de spelerslijst die toont, of een patroon zoals *Hammer*:</translation>
+    </message>
+    <message>
+        <source>"%1" holds a control character. Type a name or a pattern.</source>
+        <translation>'%1' bevat een stuurteken. Typ een naam of een patroon.</translation>
+    </message>
+    <message>
+        <source>Refresh the listed servers:</source>
+        <translation>Getoonde servers vernieuwen:</translation>
+    </message>
+    <message>
+        <source>Never</source>
+        <translation>Nooit</translation>
+    </message>
+    <message numerus="yes">
+        <source>Every %n minutes</source>
+        <translation>
+            <numerusform>Elke %n minuten</numerusform>
+            <numerusform>Elke %n minuten</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Tell me when a friend starts playing</source>
+        <translation>Melden wanneer een vriend begint te spelen</translation>
+    </message>
+    <message>
+        <source>Tell me when a favourite server has</source>
+        <translation>Melden wanneer een favoriete server</translation>
+    </message>
+    <message>
+        <source>players or more</source>
+        <translation>of meer spelers heeft</translation>
+    </message>
+    <message>
+        <source>Notifications come with the automatic refresh.</source>
+        <translation>Meldingen komen met het automatisch vernieuwen.</translation>
+    </message>
+    <message>
+        <source>Offer to wait for a slot on a full server</source>
+        <translation>Wachten op een plek aanbieden bij een volle server</translation>
+    </message>
+    <message>
+        <source>Every minute</source>
+        <translation>Elke minuut</translation>
     </message>
 </context>
 <context>
@@ -253,6 +346,25 @@
     </message>
 </context>
 <context>
+    <name>FrmHistory</name>
+    <message>
+        <source>Recently Played</source>
+        <translation>Recent gespeeld</translation>
+    </message>
+    <message>
+        <source>No servers yet: every server you join from this program is listed here.</source>
+        <translation>Nog geen servers: elke server waaraan u met dit programma deelneemt, staat hier.</translation>
+    </message>
+    <message>
+        <source>Query Recently Played</source>
+        <translation>Query Recent gespeeld</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Sluiten</translation>
+    </message>
+</context>
+<context>
     <name>FrmMain</name>
     <message>
         <source>Quake 4 Vantage</source>
@@ -303,6 +415,18 @@
             <numerusform>%n speler gevonden</numerusform>
             <numerusform>%n spelers gevonden</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>Recently Played</source>
+        <translation>Recent gespeeld</translation>
+    </message>
+    <message>
+        <source>Stop Waiting</source>
+        <translation>Stop met wachten</translation>
+    </message>
+    <message>
+        <source>Stopped waiting for a free slot.</source>
+        <translation>Wachten op een vrije plek gestopt.</translation>
     </message>
 </context>
 <context>
@@ -499,6 +623,10 @@
         <source>Servers</source>
         <translation>Servers</translation>
     </message>
+    <message>
+        <source>Friends</source>
+        <translation>Vrienden</translation>
+    </message>
 </context>
 <context>
     <name>FrmUpdate</name>
@@ -529,6 +657,21 @@
     <message>
         <source>No</source>
         <translation>Nee</translation>
+    </message>
+</context>
+<context>
+    <name>HistoryModel</name>
+    <message>
+        <source>Server</source>
+        <translation>Server</translation>
+    </message>
+    <message>
+        <source>Server IP Address</source>
+        <translation>IP-adres van de server</translation>
+    </message>
+    <message>
+        <source>Last Played</source>
+        <translation>Laatst gespeeld</translation>
     </message>
 </context>
 <context>
@@ -576,6 +719,16 @@
     <message>
         <source>The game could not be started: %1.</source>
         <translation>Het spel kon niet worden gestart: %1.</translation>
+    </message>
+    <message>
+        <source>%1 is full.
+Wait for a free slot and join as soon as one opens?</source>
+        <translation>%1 is vol.
+Wachten op een vrije plek en deelnemen zodra er een vrijkomt?</translation>
+    </message>
+    <message>
+        <source>The game started, but the list of recently played servers could not be saved.</source>
+        <translation>Het spel is gestart, maar de lijst van recent gespeelde servers kon niet worden opgeslagen.</translation>
     </message>
 </context>
 <context>
@@ -682,6 +835,22 @@
         <source>The favourites file could not be written.</source>
         <translation>Het favorietenbestand kon niet worden geschreven.</translation>
     </message>
+    <message>
+        <source>Add To F&amp;riends</source>
+        <translation>Toevoegen aan v&amp;rienden</translation>
+    </message>
+    <message>
+        <source>%1 is one of your friends already.</source>
+        <translation>%1 is al een van uw vrienden.</translation>
+    </message>
+    <message>
+        <source>Your friends could not be saved.</source>
+        <translation>Uw vrienden konden niet worden opgeslagen.</translation>
+    </message>
+    <message>
+        <source>%1 was added to your friends.</source>
+        <translation>%1 is toegevoegd aan uw vrienden.</translation>
+    </message>
 </context>
 <context>
     <name>QueryBar</name>
@@ -784,6 +953,10 @@
         <source>(list cut at %1)</source>
         <translation>(lijst afgekapt op %1)</translation>
     </message>
+    <message>
+        <source>No servers played yet: the servers you join are kept in "Recently Played".</source>
+        <translation>Nog geen servers gespeeld: de servers waaraan u deelneemt, staan onder 'Recent gespeeld'.</translation>
+    </message>
 </context>
 <context>
     <name>QueryError</name>
@@ -824,6 +997,13 @@
     <message>
         <source>the reply is larger than %1 MiB</source>
         <translation>het antwoord is groter dan %1 MiB</translation>
+    </message>
+</context>
+<context>
+    <name>ServerListModel</name>
+    <message>
+        <source>No answer to the last refresh; last seen at %1</source>
+        <translation>Geen antwoord op de laatste vernieuwing; laatst gezien om %1</translation>
     </message>
 </context>
 <context>
@@ -918,6 +1098,17 @@
             <numerusform>%n server bekend.</numerusform>
             <numerusform>%n servers bekend.</numerusform>
         </translation>
+    </message>
+</context>
+<context>
+    <name>SlotWaiter</name>
+    <message>
+        <source>No slot came free on %1 in 30 minutes: stopped waiting.</source>
+        <translation>Er kwam in 30 minuten geen plek vrij op %1: wachten gestopt.</translation>
+    </message>
+    <message>
+        <source>%1 is full (%2): waiting for a free slot...</source>
+        <translation>%1 is vol (%2): wachten op een vrije plek...</translation>
     </message>
 </context>
 <context>

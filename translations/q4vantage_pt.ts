@@ -17,6 +17,25 @@
     </message>
 </context>
 <context>
+    <name>AutoRefresh</name>
+    <message>
+        <source>Refreshed at %1: %2 of %3 servers answered</source>
+        <translation>Atualizado às %1: responderam %2 de %3 servidores</translation>
+    </message>
+    <message>
+        <source>%1 is playing on %2</source>
+        <translation>%1 está a jogar em %2</translation>
+    </message>
+    <message>
+        <source>%1 has %2 players</source>
+        <translation>%1 tem %2 jogadores</translation>
+    </message>
+    <message>
+        <source>Quake 4 Vantage</source>
+        <translation>Quake 4 Vantage</translation>
+    </message>
+</context>
+<context>
     <name>CopyCommands</name>
     <message>
         <source>Copy Cell</source>
@@ -96,6 +115,80 @@
     <message>
         <source>Text Not Found</source>
         <translation>Texto Não Encontrado</translation>
+    </message>
+    <message>
+        <source>Next Friend</source>
+        <translation>Próximo amigo</translation>
+    </message>
+    <message>
+        <source>Select the next listed friend</source>
+        <translation>Selecionar o próximo amigo da lista</translation>
+    </message>
+    <message>
+        <source>No friends yet: right-click a player and choose "Add To Friends".</source>
+        <translation>Ainda sem amigos: clique com o botão direito num jogador e escolha «Adicionar aos amigos».</translation>
+    </message>
+    <message>
+        <source>None of your friends is listed.</source>
+        <translation>Nenhum dos seus amigos está na lista.</translation>
+    </message>
+</context>
+<context>
+    <name>FriendsTab</name>
+    <message>
+        <source>Friends (names, or patterns such as *Bob*):</source>
+        <translation>Amigos (nomes, ou padrões como *Bob*):</translation>
+    </message>
+    <message>
+        <source>Friend</source>
+        <translation>Amigo</translation>
+    </message>
+    <message>
+        <source>Name of a friend as the player list shows it, or a pattern such as *Hammer*:</source>
+        <translation>Nome de um amigo tal como a lista de jogadores o mostra, ou um padrão como *Hammer*:</translation>
+    </message>
+    <message>
+        <source>"%1" holds a control character. Type a name or a pattern.</source>
+        <translation>«%1» contém um carácter de controlo. Escreva um nome ou um padrão.</translation>
+    </message>
+    <message>
+        <source>Refresh the listed servers:</source>
+        <translation>Atualizar os servidores listados:</translation>
+    </message>
+    <message>
+        <source>Never</source>
+        <translation>Nunca</translation>
+    </message>
+    <message numerus="yes">
+        <source>Every %n minutes</source>
+        <translation>
+            <numerusform>A cada %n minutos</numerusform>
+            <numerusform>A cada %n minutos</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Tell me when a friend starts playing</source>
+        <translation>Avisar quando um amigo começa a jogar</translation>
+    </message>
+    <message>
+        <source>Tell me when a favourite server has</source>
+        <translation>Avisar quando um servidor favorito tem</translation>
+    </message>
+    <message>
+        <source>players or more</source>
+        <translation>jogadores ou mais</translation>
+    </message>
+    <message>
+        <source>Notifications come with the automatic refresh.</source>
+        <translation>As notificações vêm com a atualização automática.</translation>
+    </message>
+    <message>
+        <source>Offer to wait for a slot on a full server</source>
+        <translation>Oferecer espera por uma vaga num servidor cheio</translation>
+    </message>
+    <message>
+        <source>Every minute</source>
+        <translation>A cada minuto</translation>
     </message>
 </context>
 <context>
@@ -253,6 +346,25 @@
     </message>
 </context>
 <context>
+    <name>FrmHistory</name>
+    <message>
+        <source>Recently Played</source>
+        <translation>Jogados recentemente</translation>
+    </message>
+    <message>
+        <source>No servers yet: every server you join from this program is listed here.</source>
+        <translation>Ainda sem servidores: cada servidor em que entrar a partir deste programa aparece aqui.</translation>
+    </message>
+    <message>
+        <source>Query Recently Played</source>
+        <translation>Query Jogados recentemente</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Fechar</translation>
+    </message>
+</context>
+<context>
     <name>FrmMain</name>
     <message>
         <source>Quake 4 Vantage</source>
@@ -303,6 +415,18 @@
             <numerusform>%n jogador encontrado</numerusform>
             <numerusform>%n jogadores encontrados</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>Recently Played</source>
+        <translation>Jogados recentemente</translation>
+    </message>
+    <message>
+        <source>Stop Waiting</source>
+        <translation>Parar de esperar</translation>
+    </message>
+    <message>
+        <source>Stopped waiting for a free slot.</source>
+        <translation>Deixou de esperar por uma vaga.</translation>
     </message>
 </context>
 <context>
@@ -499,6 +623,10 @@
         <source>Servers</source>
         <translation>Servidores</translation>
     </message>
+    <message>
+        <source>Friends</source>
+        <translation>Amigos</translation>
+    </message>
 </context>
 <context>
     <name>FrmUpdate</name>
@@ -529,6 +657,21 @@
     <message>
         <source>No</source>
         <translation>Não</translation>
+    </message>
+</context>
+<context>
+    <name>HistoryModel</name>
+    <message>
+        <source>Server</source>
+        <translation>Servidor</translation>
+    </message>
+    <message>
+        <source>Server IP Address</source>
+        <translation>Endereço IP do servidor</translation>
+    </message>
+    <message>
+        <source>Last Played</source>
+        <translation>Última vez</translation>
     </message>
 </context>
 <context>
@@ -576,6 +719,16 @@
     <message>
         <source>The game could not be started: %1.</source>
         <translation>Não foi possível iniciar o jogo: %1.</translation>
+    </message>
+    <message>
+        <source>%1 is full.
+Wait for a free slot and join as soon as one opens?</source>
+        <translation>%1 está cheio.
+Esperar por uma vaga e entrar assim que uma abrir?</translation>
+    </message>
+    <message>
+        <source>The game started, but the list of recently played servers could not be saved.</source>
+        <translation>O jogo arrancou, mas não foi possível guardar a lista de servidores jogados recentemente.</translation>
     </message>
 </context>
 <context>
@@ -682,6 +835,22 @@
         <source>The favourites file could not be written.</source>
         <translation>Não foi possível escrever o ficheiro de favoritos.</translation>
     </message>
+    <message>
+        <source>Add To F&amp;riends</source>
+        <translation>Adicionar aos a&amp;migos</translation>
+    </message>
+    <message>
+        <source>%1 is one of your friends already.</source>
+        <translation>%1 já é um dos seus amigos.</translation>
+    </message>
+    <message>
+        <source>Your friends could not be saved.</source>
+        <translation>Não foi possível guardar os seus amigos.</translation>
+    </message>
+    <message>
+        <source>%1 was added to your friends.</source>
+        <translation>%1 foi adicionado aos seus amigos.</translation>
+    </message>
 </context>
 <context>
     <name>QueryBar</name>
@@ -784,6 +953,10 @@
         <source>(list cut at %1)</source>
         <translation>(lista cortada em %1)</translation>
     </message>
+    <message>
+        <source>No servers played yet: the servers you join are kept in "Recently Played".</source>
+        <translation>Ainda não jogou em nenhum servidor: os servidores em que entra ficam em «Jogados recentemente».</translation>
+    </message>
 </context>
 <context>
     <name>QueryError</name>
@@ -824,6 +997,13 @@
     <message>
         <source>the reply is larger than %1 MiB</source>
         <translation>a resposta é maior que %1 MiB</translation>
+    </message>
+</context>
+<context>
+    <name>ServerListModel</name>
+    <message>
+        <source>No answer to the last refresh; last seen at %1</source>
+        <translation>Sem resposta à última atualização; visto pela última vez às %1</translation>
     </message>
 </context>
 <context>
@@ -918,6 +1098,17 @@
             <numerusform>%n servidor conhecido.</numerusform>
             <numerusform>%n servidores conhecidos.</numerusform>
         </translation>
+    </message>
+</context>
+<context>
+    <name>SlotWaiter</name>
+    <message>
+        <source>No slot came free on %1 in 30 minutes: stopped waiting.</source>
+        <translation>Nenhuma vaga abriu em %1 em 30 minutos: deixou de esperar.</translation>
+    </message>
+    <message>
+        <source>%1 is full (%2): waiting for a free slot...</source>
+        <translation>%1 está cheio (%2): à espera de uma vaga...</translation>
     </message>
 </context>
 <context>

@@ -132,7 +132,8 @@ void QueryController::startHistoryQuery()
         return;
     const PlayHistory::List history = PlayHistory::readFile(m_historyPath);
     if (history.isEmpty()) {
-        emit status(tr("No servers played yet: the servers you join are listed here."), StatusTone::Hint);
+        emit status(tr("No servers played yet: the servers you join are kept in \"Recently Played\"."),
+                    StatusTone::Hint);
         return;
     }
     if (!begin())

@@ -74,12 +74,21 @@ void FriendsTab::retranslateUi()
     chkOfferWait->setText(tr("Offer to wait for a slot on a full server"));
 }
 
+QString FriendsTab::intervalText(int minutes)
+{
+    if (minutes == 0)
+        return tr("Never");
+    // English has no plural form for one in "%n minutes" without a
+    // translation file of its own.
+    return minutes == 1 ? tr("Every minute") : tr("Every %n minutes", nullptr, minutes);
+}
+
 void FriendsTab::showInterval(int minutes)
 {
     int index = cmbAutoRefresh->findData(minutes);
     if (index < 0) {
         // A value typed into the settings file stays what it was.
-        cmbAutoRefresh->addItem(tr("Every %n minutes", nullptr, minutes), minutes);
+        cmbAutoRefresh->addItem(intervalText(minutes), minutes);
         index = cmbAutoRefresh->count() - 1;
     }
     cmbAutoRefresh->setCurrentIndex(index);

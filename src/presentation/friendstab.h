@@ -31,6 +31,7 @@ public:
     void retranslateUi();
 
 private:
+    static QString intervalText(int minutes);
     void showInterval(int minutes);
     int chosenMinutes() const;
     void enableNotifications();

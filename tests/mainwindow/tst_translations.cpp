@@ -2,6 +2,7 @@
 #include "frmdownload.h"
 #include "frmfavourites.h"
 #include "frmfilters.h"
+#include "frmhistory.h"
 #include "frmmain.h"
 #include "frmoptions.h"
 #include "frmupdate.h"
@@ -115,6 +116,7 @@ class TestTranslations final : public QObject {
         FrmOptions options{settings, desktop, language, themes, dir.path()};
         FrmFavourites favourites{settings, dir.path()};
         FrmFilters filters{settings, dir.path()};
+        FrmHistory history{settings, dir.path()};
         FrmAbout about{desktop, QUrl()};
         FrmUpdate update{settings, {QStringLiteral("1"), QStringLiteral("2"), QStringLiteral("3")}};
         FrmDownload download{desktop, {QStringLiteral("1"), QStringLiteral("2"), QStringLiteral("3")}};
@@ -122,8 +124,8 @@ class TestTranslations final : public QObject {
         QMap<QString, QString> texts()
         {
             QMap<QString, QString> all;
-            for (QWidget* window :
-                 std::initializer_list<QWidget*>{&main, &options, &favourites, &filters, &about, &update, &download}) {
+            for (QWidget* window : std::initializer_list<QWidget*>{&main, &options, &favourites, &filters, &history,
+                                                                   &about, &update, &download}) {
                 const QMap<QString, QString> own = textsOf(window);
                 for (auto it = own.cbegin(); it != own.cend(); ++it)
                     all.insert(window->objectName() + QLatin1Char('/') + it.key(), it.value());
