@@ -44,8 +44,19 @@ void RowMarkDelegate::initStyleOption(QStyleOptionViewItem* option, const QModel
             option->decorationSize = QSize(side, side);
         }
     }
-    if (marks & RowMarks::Silent) {
-        option->state &= ~QStyle::State_Enabled;
-        option->palette.setCurrentColorGroup(QPalette::Disabled);
+}
+
+void RowMarkDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const
+{
+    // Faded rather than drawn in the palette's disabled colour: the theme's
+    // style sheet sets the lists' text colour and would win over a palette.
+    // A selected row stays plain, so its highlight stays readable.
+    if (!(index.data(RowMarks::Role).toInt() & RowMarks::Silent) || (option.state & QStyle::State_Selected)) {
+        QStyledItemDelegate::paint(painter, option, index);
+        return;
     }
+    painter->save();
+    painter->setOpacity(SilentOpacity);
+    QStyledItemDelegate::paint(painter, option, index);
+    painter->restore();
 }

@@ -103,7 +103,7 @@ FrmHistory::FrmHistory(SettingsStore& settings, QString dataFolder, QWidget* par
     , m_model(new HistoryModel(this))
 {
     setObjectName(QStringLiteral("frmHistory"));
-    lstHistory = new ReportView(m_model, {200, 150, 130}, this);
+    lstHistory = new ReportView(m_model, {170, 140, 175}, this);
     lstHistory->setObjectName(QStringLiteral("lstHistory"));
     lstHistory->setSortingEnabled(true);
     // Newest first, as the file keeps them; a click sorts by a column.

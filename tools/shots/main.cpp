@@ -1,15 +1,18 @@
 // Takes a picture of every window of the program in every language: the
-// main window listing a simulated fleet (both views), the options dialog
-// (every tab), the favourites and filters editors, the About box and the
+// main window listing a simulated fleet (both views, friends marked, one
+// server greyed by a refresh), the options dialog (every tab), the
+// favourites and filters editors, Recently Played, the About box and the
 // two update dialogs.
 //   q4vantage-shots OUTPUT_FOLDER [LANGUAGE_INDEX...]
 // Run it on a real display server (scripts/screenshots.sh uses Xvfb) to
 // see the fonts and style a user sees.
+#include "autorefresh.h"
 #include "desktop.h"
 #include "frmdownload.h"
 #include "frmmain.h"
 #include "frmupdate.h"
 #include "language.h"
+#include "playhistory.h"
 #include "querycontroller.h"
 #include "reportview.h"
 #include "settingsstore.h"
@@ -85,7 +88,7 @@ template <typename T> T* openedBy(QWidget& main, const char* button, const char*
     return window;
 }
 
-bool shootLanguage(int language, const QDir& out)
+bool shootLanguage(SimFleet& fleet, int language, const QDir& out)
 {
     QTemporaryDir data;
     SettingsStore settings(data.filePath(QStringLiteral("settings.ini")));
@@ -94,6 +97,11 @@ bool shootLanguage(int language, const QDir& out)
     settings.save(u"StartPort", QStringLiteral("41900"));
     // The simulated fleet only: no public list fetched for a picture.
     settings.save(u"ServerListUrls", QString());
+    // Friends among the fleet's players, and two servers played lately.
+    settings.set(Keys::Friends, {QStringLiteral("Fr*"), QStringLiteral("*Iron*")});
+    PlayHistory::writeFile(PlayHistory::filePath(data.path()),
+                           {{QStringLiteral("127.0.0.1"), 27993, QStringLiteral("Quad Storm #2"), 1795000000},
+                            {QStringLiteral("127.0.0.1"), 27991, QStringLiteral("Frag Arena #0"), 1794900000}});
     QtDesktop desktop;
     Language languages;
     FrmMain main(settings, desktop, languages, data.path());
@@ -114,6 +122,11 @@ bool shootLanguage(int language, const QDir& out)
         QApplication::sendEvent(servers->viewport(), &click);
     }
     waitFor([&queries] { return !queries.isRunning(); }, 3000);
+    // A refresh round in which one server stays silent: its row is greyed.
+    fleet.setSilent(1, true);
+    main.autoRefresh().refreshNow();
+    waitFor([&queries] { return !queries.isRunning(); }, 5000);
+    fleet.setSilent(1, false);
 
     bool ok = save(&main, out, QStringLiteral("main-servers"));
     child<QTabBar>(&main, "tabSelect")->setCurrentIndex(FrmMain::PlayersTab);
@@ -127,6 +140,8 @@ bool shootLanguage(int language, const QDir& out)
     ok = save(options, out, QStringLiteral("options-theme")) && ok;
     tabs->setCurrentIndex(2);
     ok = save(options, out, QStringLiteral("options-servers")) && ok;
+    tabs->setCurrentIndex(3);
+    ok = save(options, out, QStringLiteral("options-friends")) && ok;
     child<QPushButton>(options, "cmdCancel")->click();
 
     auto* favourites = openedBy<QDialog>(main, "cmdOrganise", "frmFavourites");
@@ -135,6 +150,9 @@ bool shootLanguage(int language, const QDir& out)
     auto* filters = openedBy<QDialog>(main, "cmdFilters", "frmFilters");
     ok = save(filters, out, QStringLiteral("filters")) && ok;
     filters->hide();
+    auto* recent = openedBy<QDialog>(main, "cmdRecent", "frmHistory");
+    ok = save(recent, out, QStringLiteral("recently-played")) && ok;
+    recent->close();
 
     // The About box opens from a click on the title.
     auto* title = child<QLabel>(&main, "lblAbout");
@@ -206,7 +224,7 @@ int main(int argc, char* argv[])
             std::fprintf(stderr, "cannot create %s\n", qPrintable(out.path()));
             return 1;
         }
-        ok = shootLanguage(language, out) && ok;
+        ok = shootLanguage(simulated, language, out) && ok;
     }
     return ok ? 0 : 1;
 }
