@@ -9,15 +9,24 @@
 //   q4vantage-bench windowping  the same with every answer 50 ms late: the
 //                             error of the pings the window lists
 //   q4vantage-bench parse     infoResponse parsing throughput
-//   q4vantage-bench filter    re-filtering 10,000 servers and 150,000 players
+//   q4vantage-bench filter    re-filtering 10,000 servers and 150,000 players,
+//                             with 50 friends marked, and a refresh of every
+//                             server applied in place
+//
+// The window runs with 50 friends and the automatic refresh on; after its
+// query it measures one refresh round of every listed server.
 
+#include "autorefresh.h"
 #include "find.h"
+#include "friends.h"
 #include "frmmain.h"
 #include "infoprotocol.h"
 #include "language.h"
 #include "playerlistmodel.h"
+#include "querycontroller.h"
 #include "querysession.h"
 #include "reportview.h"
+#include "rowmarkdelegate.h"
 #include "scripteddesktop.h"
 #include "serverlistmodel.h"
 #include "serverlists.h"
@@ -174,6 +183,18 @@ int cost()
     return result.answered == 10000 ? 0 : 1;
 }
 
+// Fifty friends as users keep them: names, a few patterns, one of which
+// matches in the fleets here.
+QStringList fiftyFriends()
+{
+    QStringList friends;
+    for (int i = 0; i < 45; ++i)
+        friends.append(QStringLiteral("Friend%1").arg(i));
+    friends += {QStringLiteral("*Hammer*"), QStringLiteral("[UFO]*"), QStringLiteral("Player7"),
+                QStringLiteral("Grim#"), QStringLiteral("?ail*")};
+    return friends;
+}
+
 // delayMs > 0: every server answers that much later, and the pings the
 // window lists are compared with it.
 int window(int delayMs)
@@ -187,13 +208,18 @@ int window(int delayMs)
                     {QStringLiteral("--servers"), QStringLiteral("5000"), QStringLiteral("--master-port"),
                      QStringLiteral("19999"), QStringLiteral("--first-port"), QStringLiteral("20000"),
                      QStringLiteral("--seed"), QStringLiteral("42"), QStringLiteral("--lifetime"),
-                     QStringLiteral("120"), QStringLiteral("--delay"), QString::number(delayMs)});
+                     QStringLiteral("120"), QStringLiteral("--delay"), QString::number(delayMs),
+                     // Players come and go meanwhile, so the refresh round
+                     // has rows to change, add and remove.
+                     QStringLiteral("--churn"), QStringLiteral("1")});
     if (!simulator.waitForReadyRead(20000))
         qFatal("q4vantage-sim did not start");
     QTemporaryDir dir;
     SettingsStore settings(dir.filePath(QStringLiteral("settings.ini")));
     settings.save(u"MasterServer", QStringLiteral("127.0.0.1:19999"));
     settings.save(u"StartPort", QString::number(StartPort));
+    settings.set(Keys::Friends, fiftyFriends());
+    settings.set(Keys::AutoRefreshMinutes, 5);
     ScriptedDesktop desktop;
     Language language;
     FrmMain main(settings, desktop, language, dir.path());
@@ -217,13 +243,25 @@ int window(int delayMs)
     });
     auto* status = main.findChild<QLabel*>(QStringLiteral("lblStatus"));
     qint64 queryMs = 0;
+    qint64 queryStall = 0;
+    qint64 refreshMs = -1;
+    QElapsedTimer refreshClock;
     QTimer poll;
     QObject::connect(&poll, &QTimer::timeout, [&] {
         // Stop measuring before quitting: quitting closes the window, and
         // writing its layout back is not part of the query.
-        if (status->text() == QLatin1String("Done")) {
-            heartbeat.stop();
+        if (queryMs == 0 && status->text() == QLatin1String("Done")) {
             queryMs = clock.elapsed();
+            queryStall = std::exchange(longest, 0);
+            // Then one round of the automatic refresh over every row.
+            refreshClock.start();
+            if (!main.autoRefresh().refreshNow())
+                QCoreApplication::quit();
+            return;
+        }
+        if (queryMs > 0 && !main.queries().isRefreshing()) {
+            heartbeat.stop();
+            refreshMs = refreshClock.elapsed();
             QCoreApplication::quit();
         }
     });
@@ -238,8 +276,11 @@ int window(int delayMs)
     });
     QCoreApplication::exec();
     std::printf("window: 5000 servers, %d players listed in %lld ms; longest event-loop stall %lld ms "
-                "(ending %lld ms after the click)\n",
-                main.lists().players().rowCount(), (long long)queryMs, (long long)longest, (long long)longestAt);
+                "(50 friends, automatic refresh on)\n",
+                main.lists().players().rowCount(), (long long)queryMs, (long long)queryStall);
+    std::printf("window: a refresh round of every server, rows updated in place, in %lld ms; longest event-loop "
+                "stall %lld ms (ending %lld ms after the click)\n",
+                (long long)refreshMs, (long long)longest, (long long)longestAt);
     if (delayMs > 0) {
         const ServerStore& store = main.lists().servers().store();
         std::vector<int> errors;
@@ -284,10 +325,21 @@ int filter()
         records.append(record);
     }
     servers.append(records);
+    QElapsedTimer appendClock;
+    appendClock.start();
     players.appendServersFrom(0);
+    std::printf("friends: %d players listed in %lld ms without friends\n", players.rowCount(),
+                (long long)appendClock.elapsed());
+    appendClock.restart();
+    players.setFriends(Friends::Matcher(fiftyFriends()));
+    std::printf("friends: 50 friends marked among %d players in %lld ms\n", players.rowCount(),
+                (long long)appendClock.elapsed());
+    servers.setFriendLookup([&players](int server) { return players.hasFriendOn(server); });
     // With the views a user would be looking at.
     ReportView serverView(&visibleServers, QList<int>(8, 80));
     ReportView playerView(&visiblePlayers, QList<int>(11, 70));
+    serverView.setItemDelegate(new RowMarkDelegate(&serverView));
+    playerView.setItemDelegate(new RowMarkDelegate(&playerView));
     serverView.resize(800, 400);
     playerView.resize(800, 400);
     serverView.show();
@@ -335,6 +387,44 @@ int filter()
             std::printf("sort: %s %s in %lld ms\n", sort.name, order == Qt::AscendingOrder ? "ascending" : "descending",
                         (long long)clock.elapsed());
         }
+    }
+
+    // A refresh round over every server, in the batches the window takes
+    // (the answers of 40 ms; here 250 servers a batch), applied in place:
+    // each server's rows change where they are, two players of each leave
+    // and two others come.
+    {
+        qint64 slowestBatch = 0;
+        QElapsedTimer total;
+        total.start();
+        for (int first = 0; first < servers.rowCount(); first += 250) {
+            QElapsedTimer clock;
+            clock.start();
+            QList<int> batch;
+            for (int index = first; index < std::min(first + 250, servers.rowCount()); ++index) {
+                ServerRecord record = servers.record(index);
+                record.players.removeFirst();
+                record.players.removeFirst();
+                for (const char* name : {"^3Friend7", "Newcomer"}) {
+                    PlayerRecord player;
+                    player.name = QString::fromLatin1(name);
+                    record.players.append(player);
+                }
+                // One server in ten empties by three more.
+                if (index % 10 == 0)
+                    record.players.remove(0, 3);
+                record.ping += 1;
+                servers.replace(index, record, 0);
+                batch.append(index);
+            }
+            players.updateServers(batch);
+            serverView.viewport()->repaint();
+            playerView.viewport()->repaint();
+            slowestBatch = std::max(slowestBatch, clock.elapsed());
+        }
+        std::printf("refresh: %d servers updated in place (2 players in, 2 out each; 3 more out on every tenth) in "
+                    "%lld ms, slowest batch of 250 %lld ms; %d players\n",
+                    servers.rowCount(), (long long)total.elapsed(), (long long)slowestBatch, players.rowCount());
     }
 
     // Find-next at its worst: the only match is the row just above the

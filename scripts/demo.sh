@@ -18,7 +18,7 @@ mkdir -p "$demo_home/Quake 4 Vantage"
 printf '[Settings]\nMasterServer=127.0.0.1:27950\nServerListUrls=\nAutoUpdate=0\n' >"$demo_home/Quake 4 Vantage/Quake 4 Vantage.ini"
 
 build/bin/q4vantage-sim --servers 300 --master-port 27950 --first-port 28000 \
-    --silent 0.1 --delay 20 --jitter 60 --players 12 &
+    --silent 0.1 --delay 20 --jitter 60 --players 12 --churn 5 &
 sim_pid=$!
 
 echo "Click \"Query Masters\" to query the simulated servers."

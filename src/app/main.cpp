@@ -6,6 +6,7 @@
 
 #include <QApplication>
 #include <QCommandLineParser>
+#include <QIcon>
 
 namespace {
 
@@ -42,6 +43,10 @@ int main(int argc, char* argv[])
     answerInformationOptions(argc, argv);
     QApplication app(argc, argv);
     nameTheProgram();
+    QIcon icon;
+    for (const char* size : {"32x32", "64x64", "128x128"})
+        icon.addFile(QStringLiteral(":/icons/%1/q4vantage.png").arg(QLatin1String(size)));
+    QApplication::setWindowIcon(icon);
 
     SettingsStore settings;
     QtDesktop desktop;

@@ -116,9 +116,12 @@ void AutoRefresh::notify(const QList<Alerts::Sighting>& arrived, const QList<QSt
     // The tray shows one message at a time: one for the round, and a click
     // goes to its first server.
     const QString address = arrived.isEmpty() ? filled.first() : arrived.first().address;
-    m_desktop.notify(tr("Quake 4 Vantage"), lines.join(QLatin1Char('\n')),
-                     [self = QPointer<AutoRefresh>(this), address] {
-                         if (self)
-                             emit self->selectServer(address);
-                     });
+    const bool shown = m_desktop.notify(tr("Quake 4 Vantage"), lines.join(QLatin1Char('\n')),
+                                        [self = QPointer<AutoRefresh>(this), address] {
+                                            if (self)
+                                                emit self->selectServer(address);
+                                        });
+    // A desktop without a tray still hears it, in the status line.
+    if (!shown)
+        emit status(lines.join(QLatin1Char('\n')), StatusTone::Hint);
 }

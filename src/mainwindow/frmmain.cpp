@@ -427,12 +427,11 @@ void FrmMain::applyRefresh(const ServerRecord& server)
 
 void FrmMain::applyUpdates(const QList<ServerRecord>& batch)
 {
-    for (const ServerRecord& server : batch) {
-        const int index = m_lists->replace(server);
-        if (index >= 0 && index == m_selection->server())
-            m_selection->refreshed(index);
+    const QList<int> indexes = m_lists->replace(batch);
+    if (indexes.contains(m_selection->server()) && m_selection->server() >= 0)
+        m_selection->refreshed(m_selection->server());
+    for (const ServerRecord& server : batch)
         m_waiter->answered(server);
-    }
     updateCounters();
 }
 

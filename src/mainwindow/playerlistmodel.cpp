@@ -122,40 +122,73 @@ void PlayerListModel::setFriends(const Friends::Matcher& friends)
         emit dataChanged(index(0, 0), index(int(m_rows.size()) - 1, ColumnCount - 1), {RowMarks::Role});
 }
 
-void PlayerListModel::updateServer(int server)
+void PlayerListModel::updateServers(const QList<int>& servers)
 {
-    const ServerRecord& record = m_servers.record(server);
-    // The new answer's players by raw name; each old row takes one of its
-    // name, so two players of the same name both stay.
-    QHash<QString, QList<int>> fresh;
-    for (int player = int(record.players.size()) - 1; player >= 0; --player)
-        fresh[record.players.at(player).name].append(player);
-    for (qsizetype at = m_rows.size() - 1; at >= 0; --at) {
-        Row& row = m_rows[at];
-        if (row.server != server)
-            continue;
-        // The old record is gone: the row keeps the name it was built from.
-        auto same = fresh.find(row.rawName);
-        if (same == fresh.end() || same->isEmpty()) {
-            count(row, -1);
-            beginRemoveRows({}, int(at), int(at));
-            m_rows.remove(at);
-            endRemoveRows();
-            continue;
-        }
-        count(row, -1);
-        row = rowOf(server, same->takeLast());
-        count(row, 1);
-        emit dataChanged(index(int(at), 0), index(int(at), ColumnCount - 1));
+    if (servers.isEmpty())
+        return;
+    // Each server's rows, found in one pass over the list.
+    QHash<int, QList<qsizetype>> rowsOf;
+    for (int server : servers)
+        rowsOf.insert(server, {});
+    for (qsizetype at = 0; at < m_rows.size(); ++at) {
+        const auto found = rowsOf.find(m_rows.at(at).server);
+        if (found != rowsOf.end())
+            found->append(at);
     }
-    QList<int> newcomers;
-    for (const QList<int>& left : std::as_const(fresh))
-        newcomers += left;
-    std::sort(newcomers.begin(), newcomers.end());
-    QList<Row> rows;
-    for (int player : newcomers)
-        rows.append(rowOf(server, player));
-    appendRows(rows);
+    QList<qsizetype> leaving;
+    QList<Row> arriving;
+    for (auto it = rowsOf.cbegin(); it != rowsOf.cend(); ++it) {
+        const int server = it.key();
+        const ServerRecord& record = m_servers.record(server);
+        // The new answer's players by raw name; each old row takes one of
+        // its name, so two players of the same name both stay.
+        QHash<QString, QList<int>> fresh;
+        for (int player = int(record.players.size()) - 1; player >= 0; --player)
+            fresh[record.players.at(player).name].append(player);
+        QList<qsizetype> gone;
+        for (qsizetype at : it.value()) {
+            auto same = fresh.find(m_rows.at(at).rawName);
+            if (same == fresh.end() || same->isEmpty()) {
+                gone.append(at);
+                continue;
+            }
+            setRow(at, rowOf(server, same->takeLast()));
+        }
+        QList<int> newcomers;
+        for (const QList<int>& left : std::as_const(fresh))
+            newcomers += left;
+        std::sort(newcomers.begin(), newcomers.end());
+        qsizetype reused = 0;
+        for (; reused < std::min(gone.size(), newcomers.size()); ++reused)
+            setRow(gone.at(reused), rowOf(server, newcomers.at(reused)));
+        leaving += gone.mid(reused);
+        for (qsizetype i = reused; i < newcomers.size(); ++i)
+            arriving.append(rowOf(server, newcomers.at(i)));
+    }
+    // From the end, so the positions still to remove stay valid.
+    std::sort(leaving.begin(), leaving.end(), std::greater<>());
+    for (qsizetype i = 0; i < leaving.size();) {
+        qsizetype first = leaving.at(i);
+        qsizetype j = i + 1;
+        while (j < leaving.size() && leaving.at(j) == first - 1)
+            first = leaving.at(j++);
+        const qsizetype last = leaving.at(i);
+        for (qsizetype at = first; at <= last; ++at)
+            count(m_rows.at(at), -1);
+        beginRemoveRows({}, int(first), int(last));
+        m_rows.remove(first, last - first + 1);
+        endRemoveRows();
+        i = j;
+    }
+    appendRows(arriving);
+}
+
+void PlayerListModel::setRow(qsizetype at, const Row& row)
+{
+    count(m_rows.at(at), -1);
+    m_rows[at] = row;
+    count(row, 1);
+    emit dataChanged(index(int(at), 0), index(int(at), ColumnCount - 1));
 }
 
 void PlayerListModel::replaceServer(int server)

@@ -48,10 +48,13 @@ public:
     void appendServersFrom(int firstServer);
     // Drops the rows of one server and appends its players anew.
     void replaceServer(int server);
-    // The server answered again: players still there keep their rows (and
-    // their places in the views), those gone lose them, newcomers are
-    // appended.
-    void updateServer(int server);
+    // These servers answered again: players still there keep their rows
+    // (and their places in the views), a newcomer takes the row of one who
+    // left the same server, and only what is left over is removed (in
+    // contiguous runs) or appended (all at once). Each insertion or removal
+    // costs the views a pass over every row, so a refresh of thousands of
+    // servers makes as few as it can.
+    void updateServers(const QList<int>& servers);
 
     // Marks the friends' rows; the server list asks friendsOn().
     void setFriends(const Friends::Matcher& friends);
@@ -68,6 +71,7 @@ private:
     Row rowOf(int server, int player) const;
     void count(const Row& row, int change);
     void appendRows(const QList<Row>& rows);
+    void setRow(qsizetype at, const Row& row);
 
     const ServerListModel& m_servers;
     QList<Row> m_rows;

@@ -37,12 +37,24 @@ void ServerLists::append(const QList<ServerRecord>& batch)
 
 int ServerLists::replace(const ServerRecord& server)
 {
-    const int index = m_servers.store().indexOf(server.address, server.port);
-    if (index < 0)
-        return -1;
-    m_servers.replace(index, server, m_nowMs ? m_nowMs() : 0);
-    m_players.updateServer(index);
-    return index;
+    return replace(QList<ServerRecord>{server}).first();
+}
+
+QList<int> ServerLists::replace(const QList<ServerRecord>& batch)
+{
+    QList<int> indexes;
+    QList<int> listed;
+    const qint64 now = m_nowMs ? m_nowMs() : 0;
+    for (const ServerRecord& server : batch) {
+        const int index = m_servers.store().indexOf(server.address, server.port);
+        indexes.append(index);
+        if (index < 0)
+            continue;
+        m_servers.replace(index, server, now);
+        listed.append(index);
+    }
+    m_players.updateServers(listed);
+    return indexes;
 }
 
 void ServerLists::markSilent(const QList<int>& storeIndexes)

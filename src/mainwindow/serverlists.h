@@ -47,6 +47,9 @@ public:
     // passes the filters is asked again at the next rebuild. Its store
     // index, or -1 when not listed.
     int replace(const ServerRecord& server);
+    // The same for a batch of answers (a refresh round): their store
+    // indexes, -1 for a server not listed.
+    QList<int> replace(const QList<ServerRecord>& batch);
     // The servers that did not answer a refresh stay listed, greyed.
     void markSilent(const QList<int>& storeIndexes);
 

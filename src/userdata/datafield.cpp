@@ -1,5 +1,6 @@
 #include "datafield.h"
 
+#include <QFile>
 #include <QSaveFile>
 
 QByteArray dataFileField(const QString& text)
@@ -19,4 +20,30 @@ bool writeWholeFile(const QString& path, const QByteArray& bytes)
         return false;
     file.write(bytes);
     return file.commit();
+}
+
+QList<QByteArrayView> dataFileLines(const QByteArray& bytes)
+{
+    QList<QByteArrayView> lines;
+    qsizetype start = 0;
+    while (start < bytes.size()) {
+        qsizetype end = bytes.indexOf('\n', start);
+        if (end < 0)
+            end = bytes.size();
+        QByteArrayView line = QByteArrayView(bytes).sliced(start, end - start);
+        start = end + 1;
+        if (line.endsWith('\r'))
+            line.chop(1);
+        if (!line.isEmpty() && !line.startsWith('#'))
+            lines.append(line);
+    }
+    return lines;
+}
+
+QByteArray readDataFile(const QString& path, qint64 maxBytes)
+{
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly))
+        return {};
+    return file.read(maxBytes);
 }

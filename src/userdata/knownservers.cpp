@@ -28,17 +28,9 @@ List parse(const QByteArray& bytes)
 {
     List servers;
     QSet<QString> seen;
-    qsizetype start = 0;
-    while (start < bytes.size() && servers.size() < MaxServers) {
-        qsizetype end = bytes.indexOf('\n', start);
-        if (end < 0)
-            end = bytes.size();
-        QByteArrayView line = QByteArrayView(bytes).sliced(start, end - start);
-        start = end + 1;
-        if (line.endsWith('\r'))
-            line.chop(1);
-        if (line.isEmpty() || line.startsWith('#'))
-            continue;
+    for (const QByteArrayView line : dataFileLines(bytes)) {
+        if (servers.size() >= MaxServers)
+            break;
         const QList<QByteArray> fields = line.toByteArray().split('\t');
         if (fields.size() < 3)
             continue;
@@ -83,10 +75,7 @@ QByteArray toBytes(const List& servers)
 
 List readFile(const QString& path)
 {
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly))
-        return {};
-    return parse(file.read(MaxFileBytes));
+    return parse(readDataFile(path, MaxFileBytes));
 }
 
 bool writeFile(const QString& path, const List& servers)

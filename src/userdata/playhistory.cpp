@@ -4,7 +4,6 @@
 #include "serverlistreader.h"
 
 #include <QDir>
-#include <QFile>
 #include <QSet>
 
 namespace PlayHistory {
@@ -24,17 +23,9 @@ List parse(const QByteArray& bytes)
 {
     List entries;
     QSet<QString> seen;
-    qsizetype start = 0;
-    while (start < bytes.size() && entries.size() < MaxEntries) {
-        qsizetype end = bytes.indexOf('\n', start);
-        if (end < 0)
-            end = bytes.size();
-        QByteArrayView line = QByteArrayView(bytes).sliced(start, end - start);
-        start = end + 1;
-        if (line.endsWith('\r'))
-            line.chop(1);
-        if (line.isEmpty() || line.startsWith('#'))
-            continue;
+    for (const QByteArrayView line : dataFileLines(bytes)) {
+        if (entries.size() >= MaxEntries)
+            break;
         const qsizetype firstTab = line.indexOf('\t');
         const qsizetype secondTab = firstTab < 0 ? -1 : line.indexOf('\t', firstTab + 1);
         if (secondTab < 0)
@@ -68,10 +59,7 @@ QByteArray toBytes(const List& entries)
 
 List readFile(const QString& path)
 {
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly))
-        return {};
-    return parse(file.read(MaxFileBytes));
+    return parse(readDataFile(path, MaxFileBytes));
 }
 
 bool writeFile(const QString& path, const List& entries)

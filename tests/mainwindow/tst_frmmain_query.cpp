@@ -262,8 +262,14 @@ private slots:
         QCOMPARE(w.cell("lstServerList", row, ServerListModel::Players), QStringLiteral("2/8"));
         QCOMPARE(w.visible("lstServerList")->rowCount(), 5);
         QCOMPARE(w.visible("lstPlayerList")->rowCount(), playersBefore - oldPlayers + 2);
-        QCOMPARE(w.cell("lstPlayerList", w.visible("lstPlayerList")->rowCount() - 1, PlayerListModel::Clan),
-                 QStringLiteral("[C]"));
+        // The newcomers take the rows of the players who left, beside the
+        // server's other rows.
+        int other = 0;
+        while (other < w.visible("lstPlayerList")->rowCount() &&
+               w.cell("lstPlayerList", other, PlayerListModel::Name) != QStringLiteral("Other"))
+            ++other;
+        QCOMPARE(w.cell("lstPlayerList", other, PlayerListModel::Clan), QStringLiteral("[C]"));
+        QCOMPARE(w.cell("lstPlayerList", other, PlayerListModel::ServerName), QStringLiteral("Renamed"));
 
         // With refreshing off a click only selects.
         w.settings().save(u"RefreshServers", QStringLiteral("0"));

@@ -59,6 +59,48 @@ class TestLists final : public QObject {
     Q_OBJECT
 
 private slots:
+    // A refresh changes the rows where they stand; only the players that
+    // really left or came cost rows (under the model testers).
+    void aRefreshUpdatesPlayerRowsInPlace()
+    {
+        Lists lists;
+        const auto named = [](ServerRecord record, const QStringList& names) {
+            record.players.clear();
+            for (const QString& name : names)
+                record.players.append(PlayerRecord{QString(), name, 0, 25000, 10});
+            return record;
+        };
+        const ServerRecord a = server("a", 1, 0, 16);
+        const ServerRecord b = server("b", 2, 0, 16);
+        lists.add({named(a, {"Ann", "Bo", "Cy", "Cy"}), named(b, {"Xe", "Yu"})});
+        lists.players.setFriends(Friends::Matcher({QStringLiteral("Bo"), QStringLiteral("Neo")}));
+        lists.visiblePlayers.sortBy(PlayerListModel::Name, Qt::DescendingOrder);
+        QVERIFY(lists.players.hasFriendOn(0));
+        const QPersistentModelIndex yu = lists.visiblePlayers.index(0, 0);
+        QCOMPARE(yu.data().toString(), QStringLiteral("Yu"));
+
+        // a: Bo leaves, one Cy leaves, Neo comes (takes a row that was left);
+        // b: Xe and Yu stay, Zo comes (appended).
+        lists.servers.replace(0, named(a, {"Cy", "Ann", "Neo"}), 0);
+        lists.servers.replace(1, named(b, {"Yu", "Xe", "Zo"}), 0);
+        lists.players.updateServers({0, 1});
+        QCOMPARE(lists.column(lists.players, PlayerListModel::Name),
+                 (QStringList{"Ann", "Neo", "Cy", "Xe", "Yu", "Zo"}));
+        // The rows stay where the sort put them: Neo where Bo was, the
+        // second Cy gone, the newcomer last.
+        QCOMPARE(lists.column(lists.visiblePlayers, PlayerListModel::Name),
+                 (QStringList{"Yu", "Xe", "Cy", "Neo", "Ann", "Zo"}));
+        QCOMPARE(yu.row(), 0);
+        QVERIFY(lists.players.hasFriendOn(0)); // Neo now, not Bo
+        QVERIFY(!lists.players.hasFriendOn(1));
+
+        // Everybody leaves a: its rows go, in one run.
+        lists.servers.replace(0, named(a, {}), 0);
+        lists.players.updateServers({0});
+        QCOMPARE(lists.column(lists.players, PlayerListModel::Name), (QStringList{"Xe", "Yu", "Zo"}));
+        QVERIFY(!lists.players.hasFriendOn(0));
+    }
+
     void numericColumnsSortAsNumbers()
     {
         Lists lists;

@@ -59,5 +59,5 @@ bool ScriptedDesktop::notify(const QString& title, const QString& text, std::fun
     if (!notifying)
         ++unexpectedCalls;
     notifications.append({title, text, std::move(clicked)});
-    return true;
+    return notificationsShown;
 }

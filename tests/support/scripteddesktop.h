@@ -55,6 +55,7 @@ public:
     QList<Start> starts;
     QList<Notification> notifications;
     bool notifying = false;
+    bool notificationsShown = true; // false: a desktop without a tray
     ManualClock manualClock;
     int unexpectedCalls = 0;
 
