@@ -19,10 +19,6 @@
 <context>
     <name>AutoRefresh</name>
     <message>
-        <source>Refreshed at %1: %2 of %3 servers answered</source>
-        <translation type="unfinished" />
-    </message>
-    <message>
         <source>%1 is playing on %2</source>
         <translation type="unfinished" />
     </message>
@@ -32,6 +28,11 @@
     </message>
     <message>
         <source>Quake 4 Vantage</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>Refreshed at %1
+%2 of %3 servers answered</source>
         <translation type="unfinished" />
     </message>
 </context>

@@ -19,10 +19,6 @@
 <context>
     <name>AutoRefresh</name>
     <message>
-        <source>Refreshed at %1: %2 of %3 servers answered</source>
-        <translation>Actualisé à %1 : %2 serveurs sur %3 ont répondu</translation>
-    </message>
-    <message>
         <source>%1 is playing on %2</source>
         <translation>%1 joue sur %2</translation>
     </message>
@@ -33,6 +29,12 @@
     <message>
         <source>Quake 4 Vantage</source>
         <translation>Quake 4 Vantage</translation>
+    </message>
+    <message>
+        <source>Refreshed at %1
+%2 of %3 servers answered</source>
+        <translation>Actualisé à %1
+%2 serveurs sur %3 ont répondu</translation>
     </message>
 </context>
 <context>

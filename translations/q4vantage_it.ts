@@ -19,10 +19,6 @@
 <context>
     <name>AutoRefresh</name>
     <message>
-        <source>Refreshed at %1: %2 of %3 servers answered</source>
-        <translation>Aggiornato alle %1: hanno risposto %2 server su %3</translation>
-    </message>
-    <message>
         <source>%1 is playing on %2</source>
         <translation>%1 sta giocando su %2</translation>
     </message>
@@ -33,6 +29,12 @@
     <message>
         <source>Quake 4 Vantage</source>
         <translation>Quake 4 Vantage</translation>
+    </message>
+    <message>
+        <source>Refreshed at %1
+%2 of %3 servers answered</source>
+        <translation>Aggiornato alle %1
+hanno risposto %2 server su %3</translation>
     </message>
 </context>
 <context>

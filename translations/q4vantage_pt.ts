@@ -19,10 +19,6 @@
 <context>
     <name>AutoRefresh</name>
     <message>
-        <source>Refreshed at %1: %2 of %3 servers answered</source>
-        <translation>Atualizado às %1: responderam %2 de %3 servidores</translation>
-    </message>
-    <message>
         <source>%1 is playing on %2</source>
         <translation>%1 está a jogar em %2</translation>
     </message>
@@ -33,6 +29,12 @@
     <message>
         <source>Quake 4 Vantage</source>
         <translation>Quake 4 Vantage</translation>
+    </message>
+    <message>
+        <source>Refreshed at %1
+%2 of %3 servers answered</source>
+        <translation>Atualizado às %1
+responderam %2 de %3 servidores</translation>
     </message>
 </context>
 <context>

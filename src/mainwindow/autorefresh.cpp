@@ -91,7 +91,7 @@ void AutoRefresh::roundEnded(int asked, const QStringList& silent)
     m_lists.markSilent(silentRows);
     const QString time =
         QLocale().toString(QDateTime::fromMSecsSinceEpoch(m_desktop.clock().nowMs()).time(), QLocale::ShortFormat);
-    emit status(tr("Refreshed at %1: %2 of %3 servers answered").arg(time).arg(asked - silent.size()).arg(asked),
+    emit status(tr("Refreshed at %1\n%2 of %3 servers answered").arg(time).arg(asked - silent.size()).arg(asked),
                 StatusTone::Done);
 
     const QList<Alerts::Sighting> arrived = m_settings.value(Keys::NotifyFriends)

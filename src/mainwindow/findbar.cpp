@@ -4,18 +4,20 @@
 #include "historycombobox.h"
 #include "reportmodel.h"
 #include "reportview.h"
+#include "rowmarkdelegate.h"
 
 #include <QPushButton>
+#include <QToolButton>
 
 FindBar::FindBar(TargetOf target, QWidget* parent)
     : QObject(parent)
     , m_target(std::move(target))
     , m_box(new HistoryComboBox(parent))
     , m_button(new QPushButton(parent))
-    , m_friendButton(new QPushButton(parent))
+    , m_friendButton(new QToolButton(parent))
 {
     m_friendButton->setObjectName(QStringLiteral("cmdFindFriend"));
-    m_friendButton->setAutoDefault(false);
+    m_friendButton->setAutoRaise(true);
     connect(m_friendButton, &QPushButton::clicked, this, &FindBar::findFriend);
     m_box->setObjectName(QStringLiteral("cmbFind"));
     m_button->setObjectName(QStringLiteral("cmdFind"));
@@ -31,8 +33,9 @@ void FindBar::retranslate()
 {
     m_button->setText(tr("Find"));
     m_box->setAccessibleName(tr("Find"));
-    m_friendButton->setText(tr("Next Friend"));
-    m_friendButton->setToolTip(tr("Select the next listed friend"));
+    m_friendButton->setIcon(RowMarkDelegate::star(m_friendButton->palette().color(QPalette::Highlight)));
+    m_friendButton->setAccessibleName(tr("Next Friend"));
+    m_friendButton->setToolTip(tr("Next Friend") + QLatin1Char('\n') + tr("Select the next listed friend"));
 }
 
 void FindBar::findFriend()

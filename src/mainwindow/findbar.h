@@ -9,6 +9,7 @@
 
 class HistoryComboBox;
 class QPushButton;
+class QToolButton;
 class ReportView;
 
 // The find box and its button: finds a name in the list on show, as the
@@ -30,8 +31,10 @@ public:
 
     HistoryComboBox* box() const { return m_box; }
     QPushButton* button() const { return m_button; }
-    // "Next Friend": the next row marked as a friend's, wrapping round.
-    QPushButton* friendButton() const { return m_friendButton; }
+    // "Next Friend": the next row marked as a friend's, wrapping round. A
+    // star, as friends are marked in the lists, so the find row still fits
+    // the narrowest window in every language.
+    QToolButton* friendButton() const { return m_friendButton; }
     // Whether the user has any friends, for what to say when none is found.
     void setHasFriends(std::function<bool()> hasFriends) { m_hasFriends = std::move(hasFriends); }
     void retranslate();
@@ -51,7 +54,7 @@ private:
     TargetOf m_target;
     HistoryComboBox* m_box = nullptr;
     QPushButton* m_button = nullptr;
-    QPushButton* m_friendButton = nullptr;
+    QToolButton* m_friendButton = nullptr;
     std::function<bool()> m_hasFriends;
     QPalette m_normalPalette;
     // "1": the next search continues after the selected row.

@@ -42,6 +42,7 @@
 #include <QPushButton>
 #include <QSplitter>
 #include <QTabBar>
+#include <QToolButton>
 #include <QVBoxLayout>
 
 namespace {
@@ -418,6 +419,11 @@ void FrmMain::addAnswers(const QList<ServerRecord>& batch)
 {
     m_lists->append(batch);
     updateCounters();
+    // A query the user runs meanwhile asks the awaited server too.
+    if (m_waiter->isWaiting()) {
+        for (const ServerRecord& server : batch)
+            m_waiter->answered(server);
+    }
 }
 
 void FrmMain::applyRefresh(const ServerRecord& server)

@@ -15,6 +15,7 @@
 #include <QMenu>
 #include <QScrollBar>
 #include <QTabBar>
+#include <QToolButton>
 
 namespace {
 
@@ -137,7 +138,7 @@ private slots:
         // Next Friend goes from one friend to the other and round again.
         QStringList found;
         for (int i = 0; i < 3; ++i) {
-            QTest::mouseClick(w.button("cmdFindFriend"), Qt::LeftButton);
+            QTest::mouseClick(w.find<QToolButton>("cmdFindFriend"), Qt::LeftButton);
             found.append(w.playerList()->currentIndex().siblingAtColumn(PlayerListModel::Name).data().toString());
         }
         QCOMPARE(found.at(0) == found.at(2), true);
@@ -146,7 +147,7 @@ private slots:
         // Without friends, the button says how to get some.
         w.settings().set(Keys::Friends, QStringList{});
         QCOMPARE(w.marks(w.playerList(), zed), 0);
-        QTest::mouseClick(w.button("cmdFindFriend"), Qt::LeftButton);
+        QTest::mouseClick(w.find<QToolButton>("cmdFindFriend"), Qt::LeftButton);
         QCOMPARE(w.status(), QStringLiteral("No friends yet: right-click a player and choose \"Add To Friends\"."));
     }
 
@@ -182,7 +183,7 @@ private slots:
         QCOMPARE(w.marks(w.servers(), silent), int(RowMarks::Silent));
         QVERIFY(w.servers()->model()->index(silent, 0).data(Qt::ToolTipRole).toString().contains("last seen"));
         QCOMPARE(w.status(),
-                 QStringLiteral("Refreshed at %1: 11 of 12 servers answered")
+                 QStringLiteral("Refreshed at %1\n11 of 12 servers answered")
                      .arg(QLocale().toString(QDateTime::fromMSecsSinceEpoch(w.desktop.manualClock.nowMs()).time(),
                                              QLocale::ShortFormat)));
 
@@ -331,6 +332,19 @@ private slots:
         w.doubleClickServer(1);
         QCOMPARE(w.desktop.starts.size(), 2);
         QVERIFY(!w.window->slotWaiter().isWaiting());
+
+        // A query the user runs meanwhile answers for the awaited server.
+        w.desktop.messageAnswers.enqueue(QMessageBox::Yes);
+        w.doubleClickServer(1);
+        QVERIFY(w.window->slotWaiter().isWaiting());
+        w.fleet.setSilent(1, false);
+        w.fleet.setServer(1, rules("^2Full", 2), players({"One"}));
+        QVERIFY(w.queryMasters());
+        QVERIFY(!w.window->slotWaiter().isWaiting());
+        QCOMPARE(w.desktop.starts.size(), 3);
+        QCOMPARE(w.desktop.starts.last().arguments.last(), w.address(1));
+        w.fleet.setServer(1, rules("^2Full", 2), players({"One", "Two"}));
+        QVERIFY(w.queryMasters());
 
         // Closing the program ends it too (the waiter goes with the window).
         w.desktop.messageAnswers.enqueue(QMessageBox::Yes);

@@ -129,6 +129,10 @@ bool shootLanguage(SimFleet& fleet, int language, const QDir& out)
     fleet.setSilent(1, false);
 
     bool ok = save(&main, out, QStringLiteral("main-servers"));
+    // The smallest the window may be: nothing may be cut there.
+    main.resize(FrmMain::MinimumSize);
+    ok = save(&main, out, QStringLiteral("main-smallest")) && ok;
+    main.resize(FrmMain::DesignSize);
     child<QTabBar>(&main, "tabSelect")->setCurrentIndex(FrmMain::PlayersTab);
     ok = save(&main, out, QStringLiteral("main-players")) && ok;
     child<QTabBar>(&main, "tabSelect")->setCurrentIndex(FrmMain::ServersTab);
