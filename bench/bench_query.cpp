@@ -296,6 +296,17 @@ int window(int delayMs)
     return main.lists().servers().rowCount() == 5000 ? 0 : 1;
 }
 
+void printMemory(const char* when)
+{
+    QFile status(QStringLiteral("/proc/self/status"));
+    if (status.open(QIODevice::ReadOnly)) {
+        for (const QByteArray& line : status.readAll().split('\n')) {
+            if (line.startsWith("VmRSS") || line.startsWith("VmHWM"))
+                std::printf("memory %s: %s\n", when, line.simplified().constData());
+        }
+    }
+}
+
 // Re-filtering after a filter change: 10,000 servers with 15 players each.
 int filter()
 {
@@ -389,6 +400,7 @@ int filter()
         }
     }
 
+    printMemory("before the refresh");
     // A refresh round over every server, in the batches the window takes
     // (the answers of 40 ms; here 250 servers a batch), applied in place:
     // each server's rows change where they are, two players of each leave
@@ -441,13 +453,7 @@ int filter()
         rows, [&](int row) { return players.row(sourceRows[size_t(row)]).plainName; }, needle, rows / 2 + 1);
     std::printf("find: no match among %d players in %lld ms (%d)\n", rows, (long long)clock.elapsed(), found);
 
-    QFile status(QStringLiteral("/proc/self/status"));
-    if (status.open(QIODevice::ReadOnly)) {
-        for (const QByteArray& line : status.readAll().split('\n')) {
-            if (line.startsWith("VmRSS") || line.startsWith("VmHWM"))
-                std::printf("memory: %s\n", line.simplified().constData());
-        }
-    }
+    printMemory("at the end");
     return 0;
 }
 
