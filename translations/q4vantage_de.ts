@@ -365,6 +365,14 @@
         <source>Close</source>
         <translation>Schließen</translation>
     </message>
+    <message>
+        <source>The list could not be saved to %1.</source>
+        <translation>Die Liste konnte nicht unter %1 gespeichert werden.</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Entfernen</translation>
+    </message>
 </context>
 <context>
     <name>FrmMain</name>

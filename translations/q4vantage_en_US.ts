@@ -363,6 +363,14 @@
         <source>Close</source>
         <translation type="unfinished" />
     </message>
+    <message>
+        <source>The list could not be saved to %1.</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation type="unfinished" />
+    </message>
 </context>
 <context>
     <name>FrmMain</name>

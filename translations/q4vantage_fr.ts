@@ -365,6 +365,14 @@
         <source>Close</source>
         <translation>Fermer</translation>
     </message>
+    <message>
+        <source>The list could not be saved to %1.</source>
+        <translation>La liste n'a pas pu être enregistrée dans %1.</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Supprimer</translation>
+    </message>
 </context>
 <context>
     <name>FrmMain</name>

@@ -365,6 +365,14 @@ hanno risposto %2 server su %3</translation>
         <source>Close</source>
         <translation>Chiudi</translation>
     </message>
+    <message>
+        <source>The list could not be saved to %1.</source>
+        <translation>Impossibile salvare l'elenco in %1.</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Rimuovi</translation>
+    </message>
 </context>
 <context>
     <name>FrmMain</name>

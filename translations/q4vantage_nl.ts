@@ -365,6 +365,14 @@
         <source>Close</source>
         <translation>Sluiten</translation>
     </message>
+    <message>
+        <source>The list could not be saved to %1.</source>
+        <translation>De lijst kon niet worden opgeslagen in %1.</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Verwijderen</translation>
+    </message>
 </context>
 <context>
     <name>FrmMain</name>

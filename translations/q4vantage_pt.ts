@@ -365,6 +365,14 @@ responderam %2 de %3 servidores</translation>
         <source>Close</source>
         <translation>Fechar</translation>
     </message>
+    <message>
+        <source>The list could not be saved to %1.</source>
+        <translation>Não foi possível guardar a lista em %1.</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Remover</translation>
+    </message>
 </context>
 <context>
     <name>FrmMain</name>

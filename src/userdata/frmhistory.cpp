@@ -125,13 +125,18 @@ FrmHistory::FrmHistory(SettingsStore& settings, QString dataFolder, QWidget* par
 
     cmdQueryHistory = new QPushButton(this);
     cmdQueryHistory->setObjectName(QStringLiteral("cmdQueryHistory"));
+    cmdRemove = new QPushButton(this);
+    cmdRemove->setObjectName(QStringLiteral("cmdRemove"));
     cmdClose = new QPushButton(this);
     cmdClose->setObjectName(QStringLiteral("cmdClose"));
     connect(cmdQueryHistory, &QPushButton::clicked, this, &FrmHistory::queryRequested);
+    connect(cmdRemove, &QPushButton::clicked, this, &FrmHistory::removeSelected);
+    connect(lstHistory->selectionModel(), &QItemSelectionModel::selectionChanged, this, &FrmHistory::showState);
     connect(cmdClose, &QPushButton::clicked, this, &QDialog::close);
 
     auto* buttons = new QHBoxLayout;
     buttons->addWidget(cmdQueryHistory);
+    buttons->addWidget(cmdRemove);
     buttons->addStretch();
     buttons->addWidget(cmdClose);
     auto* layout = new QVBoxLayout(this);
@@ -148,8 +153,30 @@ void FrmHistory::reload()
 {
     m_model->setEntries(PlayHistory::readFile(m_path));
     lstHistory->header()->setSortIndicator(-1, Qt::DescendingOrder);
-    lblEmpty->setVisible(m_model->rowCount() == 0);
+    showState();
+}
+
+void FrmHistory::showState()
+{
+    // A failure first; else, for an empty list, what will fill it.
+    lblEmpty->setText(!m_error.isEmpty() ? m_error : m_model->rowCount() == 0 ? m_emptyText : QString());
+    lblEmpty->setVisible(!lblEmpty->text().isEmpty());
     cmdQueryHistory->setEnabled(m_model->rowCount() > 0);
+    cmdRemove->setEnabled(lstHistory->selectedRow() >= 0);
+}
+
+void FrmHistory::removeSelected()
+{
+    const int row = lstHistory->selectedRow();
+    if (row < 0)
+        return;
+    PlayHistory::List entries = PlayHistory::readFile(m_path);
+    const QString address = m_model->entries().at(row).endpointText();
+    entries.removeIf([&address](const PlayHistory::Entry& entry) { return entry.endpointText() == address; });
+    // On failure the row stays: it is still in the file.
+    m_error =
+        PlayHistory::writeFile(m_path, entries) ? QString() : tr("The list could not be saved to %1.").arg(m_path);
+    reload();
 }
 
 void FrmHistory::changeEvent(QEvent* event)
@@ -162,8 +189,10 @@ void FrmHistory::changeEvent(QEvent* event)
 void FrmHistory::retranslateUi()
 {
     setWindowTitle(tr("Recently Played"));
-    lblEmpty->setText(tr("No servers yet: every server you join from this program is listed here."));
+    m_emptyText = tr("No servers yet: every server you join from this program is listed here.");
+    showState();
     cmdQueryHistory->setText(tr("Query Recently Played"));
+    cmdRemove->setText(tr("Remove"));
     cmdClose->setText(tr("Close"));
     m_copy->retranslate();
     m_model->retranslate();

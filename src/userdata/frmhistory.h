@@ -39,7 +39,8 @@ private:
 };
 
 // "Recently Played": the servers the user joined, with the copy commands
-// of every list, and a query of just these servers.
+// of every list, a query of just these servers, and Remove for the ones
+// the user wants gone from it.
 class FrmHistory final : public QDialog {
     Q_OBJECT
     Q_DISABLE_COPY_MOVE(FrmHistory)
@@ -50,6 +51,9 @@ public:
     // Reads history.dat again (after a join).
     void reload();
     const HistoryModel& model() const { return *m_model; }
+    // What went wrong last (a file that could not be written); empty when
+    // nothing did.
+    const QString& message() const { return m_error; }
 
 signals:
     void queryRequested();
@@ -59,13 +63,18 @@ protected:
 
 private:
     void retranslateUi();
+    void removeSelected();
+    void showState();
 
     QString m_path;
+    QString m_emptyText;
+    QString m_error;
     HistoryModel* m_model = nullptr;
     ReportView* lstHistory = nullptr;
     QLabel* lblEmpty = nullptr;
     QMenu* m_menu = nullptr;
     CopyCommands* m_copy = nullptr;
     QPushButton* cmdQueryHistory = nullptr;
+    QPushButton* cmdRemove = nullptr;
     QPushButton* cmdClose = nullptr;
 };
