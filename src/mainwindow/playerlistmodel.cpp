@@ -191,30 +191,6 @@ void PlayerListModel::setRow(qsizetype at, const Row& row)
     emit dataChanged(index(int(at), 0), index(int(at), ColumnCount - 1));
 }
 
-void PlayerListModel::replaceServer(int server)
-{
-    for (const Row& row : std::as_const(m_rows)) {
-        if (row.server == server)
-            count(row, -1);
-    }
-    // Remove the server's old rows in contiguous runs, from the end, so the
-    // views keep their other rows.
-    for (qsizetype end = m_rows.size(); end > 0;) {
-        if (m_rows.at(end - 1).server != server) {
-            --end;
-            continue;
-        }
-        qsizetype begin = end - 1;
-        while (begin > 0 && m_rows.at(begin - 1).server == server)
-            --begin;
-        beginRemoveRows({}, int(begin), int(end) - 1);
-        m_rows.remove(begin, end - begin);
-        endRemoveRows();
-        end = begin;
-    }
-    appendRows(rowsOf(server));
-}
-
 SortKeys PlayerListModel::sortKeys(int column) const
 {
     SortKeys keys;

@@ -46,8 +46,6 @@ public:
     void clear();
     // Appends the stored players of the servers from this store index on.
     void appendServersFrom(int firstServer);
-    // Drops the rows of one server and appends its players anew.
-    void replaceServer(int server);
     // These servers answered again: players still there keep their rows
     // (and their places in the views), a newcomer takes the row of one who
     // left the same server, and only what is left over is removed (in

@@ -12,12 +12,6 @@ void ServerVisibility::setRules(const QList<Filters::VariableFilter>& filters, F
     m_known.clear();
 }
 
-void ServerVisibility::forget(int server)
-{
-    if (server >= 0 && size_t(server) < m_known.size())
-        m_known[size_t(server)] = -1;
-}
-
 bool ServerVisibility::isVisible(int server) const
 {
     if (server < 0 || server >= m_store.count())

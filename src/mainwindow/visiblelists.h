@@ -9,7 +9,8 @@
 #include <vector>
 
 // Whether each server passes the filters, worked out once per server and
-// kept until the filters change or the server answers again; the visible
+// kept until the filters are set again (every rebuild sets them), so a
+// server that answers again keeps its place until then; the visible
 // server list and the visible player list both ask it, so a player is shown
 // exactly when its server is.
 class ServerVisibility final {
@@ -17,8 +18,6 @@ public:
     explicit ServerVisibility(const ServerStore& store);
 
     void setRules(const QList<Filters::VariableFilter>& filters, Filters::BuiltIn builtIn);
-    // The server answered again: test it anew when next asked.
-    void forget(int server);
     bool isVisible(int server) const;
 
 private:
