@@ -85,6 +85,11 @@ struct Listed : RunningFleet, TestWindow {
         QTest::mouseRelease(view->viewport(), button, {}, at);
         find<QMenu>("mPopupAlt")->hide();
     }
+    void clickTab(int tab) const
+    {
+        auto* tabs = find<QTabBar>("tabSelect");
+        QTest::mouseClick(tabs, Qt::LeftButton, {}, tabs->tabRect(tab).center());
+    }
     void doubleClickServer(int server) const
     {
         const int row = serverRow(server);
@@ -121,7 +126,7 @@ private slots:
         QCOMPARE(w.marks(w.playerList(), bobby), int(RowMarks::Friend));
 
         // Add Zed from the player list's menu: his row and Alpha are marked.
-        w.window->findChild<QTabBar*>(QStringLiteral("tabSelect"))->setCurrentIndex(FrmMain::PlayersTab);
+        w.clickTab(FrmMain::PlayersTab);
         const int zed = w.rowOf(w.playerList(), PlayerListModel::Name, QStringLiteral("Zed"));
         w.clickRow(w.playerList(), zed, Qt::RightButton);
         auto* add = w.find<QMenu>("mPopupAlt")->findChild<QAction*>(QStringLiteral("mPopAddFriend"));
@@ -203,7 +208,7 @@ private slots:
         QCOMPARE(w.marks(w.servers(), w.serverRow(5)), 0);
 
         // The notification's click shows the server.
-        w.window->findChild<QTabBar*>(QStringLiteral("tabSelect"))->setCurrentIndex(FrmMain::PlayersTab);
+        w.clickTab(FrmMain::PlayersTab);
         w.desktop.notifications.first().clicked();
         QCOMPARE(w.window->findChild<QTabBar*>(QStringLiteral("tabSelect"))->currentIndex(), int(FrmMain::ServersTab));
         QCOMPARE(w.servers()->currentIndex().siblingAtColumn(ServerListModel::Address).data().toString(), w.address(0));
