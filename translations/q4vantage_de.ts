@@ -36,6 +36,13 @@
         <translation>Aktualisiert um %1
 %2 von %3 Servern haben geantwortet</translation>
     </message>
+    <message numerus="yes">
+        <source>and %n more</source>
+        <translation>
+            <numerusform>und %n weiterer</numerusform>
+            <numerusform>und %n weitere</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>CopyCommands</name>

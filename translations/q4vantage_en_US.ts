@@ -35,6 +35,13 @@
 %2 of %3 servers answered</source>
         <translation type="unfinished" />
     </message>
+    <message numerus="yes">
+        <source>and %n more</source>
+        <translation type="unfinished">
+            <numerusform />
+            <numerusform />
+        </translation>
+    </message>
 </context>
 <context>
     <name>CopyCommands</name>

@@ -36,6 +36,13 @@
         <translation>Actualisé à %1
 %2 serveurs sur %3 ont répondu</translation>
     </message>
+    <message numerus="yes">
+        <source>and %n more</source>
+        <translation>
+            <numerusform>et %n autre</numerusform>
+            <numerusform>et %n autres</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>CopyCommands</name>

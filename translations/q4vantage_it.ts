@@ -36,6 +36,13 @@
         <translation>Aggiornato alle %1
 hanno risposto %2 server su %3</translation>
     </message>
+    <message numerus="yes">
+        <source>and %n more</source>
+        <translation>
+            <numerusform>e %n altro</numerusform>
+            <numerusform>e altri %n</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>CopyCommands</name>

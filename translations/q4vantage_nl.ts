@@ -36,6 +36,13 @@
         <translation>Vernieuwd om %1
 %2 van %3 servers antwoordden</translation>
     </message>
+    <message numerus="yes">
+        <source>and %n more</source>
+        <translation>
+            <numerusform>en %n andere</numerusform>
+            <numerusform>en %n andere</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>CopyCommands</name>

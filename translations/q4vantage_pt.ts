@@ -36,6 +36,13 @@
         <translation>Atualizado às %1
 responderam %2 de %3 servidores</translation>
     </message>
+    <message numerus="yes">
+        <source>and %n more</source>
+        <translation>
+            <numerusform>e mais %n</numerusform>
+            <numerusform>e mais %n</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>CopyCommands</name>

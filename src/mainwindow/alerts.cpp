@@ -43,4 +43,14 @@ QList<QString> reached(const Counts& before, const Counts& after, int threshold)
     return servers;
 }
 
+Shown firstLines(const QStringList& lines, int maxLines)
+{
+    const int size = int(lines.size());
+    if (size <= maxLines)
+        return {lines, 0};
+    // The last place goes to "and N more", unless it is the only one.
+    const int kept = std::max(maxLines - 1, 1);
+    return {lines.mid(0, kept), size - kept};
+}
+
 } // namespace Alerts

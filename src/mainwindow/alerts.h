@@ -3,6 +3,7 @@
 #include <QHash>
 #include <QList>
 #include <QString>
+#include <QStringList>
 
 // When the automatic refresh tells the user something: a friend who starts
 // playing, a watched server that fills up. Both compare what the list
@@ -32,5 +33,13 @@ using Counts = QHash<QString, Count>;
 // players before, at least that many now. A server not listed before is
 // not news (it has no "before"); a threshold below 1 means never.
 QList<QString> reached(const Counts& before, const Counts& after, int threshold);
+
+// What fits a notification or the status line: the first lines, the last
+// of them giving way to "and N more" when there are more than maxLines.
+struct Shown {
+    QStringList lines;
+    int more = 0;
+};
+Shown firstLines(const QStringList& lines, int maxLines);
 
 } // namespace Alerts

@@ -116,12 +116,21 @@ void AutoRefresh::notify(const QList<Alerts::Sighting>& arrived, const QList<QSt
     // The tray shows one message at a time: one for the round, and a click
     // goes to its first server.
     const QString address = arrived.isEmpty() ? filled.first() : arrived.first().address;
-    const bool shown = m_desktop.notify(tr("Quake 4 Vantage"), lines.join(QLatin1Char('\n')),
+    const bool shown = m_desktop.notify(tr("Quake 4 Vantage"), news(lines, NotificationLines),
                                         [self = QPointer<AutoRefresh>(this), address] {
                                             if (self)
                                                 emit self->selectServer(address);
                                         });
     // A desktop without a tray still hears it, in the status line.
     if (!shown)
-        emit status(lines.join(QLatin1Char('\n')), StatusTone::Hint);
+        emit status(news(lines, StatusLines), StatusTone::Hint);
+}
+
+QString AutoRefresh::news(const QStringList& lines, int maxLines)
+{
+    const Alerts::Shown shown = Alerts::firstLines(lines, maxLines);
+    QStringList text = shown.lines;
+    if (shown.more > 0)
+        text.append(tr("and %n more", nullptr, shown.more));
+    return text.join(QLatin1Char('\n'));
 }

@@ -38,6 +38,10 @@ signals:
     void status(const QString& text, StatusTone tone);
 
 private:
+    // A notification shows a few lines; the status line two.
+    static constexpr int NotificationLines = 4;
+    static constexpr int StatusLines = 2;
+    static QString news(const QStringList& lines, int maxLines);
     void applySettings();
     void roundEnded(int asked, const QStringList& silent);
     QSet<QString> watchedServers() const;

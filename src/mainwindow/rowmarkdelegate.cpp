@@ -38,7 +38,9 @@ void RowMarkDelegate::initStyleOption(QStyleOptionViewItem* option, const QModel
     if (marks & RowMarks::Friend) {
         option->font.setBold(true);
         if (index.column() == 0) {
-            option->icon = star(option->palette.color(QPalette::Highlight));
+            // On a selected row the highlight colour would hide the star.
+            option->icon = star(option->palette.color(option->state & QStyle::State_Selected ? QPalette::HighlightedText
+                                                                                             : QPalette::Highlight));
             option->features |= QStyleOptionViewItem::HasDecoration;
             const int side = option->fontMetrics.height() - 2;
             option->decorationSize = QSize(side, side);

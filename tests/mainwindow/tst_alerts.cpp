@@ -77,6 +77,20 @@ private slots:
         QCOMPARE(Alerts::reached(old, now, threshold), told ? QList<QString>{address} : QList<QString>{});
     }
 
+    void newsFitsItsPlace()
+    {
+        const QStringList five{"a", "b", "c", "d", "e"};
+        QCOMPARE(Alerts::firstLines(five, 5).lines, five);
+        QCOMPARE(Alerts::firstLines(five, 5).more, 0);
+        QCOMPARE(Alerts::firstLines(five, 4).lines, (QStringList{"a", "b", "c"}));
+        QCOMPARE(Alerts::firstLines(five, 4).more, 2);
+        QCOMPARE(Alerts::firstLines(five, 2).lines, QStringList{"a"});
+        QCOMPARE(Alerts::firstLines(five, 2).more, 4);
+        QCOMPARE(Alerts::firstLines({"a", "b"}, 2).more, 0);
+        QCOMPARE(Alerts::firstLines(five, 1).lines, QStringList{"a"}); // no room for "more"
+        QCOMPARE(Alerts::firstLines(five, 1).more, 4);
+    }
+
     void whenWaitingEnds_data()
     {
         QTest::addColumn<qint64>("waitedMs");

@@ -236,6 +236,18 @@ private slots:
         QVERIFY(w.refreshRound());
         QCOMPARE(w.desktop.notifications.size(), 2);
         QCOMPARE(w.status(), QStringLiteral("Alpha has 5 players"));
+
+        // Many at once: a few lines and how many more.
+        w.desktop.notificationsShown = true;
+        for (int server = 6; server < 9; ++server)
+            w.fleet.setServer(server, rules("^5Busy " + QByteArray::number(server), 8),
+                              players({"Bob" + QByteArray::number(server), "Bobo" + QByteArray::number(server)}));
+        QVERIFY(w.refreshRound());
+        QCOMPARE(w.desktop.notifications.size(), 3);
+        const QStringList lines = w.desktop.notifications.last().text.split(QLatin1Char('\n'));
+        QCOMPARE(lines.size(), 4);
+        QVERIFY(lines.first().contains(QStringLiteral(" is playing on Busy ")));
+        QCOMPARE(lines.last(), QStringLiteral("and 3 more"));
     }
 
     // The user starts a query while a round runs: the query wins.
