@@ -83,9 +83,7 @@ void AutoRefresh::roundEnded(int asked, const QStringList& silent)
 {
     QList<int> silentRows;
     for (const QString& address : silent) {
-        const int colon = int(address.lastIndexOf(QLatin1Char(':')));
-        const int index = m_lists.servers().store().indexOf(address.left(colon), address.mid(colon + 1).toInt());
-        if (index >= 0)
+        if (const int index = m_lists.servers().store().indexOf(address); index >= 0)
             silentRows.append(index);
     }
     m_lists.markSilent(silentRows);

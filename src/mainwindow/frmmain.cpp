@@ -475,11 +475,13 @@ void FrmMain::connectExtras()
     JoinFlow& flow = m_joinPanel->flow();
     connect(&flow, &JoinFlow::joining, m_waiter, &SlotWaiter::cancel);
     connect(&flow, &JoinFlow::waitRequested, this, [this](const JoinFlow::Target& target, const QString& password) {
-        const auto endpoint = target.address.lastIndexOf(QLatin1Char(':'));
-        const int index =
-            m_lists->servers().store().indexOf(target.address.left(endpoint), target.address.mid(endpoint + 1).toInt());
+        const int index = m_lists->servers().store().indexOf(target.address);
+        // Only a listed server can be asked again; one gone meanwhile is
+        // joined at once, as the documented join would.
         if (index >= 0)
             m_waiter->begin(target, password, m_lists->server(index));
+        else
+            m_joinPanel->flow().start(target, password);
     });
     connect(&flow, &JoinFlow::joined, this, [this] {
         if (m_history)

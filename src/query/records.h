@@ -97,6 +97,8 @@ public:
     const ServerRecord& at(int index) const { return m_servers.at(index); }
     // Index of the first server at this address and port, or -1.
     int indexOf(const QString& address, int port) const;
+    // The same for "address:port" as the lists show it.
+    int indexOf(const QString& endpointText) const { return m_first.value(endpointText, -1); }
     // All players of all servers, counted as the player list counts them.
     int storedPlayerCount() const { return m_storedPlayers; }
 
