@@ -365,8 +365,9 @@ void FrmMain::showView(int tab)
 {
     const bool players = tab == PlayersTab;
     m_playerPane->view()->setVisible(players);
+    // The panes go with rzrPSI: hiding them on their own would make the
+    // splitter hand their height to the server list.
     rzrPSI->setVisible(!players);
-    m_details->splitter()->setVisible(!players);
     m_menu->setPlayersShown(players);
     if (!players && m_state->initialSizeApplied())
         m_state->restoreSplitters();

@@ -63,10 +63,8 @@ void FriendsTab::retranslateUi()
                          tr("Name of a friend as the player list shows it, or a pattern such as *Hammer*:"),
                          tr("\"%1\" holds a control character. Type a name or a pattern.")});
     lblAutoRefresh->setText(tr("Refresh the listed servers:"));
-    for (int i = 0; i < cmbAutoRefresh->count(); ++i) {
-        const int minutes = cmbAutoRefresh->itemData(i).toInt();
-        cmbAutoRefresh->setItemText(i, minutes == 0 ? tr("Never") : tr("Every %n minutes", nullptr, minutes));
-    }
+    for (int i = 0; i < cmbAutoRefresh->count(); ++i)
+        cmbAutoRefresh->setItemText(i, intervalText(cmbAutoRefresh->itemData(i).toInt()));
     chkNotifyFriends->setText(tr("Tell me when a friend starts playing"));
     chkNotifyPlayers->setText(tr("Tell me when a favourite server has"));
     lblNotifyPlayers->setText(tr("players or more"));

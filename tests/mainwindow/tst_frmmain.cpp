@@ -117,6 +117,28 @@ private slots:
         QCOMPARE(run.find<QAction>("mPopSelServer")->isVisible(), tab == 0);
     }
 
+    void switchingViewsKeepsThePanesWhereTheyWere()
+    {
+        m_settings->save(u"Tab", QStringLiteral("1"));
+        TestWindow run(*m_settings);
+        QVERIFY(run.show());
+        auto* tabs = run.find<QTabBar>("tabSelect");
+        auto* rzrPSI = run.find<QSplitter>("rzrPSI");
+        auto* rzrSPSI = run.find<QSplitter>("rzrSPSI");
+        const QList<int> listAndPanes = rzrPSI->sizes();
+        const QList<int> panes = rzrSPSI->sizes();
+        // There and back, twice: nothing stored yet, so the sizes the user
+        // saw are the ones to come back to.
+        for (int round = 0; round < 2; ++round) {
+            QTest::mouseClick(tabs, Qt::LeftButton, {}, tabs->tabRect(FrmMain::PlayersTab).center());
+            QTest::mouseClick(tabs, Qt::LeftButton, {}, tabs->tabRect(FrmMain::ServersTab).center());
+            QVERIFY(rzrSPSI->isVisible());
+            QTRY_COMPARE(rzrPSI->sizes(), listAndPanes);
+            QCOMPARE(rzrSPSI->sizes(), panes);
+        }
+        QVERIFY(!m_settings->contains(u"rzrPSISize"));
+    }
+
     void layoutSurvivesARestart()
     {
         {

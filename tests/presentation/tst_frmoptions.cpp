@@ -385,6 +385,7 @@ private slots:
         QCOMPARE(friends->count(), 1);
         // A value the list does not offer is kept, not turned into another.
         QCOMPARE(interval->currentText(), QStringLiteral("Every 7 minutes"));
+        QCOMPARE(interval->itemText(interval->findData(1)), QStringLiteral("Every minute"));
         QVERIFY(find<QCheckBox>("chkNotifyFriends")->isEnabled());
 
         // A control character is refused and offered again; a real one goes in.
