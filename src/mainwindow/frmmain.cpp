@@ -235,7 +235,7 @@ void FrmMain::connectLists()
     connect(m_playerPane, &ListPane::rowClicked, this, &FrmMain::showPlayer);
     for (ListPane* pane : {m_serverPane, m_playerPane}) {
         connect(pane, &ListPane::menuRequested, this,
-                [this, pane](const QModelIndex& index) { showMenu(*pane, index); });
+                [this, pane](const QModelIndex& index, const QPoint& at) { showMenu(*pane, index, at); });
         connect(pane, &ListPane::rowDoubleClicked, this, [this, pane] { joinFrom(*pane); });
     }
     // Keyboard moves show the row like a click, without menu or refresh.
@@ -535,11 +535,11 @@ void FrmMain::showServer(const QModelIndex& index)
         m_selection->showServer(row);
 }
 
-void FrmMain::showMenu(ListPane& pane, const QModelIndex& index)
+void FrmMain::showMenu(ListPane& pane, const QModelIndex& index, const QPoint& at)
 {
     &pane == m_playerPane ? showPlayer(index) : showServer(index);
     if (pane.list().rowCount() > 0)
-        m_menu->popup();
+        m_menu->popup(at);
 }
 
 void FrmMain::selectServer(const QString& address)

@@ -107,7 +107,7 @@ private:
     void connectExtras();
     void showServer(const QModelIndex& index);
     void showPlayer(const QModelIndex& index);
-    void showMenu(ListPane& pane, const QModelIndex& index);
+    void showMenu(ListPane& pane, const QModelIndex& index, const QPoint& at);
     void selectServer(const QString& address);
     ListPane& shownList() const;
     void joinFrom(const ListPane& pane);

@@ -8,7 +8,6 @@
 #include "settingsstore.h"
 
 #include <QClipboard>
-#include <QCursor>
 #include <QGuiApplication>
 #include <QKeyEvent>
 #include <QMenu>
@@ -44,9 +43,9 @@ ListMenu::ListMenu(SettingsStore& settings, const ServerLists& lists, QString fa
     });
 }
 
-void ListMenu::popup()
+void ListMenu::popup(const QPoint& at)
 {
-    mPopupAlt->popup(QCursor::pos());
+    mPopupAlt->popup(at);
 }
 
 void ListMenu::setPlayersShown(bool players)

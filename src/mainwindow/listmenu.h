@@ -27,7 +27,8 @@ public:
     ListMenu(SettingsStore& settings, const ServerLists& lists, QString favouritesPath, ShownList shown,
              QWidget* window);
 
-    void popup();
+    // The menu of the list shown, at a global position.
+    void popup(const QPoint& at);
     // Ctrl+C in the player list copies the address of the player's server.
     void copyAddressOnCtrlC(const ListPane& players);
     // Select Server belongs to the player list only.

@@ -21,9 +21,9 @@ ListPane::ListPane(SettingsStore& settings, Keys::ListKeys keys, const ReportMod
     m_view->setObjectName(objectName);
     m_view->setItemDelegate(new RowMarkDelegate(m_view));
     connect(m_view, &QAbstractItemView::clicked, this, &ListPane::rowClicked);
-    connect(m_view, &ReportView::menuRequested, this, [this](const QModelIndex& index) {
+    connect(m_view, &ReportView::menuRequested, this, [this](const QModelIndex& index, const QPoint& globalPos) {
         if (index.isValid())
-            emit menuRequested(index);
+            emit menuRequested(index, globalPos);
     });
     connect(m_view, &ReportView::rowDoubleClicked, this, &ListPane::rowDoubleClicked);
     connect(m_view->header(), &QHeaderView::sectionClicked, this, &ListPane::sortClicked);

@@ -53,9 +53,9 @@ public:
 signals:
     // A left click on a row.
     void rowClicked(const QModelIndex& index);
-    // A right click on a row: its menu.
-    void menuRequested(const QModelIndex& index);
-    // A double click after a left press.
+    // A right click on a row, or the menu key: its menu, at globalPos.
+    void menuRequested(const QModelIndex& index, const QPoint& globalPos);
+    // A double click after a left press, or Enter on the selected row.
     void rowDoubleClicked();
 
 private:

@@ -69,6 +69,14 @@ EditableListDialog::EditableListDialog(SettingsStore& settings, QAbstractItemMod
             [this](const QModelIndex& index) { editCell(index.row(), index.column()); });
 }
 
+EditableListDialog::~EditableListDialog()
+{
+    // A dialog destroyed while shown is hidden by QDialog's destructor; the
+    // edit box then loses the focus, and its commit must not reach an editor
+    // that is already gone.
+    txtEdit->disconnect(this);
+}
+
 void EditableListDialog::showMessage(const QString& text)
 {
     lblMessage->setText(text);

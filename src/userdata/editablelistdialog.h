@@ -19,6 +19,8 @@ class EditableListDialog : public QDialog {
     Q_DISABLE_COPY_MOVE(EditableListDialog)
 
 public:
+    ~EditableListDialog() override;
+
     // Puts the edit box over a cell; what is typed is committed on Enter or
     // when the box loses the focus.
     void editCell(int row, int column);

@@ -1,6 +1,9 @@
 #include "reportview.h"
 
+#include <QContextMenuEvent>
 #include <QHeaderView>
+#include <QKeyEvent>
+#include <QMetaMethod>
 #include <QMouseEvent>
 
 ReportView::ReportView(QAbstractItemModel* model, const QList<int>& designWidths, QWidget* parent)
@@ -62,4 +65,51 @@ void ReportView::mouseReleaseEvent(QMouseEvent* event)
         emit menuRequested(index, viewport()->mapToGlobal(at));
     }
     QTableView::mouseReleaseEvent(event);
+}
+
+void ReportView::keyPressEvent(QKeyEvent* event)
+{
+    const Qt::KeyboardModifiers modifiers = event->modifiers() & ~Qt::KeypadModifier;
+    const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+    // Only a key pressed on the list itself (an editor inside it passes its
+    // Enter on), and only where a double click does something: elsewhere
+    // Enter keeps its usual meaning (a dialog's default button).
+    static const QMetaMethod doubleClickSignal = QMetaMethod::fromSignal(&ReportView::rowDoubleClicked);
+    const bool own = hasFocus() && isSignalConnected(doubleClickSignal);
+    if (enter && own && modifiers == Qt::NoModifier && selectedRow() >= 0) {
+        m_lastButton = Qt::LeftButton;
+        emit rowDoubleClicked(currentIndex());
+        event->accept();
+        return;
+    }
+    // Shift+F10 opens menus in most desktops; Qt turns only the menu key
+    // into a context menu event.
+    if (event->key() == Qt::Key_F10 && modifiers == Qt::ShiftModifier && hasFocus()) {
+        requestMenuOnSelection();
+        event->accept();
+        return;
+    }
+    QTableView::keyPressEvent(event);
+}
+
+void ReportView::contextMenuEvent(QContextMenuEvent* event)
+{
+    // A right click is answered on its release (see above); this is the
+    // menu key.
+    if (event->reason() == QContextMenuEvent::Mouse) {
+        QTableView::contextMenuEvent(event);
+        return;
+    }
+    requestMenuOnSelection();
+    event->accept();
+}
+
+void ReportView::requestMenuOnSelection()
+{
+    const QModelIndex index = selectedRow() >= 0 ? currentIndex() : QModelIndex();
+    if (index.isValid())
+        m_pressedColumn = index.column();
+    const QRect row = visualRect(index);
+    const QPoint at = index.isValid() ? QPoint(row.left(), row.bottom()) : QPoint(0, 0);
+    emit menuRequested(index, viewport()->mapToGlobal(at));
 }

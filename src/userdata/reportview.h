@@ -24,23 +24,32 @@ public:
     // A button acts as if the user had pressed it on the list (a join
     // button works like a left click on the selected row).
     void setLastButton(Qt::MouseButton button) { m_lastButton = button; }
-    // The column under the pointer at the last press (-1 past the last).
+    // The column under the pointer at the last press (-1 past the last),
+    // or the current column when the menu was opened from the keyboard.
     int pressedColumn() const { return m_pressedColumn; }
 
 signals:
     // A button went down on the rows, before the list reacts to it.
     void pressed(Qt::MouseButton button);
-    // The right button was pressed and released here; index may be invalid
-    // (below the last row). The list's menu belongs at globalPos.
+    // The right button was pressed and released here, or the menu key or
+    // Shift+F10 was pressed; index may be invalid (below the last row, nothing selected).
+    // The list's menu belongs at globalPos.
     void menuRequested(const QModelIndex& index, const QPoint& globalPos);
-    // A double click that followed a left press.
+    // A double click that followed a left press, or Enter on the selected
+    // row: what a double click does, from the keyboard.
     void rowDoubleClicked(const QModelIndex& index);
 
 protected:
     void mousePressEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    void contextMenuEvent(QContextMenuEvent* event) override;
 
 private:
+    // The menu of the selected row, opened from the keyboard: below the
+    // row's first cell, where the user is looking.
+    void requestMenuOnSelection();
+
     Qt::MouseButton m_lastButton = Qt::NoButton;
     int m_pressedColumn = 0;
 };

@@ -3,8 +3,11 @@
 #include "testwindow.h"
 
 #include <QAction>
+#include <QApplication>
 #include <QClipboard>
 #include <QComboBox>
+#include <QContextMenuEvent>
+#include <QCursor>
 #include <QDir>
 #include <QFile>
 #include <QGuiApplication>
@@ -111,6 +114,60 @@ private slots:
         // The Join button works after a right click all the same.
         j.find<QPushButton>("cmdJoin")->click();
         QCOMPARE(j.desktop.starts.size(), 1);
+    }
+
+    void theKeyboardAloneSelectsOpensTheMenuAndJoins()
+    {
+        Joined j;
+        QVERIFY(j.show());
+        j.servers()->setFocus(Qt::TabFocusReason);
+        auto press = [](Qt::Key key, Qt::KeyboardModifiers modifiers = {}) {
+            QWidget* focus = QApplication::focusWidget();
+            QVERIFY(focus);
+            QTest::keyClick(focus, key, modifiers);
+        };
+        // Nothing selected yet: Enter does nothing.
+        press(Qt::Key_Return);
+        QVERIFY(j.desktop.starts.isEmpty());
+
+        // Arrow keys select (a row without a password, so nothing is asked).
+        press(Qt::Key_Home);
+        auto addressShown = [&j] {
+            return j.servers()->currentIndex().siblingAtColumn(ServerListModel::Address).data().toString();
+        };
+        if (addressShown() == j.address(0))
+            press(Qt::Key_Down);
+        const QModelIndex first = j.servers()->currentIndex();
+        QCOMPARE(j.servers()->selectedRow(), first.row());
+        const QString address = addressShown();
+        QVERIFY(address != j.address(0));
+
+        // Shift+F10 and the menu key open the list's menu on that row, not
+        // at the pointer. The desktop turns the menu key into a keyboard
+        // context menu event for the focus widget; the offscreen platform
+        // does not, so that event is sent as the desktop would send it.
+        auto* menu = j.find<QMenu>("mPopupAlt");
+        const QRect row = j.servers()->visualRect(first);
+        const QPoint below = j.servers()->viewport()->mapToGlobal(QPoint(row.left(), row.bottom()));
+        press(Qt::Key_F10, Qt::ShiftModifier);
+        QTRY_VERIFY(menu->isVisible());
+        QCOMPARE(menu->pos(), below);
+        menu->hide();
+        QContextMenuEvent menuKey(QContextMenuEvent::Keyboard, QPoint(0, 0), QCursor::pos());
+        QApplication::sendEvent(QApplication::focusWidget(), &menuKey);
+        QTRY_VERIFY(menu->isVisible());
+        QCOMPARE(menu->pos(), below);
+        menu->hide();
+
+        // Enter joins like a double click; Ctrl+Enter is not Enter.
+        press(Qt::Key_Return, Qt::ControlModifier);
+        QVERIFY(j.desktop.starts.isEmpty());
+        press(Qt::Key_Return);
+        QCOMPARE(j.desktop.starts.size(), 1);
+        QCOMPARE(j.desktop.starts.first().arguments.last(), address);
+        // The keypad's Enter too, although it carries a modifier of its own.
+        press(Qt::Key_Enter, Qt::KeypadModifier);
+        QCOMPARE(j.desktop.starts.size(), 2);
     }
 
     void passwordFromTheFavouritesOrTheUser()

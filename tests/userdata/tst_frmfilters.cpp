@@ -4,6 +4,7 @@
 #include "settingsstore.h"
 
 #include <QAction>
+#include <QApplication>
 #include <QCheckBox>
 #include <QClipboard>
 #include <QDir>
@@ -88,6 +89,42 @@ private slots:
         QCOMPARE(form.filters().size(), 0);
         QCOMPARE(fileBytes(filtersPath()), QByteArray());
         QCOMPARE(changed.count(), 3);
+    }
+
+    void theKeyboardEditsACellAndTheMenuKeyOpensTheMenu()
+    {
+        QVERIFY(Filters::writeFile(filtersPath(), {{"si_map", "q4dm*"}}));
+        FrmFilters form(*m_settings, m_dir->path());
+        form.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&form));
+        auto* list = form.findChild<ReportView*>(QStringLiteral("lstFilters"));
+        list->setFocus(Qt::TabFocusReason);
+        auto press = [](Qt::Key key, Qt::KeyboardModifiers modifiers = {}) {
+            QTest::keyClick(QApplication::focusWidget(), key, modifiers);
+        };
+        press(Qt::Key_Home);
+        press(Qt::Key_Right); // the value column
+        press(Qt::Key_Return);
+        auto* box = form.findChild<QLineEdit*>(QStringLiteral("txtEdit"));
+        QVERIFY(box->isVisible());
+        QCOMPARE(QApplication::focusWidget(), box);
+        QTest::keyClick(box, Qt::Key_A, Qt::ControlModifier);
+        QTest::keyClicks(box, QStringLiteral("q4ctf*"));
+        // The editor's Enter commits; it must not reach the list and open
+        // the editor again.
+        press(Qt::Key_Return);
+        QVERIFY(!box->isVisible());
+        QCOMPARE(form.filters(), (QList<Filters::VariableFilter>{{"si_map", "q4ctf*"}}));
+
+        list->setFocus(Qt::TabFocusReason);
+        press(Qt::Key_F10, Qt::ShiftModifier);
+        auto* menu = form.findChild<QMenu*>();
+        QTRY_VERIFY(menu->isVisible());
+        menu->hide();
+        // "Edit Cell" from a menu opened by keys edits the current cell.
+        menu->findChild<QAction*>(QStringLiteral("mPopEditCell"))->trigger();
+        QVERIFY(box->isVisible());
+        QCOMPARE(box->text(), QStringLiteral("q4ctf*"));
     }
 
     void aFailedSaveIsToldButTheListsStillFollow()
