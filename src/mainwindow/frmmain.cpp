@@ -299,8 +299,8 @@ void FrmMain::layOutControls()
     findRow->addWidget(lblServers);
 
     auto* statusRow = new QHBoxLayout;
-    statusRow->addWidget(m_queryBar->statusLine(), 1);
-    statusRow->addWidget(m_queryBar->progressBar(), 1);
+    statusRow->addWidget(m_queryBar->statusLine(), 3);
+    statusRow->addWidget(m_queryBar->progressBar(), 2);
     statusRow->addWidget(cmdStopWaiting);
 
     auto* buttonRow = new QHBoxLayout;

@@ -9,7 +9,12 @@ StatusLine::StatusLine(QWidget* parent)
     QPalette statusPalette = palette();
     statusPalette.setColor(QPalette::Window, Qt::black);
     setPalette(statusPalette);
-    setMinimumHeight(2 * fontMetrics().height() + 4);
+    // Two lines, always: a long message wraps within the line's share of
+    // the row instead of widening it over the progress bar, and the lists
+    // above never move when a message comes or goes.
+    setWordWrap(true);
+    setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
+    setFixedHeight(2 * fontMetrics().lineSpacing() + 4);
     setContentsMargins(4, 0, 4, 0);
 }
 

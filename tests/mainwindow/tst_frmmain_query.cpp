@@ -21,6 +21,7 @@
 #include <QGuiApplication>
 #include <QHeaderView>
 #include <QLabel>
+#include <QLayout>
 #include <QLineEdit>
 #include <QMenu>
 #include <QProgressBar>
@@ -178,9 +179,19 @@ private slots:
         QUdpSocket squatter;
         QVERIFY(squatter.bind(QHostAddress::AnyIPv4, StartPort + 2));
         TestWindow w(24400, StartPort);
+        QVERIFY(w.show());
+        auto* line = w.find<QLabel>("lblStatus");
+        const QRect lineBefore = line->geometry();
+        const QRect barBefore = w.find<QProgressBar>("prbProgress")->geometry();
         QTest::mouseClick(w.button("cmdGet"), Qt::LeftButton);
         QVERIFY(w.status().contains(QString::number(StartPort + 2)));
         QCOMPARE(w.statusColour(), QColor(255, 0, 0));
+        // The long message wraps within the line: all of it readable, and
+        // nothing beside or above it moves.
+        w.window->layout()->activate();
+        QVERIFY(line->heightForWidth(line->width()) <= line->height());
+        QCOMPARE(line->geometry(), lineBefore);
+        QCOMPARE(w.find<QProgressBar>("prbProgress")->geometry(), barBefore);
         QVERIFY(w.button("cmdGet")->isEnabled());
         QVERIFY(!w.window->queries().isRunning());
     }
