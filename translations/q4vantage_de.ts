@@ -134,7 +134,7 @@
         <translation>Den nächsten aufgelisteten Freund auswählen</translation>
     </message>
     <message>
-        <source>No friends yet: right-click a player and choose "Add To Friends".</source>
+        <source>No friends yet: right-click a player and choose &quot;Add To Friends&quot;.</source>
         <translation>Noch keine Freunde: Klicken Sie mit der rechten Maustaste auf einen Spieler und wählen Sie „Zu Freunden hinzufügen“.</translation>
     </message>
     <message>
@@ -157,7 +157,7 @@
         <translation>Name eines Freundes, wie ihn die Spielerliste zeigt, oder ein Muster wie *Hammer*:</translation>
     </message>
     <message>
-        <source>"%1" holds a control character. Type a name or a pattern.</source>
+        <source>&quot;%1&quot; holds a control character. Type a name or a pattern.</source>
         <translation>„%1“ enthält ein Steuerzeichen. Geben Sie einen Namen oder ein Muster ein.</translation>
     </message>
     <message>
@@ -444,6 +444,10 @@
     <message>
         <source>Stopped waiting for a free slot.</source>
         <translation>Warten auf einen freien Platz beendet.</translation>
+    </message>
+    <message>
+        <source>%1 is not listed now: &quot;Query Recently Played&quot; asks every server you played on.</source>
+        <translation>%1 ist gerade nicht aufgelistet: „Zuletzt gespielte anfragen“ fragt jeden Server ab, auf dem Sie gespielt haben.</translation>
     </message>
 </context>
 <context>
@@ -907,7 +911,7 @@ Auf einen freien Platz warten und beitreten, sobald einer frei wird?</translatio
         <translation>Der Startport %1 ist ungültig. Wählen Sie in den Optionen einen anderen.</translation>
     </message>
     <message>
-        <source>No favourites yet: right-click a server and choose "Add To Favourites".</source>
+        <source>No favourites yet: right-click a server and choose &quot;Add To Favourites&quot;.</source>
         <translation>Noch keine Favoriten: Klicken Sie mit der rechten Maustaste auf einen Server und wählen Sie „Zu Favoriten hinzufügen“.</translation>
     </message>
     <message>
@@ -971,7 +975,7 @@ Auf einen freien Platz warten und beitreten, sobald einer frei wird?</translatio
         <translation>(Liste nach %1 abgeschnitten)</translation>
     </message>
     <message>
-        <source>No servers played yet: the servers you join are kept in "Recently Played".</source>
+        <source>No servers played yet: the servers you join are kept in &quot;Recently Played&quot;.</source>
         <translation>Noch keine Server gespielt: Die Server, denen Sie beitreten, stehen unter „Zuletzt gespielt“.</translation>
     </message>
 </context>
@@ -990,7 +994,7 @@ Auf einen freien Platz warten und beitreten, sobald einer frei wird?</translatio
         <translation>Master-Server %1 nicht gefunden (%2).</translation>
     </message>
     <message>
-        <source>The master server address "%1" is not valid.</source>
+        <source>The master server address &quot;%1&quot; is not valid.</source>
         <translation>Die Master-Server-Adresse „%1“ ist ungültig.</translation>
     </message>
 </context>
@@ -1067,7 +1071,7 @@ Auf einen freien Platz warten und beitreten, sobald einer frei wird?</translatio
         <translation>Hostname oder Adresse eines Master-Servers, mit :Port, wenn dieser nicht 27650 ist:</translation>
     </message>
     <message>
-        <source>"%1" is not a master server address. Type a host name or an IP address, followed by a colon and a port from 1 to 65535 when the port is not 27650.</source>
+        <source>&quot;%1&quot; is not a master server address. Type a host name or an IP address, followed by a colon and a port from 1 to 65535 when the port is not 27650.</source>
         <translation>„%1“ ist keine Master-Server-Adresse. Geben Sie einen Hostnamen oder eine IP-Adresse ein, gefolgt von einem Doppelpunkt und einem Port von 1 bis 65535, wenn der Port nicht 27650 ist.</translation>
     </message>
     <message>
@@ -1083,7 +1087,7 @@ Auf einen freien Platz warten und beitreten, sobald einer frei wird?</translatio
         <translation>Webadresse einer Serverliste (JSON oder ein Host:Port pro Zeile):</translation>
     </message>
     <message>
-        <source>"%1" is not a web address. Type an address that begins with http:// or https://.</source>
+        <source>&quot;%1&quot; is not a web address. Type an address that begins with http:// or https://.</source>
         <translation>„%1“ ist keine Webadresse. Geben Sie eine Adresse ein, die mit http:// oder https:// beginnt.</translation>
     </message>
     <message>

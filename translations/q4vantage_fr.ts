@@ -131,15 +131,15 @@
     </message>
     <message>
         <source>Select the next listed friend</source>
-        <translation>Sélectionner l'ami suivant de la liste</translation>
+        <translation>Sélectionner l&apos;ami suivant de la liste</translation>
     </message>
     <message>
-        <source>No friends yet: right-click a player and choose "Add To Friends".</source>
-        <translation>Pas encore d'amis : faites un clic droit sur un joueur et choisissez « Ajouter aux amis ».</translation>
+        <source>No friends yet: right-click a player and choose &quot;Add To Friends&quot;.</source>
+        <translation>Pas encore d&apos;amis : faites un clic droit sur un joueur et choisissez « Ajouter aux amis ».</translation>
     </message>
     <message>
         <source>None of your friends is listed.</source>
-        <translation>Aucun de vos amis n'est dans la liste.</translation>
+        <translation>Aucun de vos amis n&apos;est dans la liste.</translation>
     </message>
 </context>
 <context>
@@ -154,10 +154,10 @@
     </message>
     <message>
         <source>Name of a friend as the player list shows it, or a pattern such as *Hammer*:</source>
-        <translation>Nom d'un ami tel que la liste des joueurs l'affiche, ou un motif comme *Hammer* :</translation>
+        <translation>Nom d&apos;un ami tel que la liste des joueurs l&apos;affiche, ou un motif comme *Hammer* :</translation>
     </message>
     <message>
-        <source>"%1" holds a control character. Type a name or a pattern.</source>
+        <source>&quot;%1&quot; holds a control character. Type a name or a pattern.</source>
         <translation>« %1 » contient un caractère de contrôle. Saisissez un nom ou un motif.</translation>
     </message>
     <message>
@@ -189,11 +189,11 @@
     </message>
     <message>
         <source>Notifications come with the automatic refresh.</source>
-        <translation>Les notifications accompagnent l'actualisation automatique.</translation>
+        <translation>Les notifications accompagnent l&apos;actualisation automatique.</translation>
     </message>
     <message>
         <source>Offer to wait for a slot on a full server</source>
-        <translation>Proposer d'attendre une place sur un serveur plein</translation>
+        <translation>Proposer d&apos;attendre une place sur un serveur plein</translation>
     </message>
     <message>
         <source>Every minute</source>
@@ -216,7 +216,7 @@
     </message>
     <message>
         <source>A server browser for Quake 4: finds servers and players, and joins a game with a double click.</source>
-        <translation>Un navigateur de serveurs pour Quake 4 : il trouve les serveurs et les joueurs, et rejoint une partie d'un double clic.</translation>
+        <translation>Un navigateur de serveurs pour Quake 4 : il trouve les serveurs et les joueurs, et rejoint une partie d&apos;un double clic.</translation>
     </message>
     <message>
         <source>Built with Qt %1, running on Qt %2.</source>
@@ -228,7 +228,7 @@
     </message>
     <message>
         <source>Home page</source>
-        <translation>Page d'accueil</translation>
+        <translation>Page d&apos;accueil</translation>
     </message>
     <message>
         <source>OK</source>
@@ -243,7 +243,7 @@
     </message>
     <message>
         <source>The installer could not be saved to %1 (%2).</source>
-        <translation>Le programme d'installation n'a pas pu être enregistré dans %1 (%2).</translation>
+        <translation>Le programme d&apos;installation n&apos;a pas pu être enregistré dans %1 (%2).</translation>
     </message>
     <message>
         <source>Complete</source>
@@ -276,11 +276,11 @@
     <name>FrmFavourites</name>
     <message>
         <source>This favourites file is larger than the editor reads (%1 servers or %2 MB). It is shown in part and not saved, so that no server is lost.</source>
-        <translation>Ce fichier de favoris dépasse ce que l'éditeur lit (%1 serveurs ou %2 Mo). Il n'est affiché qu'en partie et n'est pas enregistré, pour qu'aucun serveur ne soit perdu.</translation>
+        <translation>Ce fichier de favoris dépasse ce que l&apos;éditeur lit (%1 serveurs ou %2 Mo). Il n&apos;est affiché qu&apos;en partie et n&apos;est pas enregistré, pour qu&apos;aucun serveur ne soit perdu.</translation>
     </message>
     <message>
         <source>The favourites could not be saved to %1. Your changes are still here.</source>
-        <translation>Les favoris n'ont pas pu être enregistrés dans %1. Vos modifications sont toujours là.</translation>
+        <translation>Les favoris n&apos;ont pas pu être enregistrés dans %1. Vos modifications sont toujours là.</translation>
     </message>
     <message>
         <source>Favourites</source>
@@ -351,7 +351,7 @@
     </message>
     <message>
         <source>The filters could not be saved to %1; this change lasts until the program ends.</source>
-        <translation>Les filtres n'ont pas pu être enregistrés dans %1 ; cette modification ne dure que jusqu'à la fermeture du programme.</translation>
+        <translation>Les filtres n&apos;ont pas pu être enregistrés dans %1 ; cette modification ne dure que jusqu&apos;à la fermeture du programme.</translation>
     </message>
 </context>
 <context>
@@ -362,7 +362,7 @@
     </message>
     <message>
         <source>No servers yet: every server you join from this program is listed here.</source>
-        <translation>Aucun serveur pour l'instant : chaque serveur que vous rejoignez depuis ce programme apparaît ici.</translation>
+        <translation>Aucun serveur pour l&apos;instant : chaque serveur que vous rejoignez depuis ce programme apparaît ici.</translation>
     </message>
     <message>
         <source>Query Recently Played</source>
@@ -374,7 +374,7 @@
     </message>
     <message>
         <source>The list could not be saved to %1.</source>
-        <translation>La liste n'a pas pu être enregistrée dans %1.</translation>
+        <translation>La liste n&apos;a pas pu être enregistrée dans %1.</translation>
     </message>
     <message>
         <source>Remove</source>
@@ -439,11 +439,15 @@
     </message>
     <message>
         <source>Stop Waiting</source>
-        <translation>Arrêter d'attendre</translation>
+        <translation>Arrêter d&apos;attendre</translation>
     </message>
     <message>
         <source>Stopped waiting for a free slot.</source>
-        <translation>Attente d'une place libre arrêtée.</translation>
+        <translation>Attente d&apos;une place libre arrêtée.</translation>
+    </message>
+    <message>
+        <source>%1 is not listed now: &quot;Query Recently Played&quot; asks every server you played on.</source>
+        <translation>%1 n&apos;est pas dans la liste pour l&apos;instant : « Rechercher Joués récemment » interroge chaque serveur sur lequel vous avez joué.</translation>
     </message>
 </context>
 <context>
@@ -618,7 +622,7 @@
     </message>
     <message>
         <source>The themes could not be saved to %1; the other settings are not affected.</source>
-        <translation>Les thèmes n'ont pas pu être enregistrés dans %1 ; les autres réglages ne sont pas concernés.</translation>
+        <translation>Les thèmes n&apos;ont pas pu être enregistrés dans %1 ; les autres réglages ne sont pas concernés.</translation>
     </message>
     <message>
         <source>Are you sure you want to reset all settings to their default values?</source>
@@ -626,7 +630,7 @@
     </message>
     <message>
         <source>Select your Quake 4 Executable</source>
-        <translation>Choisissez l'exécutable de Quake 4</translation>
+        <translation>Choisissez l&apos;exécutable de Quake 4</translation>
     </message>
     <message>
         <source>Quake 4 Executable (%1)</source>
@@ -665,7 +669,7 @@
     </message>
     <message>
         <source>Automatically check for updates in the future</source>
-        <translation>Rechercher automatiquement les mises à jour à l'avenir</translation>
+        <translation>Rechercher automatiquement les mises à jour à l&apos;avenir</translation>
     </message>
     <message>
         <source>Yes</source>
@@ -699,11 +703,11 @@
     </message>
     <message>
         <source>Please enter the IP address/hostname and port of the server you wish to join</source>
-        <translation>Veuillez saisir l'adresse IP ou le nom d'hôte et le port du serveur que vous voulez rejoindre</translation>
+        <translation>Veuillez saisir l&apos;adresse IP ou le nom d&apos;hôte et le port du serveur que vous voulez rejoindre</translation>
     </message>
     <message>
         <source>Select your Quake 4 Executable</source>
-        <translation>Choisissez l'exécutable de Quake 4</translation>
+        <translation>Choisissez l&apos;exécutable de Quake 4</translation>
     </message>
     <message>
         <source>Quake 4 Executable (%1)</source>
@@ -727,25 +731,25 @@
     </message>
     <message>
         <source>The game could not be started: %1 does not exist.</source>
-        <translation>Le jeu n'a pas pu être lancé : %1 n'existe pas.</translation>
+        <translation>Le jeu n&apos;a pas pu être lancé : %1 n&apos;existe pas.</translation>
     </message>
     <message>
         <source>The game could not be started: %1 is not a program.</source>
-        <translation>Le jeu n'a pas pu être lancé : %1 n'est pas un programme.</translation>
+        <translation>Le jeu n&apos;a pas pu être lancé : %1 n&apos;est pas un programme.</translation>
     </message>
     <message>
         <source>The game could not be started: %1.</source>
-        <translation>Le jeu n'a pas pu être lancé : %1.</translation>
+        <translation>Le jeu n&apos;a pas pu être lancé : %1.</translation>
     </message>
     <message>
         <source>%1 is full.
 Wait for a free slot and join as soon as one opens?</source>
         <translation>%1 est plein.
-Attendre une place libre et rejoindre dès qu'une place se libère ?</translation>
+Attendre une place libre et rejoindre dès qu&apos;une place se libère ?</translation>
     </message>
     <message>
         <source>The game started, but the list of recently played servers could not be saved.</source>
-        <translation>Le jeu a démarré, mais la liste des serveurs joués récemment n'a pas pu être enregistrée.</translation>
+        <translation>Le jeu a démarré, mais la liste des serveurs joués récemment n&apos;a pas pu être enregistrée.</translation>
     </message>
 </context>
 <context>
@@ -760,7 +764,7 @@ Attendre une place libre et rejoindre dès qu'une place se libère ?</translatio
     </message>
     <message>
         <source>Join IP</source>
-        <translation>Rejoindre l'IP</translation>
+        <translation>Rejoindre l&apos;IP</translation>
     </message>
     <message>
         <source>Name:</source>
@@ -850,7 +854,7 @@ Attendre une place libre et rejoindre dès qu'une place se libère ?</translatio
     </message>
     <message>
         <source>The favourites file could not be written.</source>
-        <translation>Le fichier des favoris n'a pas pu être écrit.</translation>
+        <translation>Le fichier des favoris n&apos;a pas pu être écrit.</translation>
     </message>
     <message>
         <source>Add To F&amp;riends</source>
@@ -862,7 +866,7 @@ Attendre une place libre et rejoindre dès qu'une place se libère ?</translatio
     </message>
     <message>
         <source>Your friends could not be saved.</source>
-        <translation>Vos amis n'ont pas pu être enregistrés.</translation>
+        <translation>Vos amis n&apos;ont pas pu être enregistrés.</translation>
     </message>
     <message>
         <source>%1 was added to your friends.</source>
@@ -904,10 +908,10 @@ Attendre une place libre et rejoindre dès qu'une place se libère ?</translatio
     </message>
     <message>
         <source>The start port %1 is not valid. Choose another in the options.</source>
-        <translation>Le port de départ %1 n'est pas valable. Choisissez-en un autre dans les options.</translation>
+        <translation>Le port de départ %1 n&apos;est pas valable. Choisissez-en un autre dans les options.</translation>
     </message>
     <message>
-        <source>No favourites yet: right-click a server and choose "Add To Favourites".</source>
+        <source>No favourites yet: right-click a server and choose &quot;Add To Favourites&quot;.</source>
         <translation>Pas encore de favoris : faites un clic droit sur un serveur et choisissez « Ajouter aux favoris ».</translation>
     </message>
     <message>
@@ -929,7 +933,7 @@ Attendre une place libre et rejoindre dès qu'une place se libère ?</translatio
     <message>
         <source>Sorting IP Address Lists
 %1</source>
-        <translation>Tri des listes d'adresses IP
+        <translation>Tri des listes d&apos;adresses IP
 %1</translation>
     </message>
     <message>
@@ -971,8 +975,8 @@ Attendre une place libre et rejoindre dès qu'une place se libère ?</translatio
         <translation>(liste coupée à %1)</translation>
     </message>
     <message>
-        <source>No servers played yet: the servers you join are kept in "Recently Played".</source>
-        <translation>Aucun serveur joué pour l'instant : les serveurs que vous rejoignez sont gardés dans « Joués récemment ».</translation>
+        <source>No servers played yet: the servers you join are kept in &quot;Recently Played&quot;.</source>
+        <translation>Aucun serveur joué pour l&apos;instant : les serveurs que vous rejoignez sont gardés dans « Joués récemment ».</translation>
     </message>
 </context>
 <context>
@@ -983,15 +987,15 @@ Attendre une place libre et rejoindre dès qu'une place se libère ?</translatio
     </message>
     <message>
         <source>The master server listed more than %1 servers; the list was not used.</source>
-        <translation>Le serveur principal a listé plus de %1 serveurs ; la liste n'a pas été utilisée.</translation>
+        <translation>Le serveur principal a listé plus de %1 serveurs ; la liste n&apos;a pas été utilisée.</translation>
     </message>
     <message>
         <source>Master server %1 not found (%2).</source>
         <translation>Serveur principal %1 introuvable (%2).</translation>
     </message>
     <message>
-        <source>The master server address "%1" is not valid.</source>
-        <translation>L'adresse du serveur principal « %1 » n'est pas valable.</translation>
+        <source>The master server address &quot;%1&quot; is not valid.</source>
+        <translation>L&apos;adresse du serveur principal « %1 » n&apos;est pas valable.</translation>
     </message>
 </context>
 <context>
@@ -1045,7 +1049,7 @@ Attendre une place libre et rejoindre dès qu'une place se libère ?</translatio
     <name>ServerSources</name>
     <message>
         <source>did not answer</source>
-        <translation>n'a pas répondu</translation>
+        <translation>n&apos;a pas répondu</translation>
     </message>
     <message>
         <source>known servers</source>
@@ -1064,11 +1068,11 @@ Attendre une place libre et rejoindre dès qu'une place se libère ?</translatio
     </message>
     <message>
         <source>Host name or address of a master server, with :port when it is not 27650:</source>
-        <translation>Nom d'hôte ou adresse d'un serveur maître, avec :port s'il n'est pas 27650 :</translation>
+        <translation>Nom d&apos;hôte ou adresse d&apos;un serveur maître, avec :port s&apos;il n&apos;est pas 27650 :</translation>
     </message>
     <message>
-        <source>"%1" is not a master server address. Type a host name or an IP address, followed by a colon and a port from 1 to 65535 when the port is not 27650.</source>
-        <translation>« %1 » n'est pas une adresse de serveur maître. Tapez un nom d'hôte ou une adresse IP, suivi de deux-points et d'un port de 1 à 65535 si le port n'est pas 27650.</translation>
+        <source>&quot;%1&quot; is not a master server address. Type a host name or an IP address, followed by a colon and a port from 1 to 65535 when the port is not 27650.</source>
+        <translation>« %1 » n&apos;est pas une adresse de serveur maître. Tapez un nom d&apos;hôte ou une adresse IP, suivi de deux-points et d&apos;un port de 1 à 65535 si le port n&apos;est pas 27650.</translation>
     </message>
     <message>
         <source>Server lists on the web, fetched alongside:</source>
@@ -1080,11 +1084,11 @@ Attendre une place libre et rejoindre dès qu'une place se libère ?</translatio
     </message>
     <message>
         <source>Web address of a server list (JSON or one host:port per line):</source>
-        <translation>Adresse web d'une liste de serveurs (JSON ou un hôte:port par ligne) :</translation>
+        <translation>Adresse web d&apos;une liste de serveurs (JSON ou un hôte:port par ligne) :</translation>
     </message>
     <message>
-        <source>"%1" is not a web address. Type an address that begins with http:// or https://.</source>
-        <translation>« %1 » n'est pas une adresse web. Tapez une adresse qui commence par http:// ou https://.</translation>
+        <source>&quot;%1&quot; is not a web address. Type an address that begins with http:// or https://.</source>
+        <translation>« %1 » n&apos;est pas une adresse web. Tapez une adresse qui commence par http:// ou https://.</translation>
     </message>
     <message>
         <source>Remember servers that answered and query them again</source>
@@ -1097,13 +1101,13 @@ Attendre une place libre et rejoindre dès qu'une place se libère ?</translatio
     <message numerus="yes">
         <source>Forget the %n servers that answered before? Query Masters asks them again only when a master or a server list names them.</source>
         <translation>
-            <numerusform>Oublier le serveur qui a répondu auparavant ? La recherche ne l'interrogera à nouveau que si un serveur maître ou une liste le nomme.</numerusform>
+            <numerusform>Oublier le serveur qui a répondu auparavant ? La recherche ne l&apos;interrogera à nouveau que si un serveur maître ou une liste le nomme.</numerusform>
             <numerusform>Oublier les %n serveurs qui ont répondu auparavant ? La recherche ne les interrogera à nouveau que si un serveur maître ou une liste les nomme.</numerusform>
         </translation>
     </message>
     <message>
         <source>The known servers could not be removed from %1.</source>
-        <translation>Les serveurs connus n'ont pas pu être supprimés de %1.</translation>
+        <translation>Les serveurs connus n&apos;ont pas pu être supprimés de %1.</translation>
     </message>
     <message>
         <source>No servers known yet.</source>
@@ -1121,11 +1125,11 @@ Attendre une place libre et rejoindre dès qu'une place se libère ?</translatio
     <name>SlotWaiter</name>
     <message>
         <source>No slot came free on %1 in 30 minutes: stopped waiting.</source>
-        <translation>Aucune place ne s'est libérée sur %1 en 30 minutes : attente arrêtée.</translation>
+        <translation>Aucune place ne s&apos;est libérée sur %1 en 30 minutes : attente arrêtée.</translation>
     </message>
     <message>
         <source>%1 is full (%2): waiting for a free slot...</source>
-        <translation>%1 est plein (%2) : attente d'une place libre...</translation>
+        <translation>%1 est plein (%2) : attente d&apos;une place libre...</translation>
     </message>
 </context>
 <context>
@@ -1136,11 +1140,11 @@ Attendre une place libre et rejoindre dès qu'une place se libère ?</translatio
     </message>
     <message>
         <source>The installer came without encryption (plain HTTP), so it will not be started. It was saved to %1.</source>
-        <translation>Le programme d'installation est arrivé sans chiffrement (HTTP simple), il ne sera donc pas lancé. Il a été enregistré dans %1.</translation>
+        <translation>Le programme d&apos;installation est arrivé sans chiffrement (HTTP simple), il ne sera donc pas lancé. Il a été enregistré dans %1.</translation>
     </message>
     <message>
         <source>The installer was saved to %1, but it cannot be started on this system.</source>
-        <translation>Le programme d'installation a été enregistré dans %1, mais il ne peut pas être lancé sur ce système.</translation>
+        <translation>Le programme d&apos;installation a été enregistré dans %1, mais il ne peut pas être lancé sur ce système.</translation>
     </message>
 </context>
 </TS>

@@ -134,7 +134,7 @@ hanno risposto %2 server su %3</translation>
         <translation>Seleziona il prossimo amico in elenco</translation>
     </message>
     <message>
-        <source>No friends yet: right-click a player and choose "Add To Friends".</source>
+        <source>No friends yet: right-click a player and choose &quot;Add To Friends&quot;.</source>
         <translation>Ancora nessun amico: fai clic destro su un giocatore e scegli «Aggiungi agli amici».</translation>
     </message>
     <message>
@@ -154,10 +154,10 @@ hanno risposto %2 server su %3</translation>
     </message>
     <message>
         <source>Name of a friend as the player list shows it, or a pattern such as *Hammer*:</source>
-        <translation>Nome di un amico come appare nell'elenco dei giocatori, o un modello come *Hammer*:</translation>
+        <translation>Nome di un amico come appare nell&apos;elenco dei giocatori, o un modello come *Hammer*:</translation>
     </message>
     <message>
-        <source>"%1" holds a control character. Type a name or a pattern.</source>
+        <source>&quot;%1&quot; holds a control character. Type a name or a pattern.</source>
         <translation>«%1» contiene un carattere di controllo. Scrivi un nome o un modello.</translation>
     </message>
     <message>
@@ -189,7 +189,7 @@ hanno risposto %2 server su %3</translation>
     </message>
     <message>
         <source>Notifications come with the automatic refresh.</source>
-        <translation>Le notifiche arrivano con l'aggiornamento automatico.</translation>
+        <translation>Le notifiche arrivano con l&apos;aggiornamento automatico.</translation>
     </message>
     <message>
         <source>Offer to wait for a slot on a full server</source>
@@ -276,7 +276,7 @@ hanno risposto %2 server su %3</translation>
     <name>FrmFavourites</name>
     <message>
         <source>This favourites file is larger than the editor reads (%1 servers or %2 MB). It is shown in part and not saved, so that no server is lost.</source>
-        <translation>Questo file dei preferiti è più grande di quanto l'editor legga (%1 server o %2 MB). Viene mostrato solo in parte e non viene salvato, così nessun server va perso.</translation>
+        <translation>Questo file dei preferiti è più grande di quanto l&apos;editor legga (%1 server o %2 MB). Viene mostrato solo in parte e non viene salvato, così nessun server va perso.</translation>
     </message>
     <message>
         <source>The favourites could not be saved to %1. Your changes are still here.</source>
@@ -374,7 +374,7 @@ hanno risposto %2 server su %3</translation>
     </message>
     <message>
         <source>The list could not be saved to %1.</source>
-        <translation>Impossibile salvare l'elenco in %1.</translation>
+        <translation>Impossibile salvare l&apos;elenco in %1.</translation>
     </message>
     <message>
         <source>Remove</source>
@@ -445,6 +445,10 @@ hanno risposto %2 server su %3</translation>
         <source>Stopped waiting for a free slot.</source>
         <translation>Attesa di un posto libero interrotta.</translation>
     </message>
+    <message>
+        <source>%1 is not listed now: &quot;Query Recently Played&quot; asks every server you played on.</source>
+        <translation>%1 non è in elenco ora: «Interroga Giocati di recente» interroga ogni server su cui hai giocato.</translation>
+    </message>
 </context>
 <context>
     <name>FrmOptions</name>
@@ -498,7 +502,7 @@ hanno risposto %2 server su %3</translation>
     </message>
     <message>
         <source>Close After Joining</source>
-        <translation>Chiudi dopo l'ingresso</translation>
+        <translation>Chiudi dopo l&apos;ingresso</translation>
     </message>
     <message>
         <source>Refresh Server On Selection</source>
@@ -510,7 +514,7 @@ hanno risposto %2 server su %3</translation>
     </message>
     <message>
         <source>Note: Port Range is dependant on the query speed.</source>
-        <translation>Nota: l'intervallo di porte dipende dalla velocità di interrogazione.</translation>
+        <translation>Nota: l&apos;intervallo di porte dipende dalla velocità di interrogazione.</translation>
     </message>
     <message>
         <source>Use Proxy Server for updates</source>
@@ -626,7 +630,7 @@ hanno risposto %2 server su %3</translation>
     </message>
     <message>
         <source>Select your Quake 4 Executable</source>
-        <translation>Seleziona l'eseguibile di Quake 4</translation>
+        <translation>Seleziona l&apos;eseguibile di Quake 4</translation>
     </message>
     <message>
         <source>Quake 4 Executable (%1)</source>
@@ -699,11 +703,11 @@ hanno risposto %2 server su %3</translation>
     </message>
     <message>
         <source>Please enter the IP address/hostname and port of the server you wish to join</source>
-        <translation>Inserisci l'indirizzo IP o il nome host e la porta del server in cui vuoi entrare</translation>
+        <translation>Inserisci l&apos;indirizzo IP o il nome host e la porta del server in cui vuoi entrare</translation>
     </message>
     <message>
         <source>Select your Quake 4 Executable</source>
-        <translation>Seleziona l'eseguibile di Quake 4</translation>
+        <translation>Seleziona l&apos;eseguibile di Quake 4</translation>
     </message>
     <message>
         <source>Quake 4 Executable (%1)</source>
@@ -745,7 +749,7 @@ Attendere un posto libero ed entrare appena se ne libera uno?</translation>
     </message>
     <message>
         <source>The game started, but the list of recently played servers could not be saved.</source>
-        <translation>Il gioco è partito, ma non è stato possibile salvare l'elenco dei server giocati di recente.</translation>
+        <translation>Il gioco è partito, ma non è stato possibile salvare l&apos;elenco dei server giocati di recente.</translation>
     </message>
 </context>
 <context>
@@ -904,10 +908,10 @@ Attendere un posto libero ed entrare appena se ne libera uno?</translation>
     </message>
     <message>
         <source>The start port %1 is not valid. Choose another in the options.</source>
-        <translation>La porta iniziale %1 non è valida. Scegline un'altra nelle opzioni.</translation>
+        <translation>La porta iniziale %1 non è valida. Scegline un&apos;altra nelle opzioni.</translation>
     </message>
     <message>
-        <source>No favourites yet: right-click a server and choose "Add To Favourites".</source>
+        <source>No favourites yet: right-click a server and choose &quot;Add To Favourites&quot;.</source>
         <translation>Ancora nessun preferito: fai clic destro su un server e scegli «Aggiungi ai preferiti».</translation>
     </message>
     <message>
@@ -917,13 +921,13 @@ Attendere un posto libero ed entrare appena se ne libera uno?</translation>
     <message>
         <source>Requesting Server List from
 %1</source>
-        <translation>Richiesta dell'elenco dei server a
+        <translation>Richiesta dell&apos;elenco dei server a
 %1</translation>
     </message>
     <message>
         <source>Receiving Server List from
 %1</source>
-        <translation>Ricezione dell'elenco dei server da
+        <translation>Ricezione dell&apos;elenco dei server da
 %1</translation>
     </message>
     <message>
@@ -971,7 +975,7 @@ Attendere un posto libero ed entrare appena se ne libera uno?</translation>
         <translation>(lista tagliata a %1)</translation>
     </message>
     <message>
-        <source>No servers played yet: the servers you join are kept in "Recently Played".</source>
+        <source>No servers played yet: the servers you join are kept in &quot;Recently Played&quot;.</source>
         <translation>Nessun server giocato finora: i server a cui ti unisci restano in «Giocati di recente».</translation>
     </message>
 </context>
@@ -979,19 +983,19 @@ Attendere un posto libero ed entrare appena se ne libera uno?</translation>
     <name>QueryError</name>
     <message>
         <source>Local port %1 cannot be used (%2). Choose another start port in the options.</source>
-        <translation>La porta locale %1 non può essere usata (%2). Scegli un'altra porta iniziale nelle opzioni.</translation>
+        <translation>La porta locale %1 non può essere usata (%2). Scegli un&apos;altra porta iniziale nelle opzioni.</translation>
     </message>
     <message>
         <source>The master server listed more than %1 servers; the list was not used.</source>
-        <translation>Il master server ha elencato più di %1 server; l'elenco non è stato usato.</translation>
+        <translation>Il master server ha elencato più di %1 server; l&apos;elenco non è stato usato.</translation>
     </message>
     <message>
         <source>Master server %1 not found (%2).</source>
         <translation>Master server %1 non trovato (%2).</translation>
     </message>
     <message>
-        <source>The master server address "%1" is not valid.</source>
-        <translation>L'indirizzo del master server «%1» non è valido.</translation>
+        <source>The master server address &quot;%1&quot; is not valid.</source>
+        <translation>L&apos;indirizzo del master server «%1» non è valido.</translation>
     </message>
 </context>
 <context>
@@ -1020,7 +1024,7 @@ Attendere un posto libero ed entrare appena se ne libera uno?</translation>
     <name>ServerListModel</name>
     <message>
         <source>No answer to the last refresh; last seen at %1</source>
-        <translation>Nessuna risposta all'ultimo aggiornamento; visto l'ultima volta alle %1</translation>
+        <translation>Nessuna risposta all&apos;ultimo aggiornamento; visto l&apos;ultima volta alle %1</translation>
     </message>
 </context>
 <context>
@@ -1067,8 +1071,8 @@ Attendere un posto libero ed entrare appena se ne libera uno?</translation>
         <translation>Nome host o indirizzo di un server master, con :porta se non è 27650:</translation>
     </message>
     <message>
-        <source>"%1" is not a master server address. Type a host name or an IP address, followed by a colon and a port from 1 to 65535 when the port is not 27650.</source>
-        <translation>"%1" non è un indirizzo di server master. Digita un nome host o un indirizzo IP, seguito da due punti e da una porta da 1 a 65535 se la porta non è 27650.</translation>
+        <source>&quot;%1&quot; is not a master server address. Type a host name or an IP address, followed by a colon and a port from 1 to 65535 when the port is not 27650.</source>
+        <translation>&quot;%1&quot; non è un indirizzo di server master. Digita un nome host o un indirizzo IP, seguito da due punti e da una porta da 1 a 65535 se la porta non è 27650.</translation>
     </message>
     <message>
         <source>Server lists on the web, fetched alongside:</source>
@@ -1083,8 +1087,8 @@ Attendere un posto libero ed entrare appena se ne libera uno?</translation>
         <translation>Indirizzo web di una lista di server (JSON o un host:porta per riga):</translation>
     </message>
     <message>
-        <source>"%1" is not a web address. Type an address that begins with http:// or https://.</source>
-        <translation>"%1" non è un indirizzo web. Digita un indirizzo che inizia con http:// o https://.</translation>
+        <source>&quot;%1&quot; is not a web address. Type an address that begins with http:// or https://.</source>
+        <translation>&quot;%1&quot; non è un indirizzo web. Digita un indirizzo che inizia con http:// o https://.</translation>
     </message>
     <message>
         <source>Remember servers that answered and query them again</source>
@@ -1097,8 +1101,8 @@ Attendere un posto libero ed entrare appena se ne libera uno?</translation>
     <message numerus="yes">
         <source>Forget the %n servers that answered before? Query Masters asks them again only when a master or a server list names them.</source>
         <translation>
-            <numerusform>Dimenticare il server che ha risposto in passato? L'interrogazione lo chiederà di nuovo solo se un master o una lista lo nomina.</numerusform>
-            <numerusform>Dimenticare i %n server che hanno risposto in passato? L'interrogazione li chiederà di nuovo solo se un master o una lista li nomina.</numerusform>
+            <numerusform>Dimenticare il server che ha risposto in passato? L&apos;interrogazione lo chiederà di nuovo solo se un master o una lista lo nomina.</numerusform>
+            <numerusform>Dimenticare i %n server che hanno risposto in passato? L&apos;interrogazione li chiederà di nuovo solo se un master o una lista li nomina.</numerusform>
         </translation>
     </message>
     <message>

@@ -134,8 +134,8 @@
         <translation>Selecteer de volgende vriend in de lijst</translation>
     </message>
     <message>
-        <source>No friends yet: right-click a player and choose "Add To Friends".</source>
-        <translation>Nog geen vrienden: klik met de rechtermuisknop op een speler en kies 'Toevoegen aan vrienden'.</translation>
+        <source>No friends yet: right-click a player and choose &quot;Add To Friends&quot;.</source>
+        <translation>Nog geen vrienden: klik met de rechtermuisknop op een speler en kies &apos;Toevoegen aan vrienden&apos;.</translation>
     </message>
     <message>
         <source>None of your friends is listed.</source>
@@ -157,8 +157,8 @@
         <translation>Naam van een vriend zoals de spelerslijst die toont, of een patroon zoals *Hammer*:</translation>
     </message>
     <message>
-        <source>"%1" holds a control character. Type a name or a pattern.</source>
-        <translation>'%1' bevat een stuurteken. Typ een naam of een patroon.</translation>
+        <source>&quot;%1&quot; holds a control character. Type a name or a pattern.</source>
+        <translation>&apos;%1&apos; bevat een stuurteken. Typ een naam of een patroon.</translation>
     </message>
     <message>
         <source>Refresh the listed servers:</source>
@@ -445,6 +445,10 @@
         <source>Stopped waiting for a free slot.</source>
         <translation>Wachten op een vrije plek gestopt.</translation>
     </message>
+    <message>
+        <source>%1 is not listed now: &quot;Query Recently Played&quot; asks every server you played on.</source>
+        <translation>%1 staat nu niet in de lijst: &apos;Query Recent gespeeld&apos; vraagt elke server op waarop u hebt gespeeld.</translation>
+    </message>
 </context>
 <context>
     <name>FrmOptions</name>
@@ -582,7 +586,7 @@
     </message>
     <message>
         <source>Saved Themes:</source>
-        <translation>Opgeslagen thema's:</translation>
+        <translation>Opgeslagen thema&apos;s:</translation>
     </message>
     <message>
         <source>Save</source>
@@ -618,7 +622,7 @@
     </message>
     <message>
         <source>The themes could not be saved to %1; the other settings are not affected.</source>
-        <translation>De thema's konden niet in %1 worden opgeslagen; de andere instellingen blijven ongewijzigd.</translation>
+        <translation>De thema&apos;s konden niet in %1 worden opgeslagen; de andere instellingen blijven ongewijzigd.</translation>
     </message>
     <message>
         <source>Are you sure you want to reset all settings to their default values?</source>
@@ -907,8 +911,8 @@ Wachten op een vrije plek en deelnemen zodra er een vrijkomt?</translation>
         <translation>De startpoort %1 is ongeldig. Kies een andere in de opties.</translation>
     </message>
     <message>
-        <source>No favourites yet: right-click a server and choose "Add To Favourites".</source>
-        <translation>Nog geen favorieten: klik met de rechtermuisknop op een server en kies 'Toevoegen aan favorieten'.</translation>
+        <source>No favourites yet: right-click a server and choose &quot;Add To Favourites&quot;.</source>
+        <translation>Nog geen favorieten: klik met de rechtermuisknop op een server en kies &apos;Toevoegen aan favorieten&apos;.</translation>
     </message>
     <message>
         <source>Cancelled</source>
@@ -971,8 +975,8 @@ Wachten op een vrije plek en deelnemen zodra er een vrijkomt?</translation>
         <translation>(lijst afgekapt op %1)</translation>
     </message>
     <message>
-        <source>No servers played yet: the servers you join are kept in "Recently Played".</source>
-        <translation>Nog geen servers gespeeld: de servers waaraan u deelneemt, staan onder 'Recent gespeeld'.</translation>
+        <source>No servers played yet: the servers you join are kept in &quot;Recently Played&quot;.</source>
+        <translation>Nog geen servers gespeeld: de servers waaraan u deelneemt, staan onder &apos;Recent gespeeld&apos;.</translation>
     </message>
 </context>
 <context>
@@ -990,8 +994,8 @@ Wachten op een vrije plek en deelnemen zodra er een vrijkomt?</translation>
         <translation>Masterserver %1 niet gevonden (%2).</translation>
     </message>
     <message>
-        <source>The master server address "%1" is not valid.</source>
-        <translation>Het masterserveradres '%1' is ongeldig.</translation>
+        <source>The master server address &quot;%1&quot; is not valid.</source>
+        <translation>Het masterserveradres &apos;%1&apos; is ongeldig.</translation>
     </message>
 </context>
 <context>
@@ -1067,8 +1071,8 @@ Wachten op een vrije plek en deelnemen zodra er een vrijkomt?</translation>
         <translation>Hostnaam of adres van een masterserver, met :poort als die niet 27650 is:</translation>
     </message>
     <message>
-        <source>"%1" is not a master server address. Type a host name or an IP address, followed by a colon and a port from 1 to 65535 when the port is not 27650.</source>
-        <translation>"%1" is geen adres van een masterserver. Typ een hostnaam of een IP-adres, gevolgd door een dubbele punt en een poort van 1 tot 65535 als de poort niet 27650 is.</translation>
+        <source>&quot;%1&quot; is not a master server address. Type a host name or an IP address, followed by a colon and a port from 1 to 65535 when the port is not 27650.</source>
+        <translation>&quot;%1&quot; is geen adres van een masterserver. Typ een hostnaam of een IP-adres, gevolgd door een dubbele punt en een poort van 1 tot 65535 als de poort niet 27650 is.</translation>
     </message>
     <message>
         <source>Server lists on the web, fetched alongside:</source>
@@ -1083,8 +1087,8 @@ Wachten op een vrije plek en deelnemen zodra er een vrijkomt?</translation>
         <translation>Webadres van een serverlijst (JSON of één host:poort per regel):</translation>
     </message>
     <message>
-        <source>"%1" is not a web address. Type an address that begins with http:// or https://.</source>
-        <translation>"%1" is geen webadres. Typ een adres dat begint met http:// of https://.</translation>
+        <source>&quot;%1&quot; is not a web address. Type an address that begins with http:// or https://.</source>
+        <translation>&quot;%1&quot; is geen webadres. Typ een adres dat begint met http:// of https://.</translation>
     </message>
     <message>
         <source>Remember servers that answered and query them again</source>

@@ -134,7 +134,7 @@ responderam %2 de %3 servidores</translation>
         <translation>Selecionar o próximo amigo da lista</translation>
     </message>
     <message>
-        <source>No friends yet: right-click a player and choose "Add To Friends".</source>
+        <source>No friends yet: right-click a player and choose &quot;Add To Friends&quot;.</source>
         <translation>Ainda sem amigos: clique com o botão direito num jogador e escolha «Adicionar aos amigos».</translation>
     </message>
     <message>
@@ -157,7 +157,7 @@ responderam %2 de %3 servidores</translation>
         <translation>Nome de um amigo tal como a lista de jogadores o mostra, ou um padrão como *Hammer*:</translation>
     </message>
     <message>
-        <source>"%1" holds a control character. Type a name or a pattern.</source>
+        <source>&quot;%1&quot; holds a control character. Type a name or a pattern.</source>
         <translation>«%1» contém um carácter de controlo. Escreva um nome ou um padrão.</translation>
     </message>
     <message>
@@ -444,6 +444,10 @@ responderam %2 de %3 servidores</translation>
     <message>
         <source>Stopped waiting for a free slot.</source>
         <translation>Deixou de esperar por uma vaga.</translation>
+    </message>
+    <message>
+        <source>%1 is not listed now: &quot;Query Recently Played&quot; asks every server you played on.</source>
+        <translation>%1 não está listado agora: «Query Jogados recentemente» consulta cada servidor em que jogou.</translation>
     </message>
 </context>
 <context>
@@ -907,7 +911,7 @@ Esperar por uma vaga e entrar assim que uma abrir?</translation>
         <translation>A porta inicial %1 não é válida. Escolha outra nas opções.</translation>
     </message>
     <message>
-        <source>No favourites yet: right-click a server and choose "Add To Favourites".</source>
+        <source>No favourites yet: right-click a server and choose &quot;Add To Favourites&quot;.</source>
         <translation>Ainda sem favoritos: clique com o botão direito num servidor e escolha «Adicionar aos favoritos».</translation>
     </message>
     <message>
@@ -971,7 +975,7 @@ Esperar por uma vaga e entrar assim que uma abrir?</translation>
         <translation>(lista cortada em %1)</translation>
     </message>
     <message>
-        <source>No servers played yet: the servers you join are kept in "Recently Played".</source>
+        <source>No servers played yet: the servers you join are kept in &quot;Recently Played&quot;.</source>
         <translation>Ainda não jogou em nenhum servidor: os servidores em que entra ficam em «Jogados recentemente».</translation>
     </message>
 </context>
@@ -990,7 +994,7 @@ Esperar por uma vaga e entrar assim que uma abrir?</translation>
         <translation>Servidor mestre %1 não encontrado (%2).</translation>
     </message>
     <message>
-        <source>The master server address "%1" is not valid.</source>
+        <source>The master server address &quot;%1&quot; is not valid.</source>
         <translation>O endereço do servidor mestre «%1» não é válido.</translation>
     </message>
 </context>
@@ -1067,8 +1071,8 @@ Esperar por uma vaga e entrar assim que uma abrir?</translation>
         <translation>Nome ou endereço de um servidor mestre, com :porta quando não for 27650:</translation>
     </message>
     <message>
-        <source>"%1" is not a master server address. Type a host name or an IP address, followed by a colon and a port from 1 to 65535 when the port is not 27650.</source>
-        <translation>"%1" não é um endereço de servidor mestre. Escreva um nome ou endereço IP, seguido de dois pontos e de uma porta de 1 a 65535 quando a porta não for 27650.</translation>
+        <source>&quot;%1&quot; is not a master server address. Type a host name or an IP address, followed by a colon and a port from 1 to 65535 when the port is not 27650.</source>
+        <translation>&quot;%1&quot; não é um endereço de servidor mestre. Escreva um nome ou endereço IP, seguido de dois pontos e de uma porta de 1 a 65535 quando a porta não for 27650.</translation>
     </message>
     <message>
         <source>Server lists on the web, fetched alongside:</source>
@@ -1083,8 +1087,8 @@ Esperar por uma vaga e entrar assim que uma abrir?</translation>
         <translation>Endereço web de uma lista de servidores (JSON ou um host:porta por linha):</translation>
     </message>
     <message>
-        <source>"%1" is not a web address. Type an address that begins with http:// or https://.</source>
-        <translation>"%1" não é um endereço web. Escreva um endereço que comece por http:// ou https://.</translation>
+        <source>&quot;%1&quot; is not a web address. Type an address that begins with http:// or https://.</source>
+        <translation>&quot;%1&quot; não é um endereço web. Escreva um endereço que comece por http:// ou https://.</translation>
     </message>
     <message>
         <source>Remember servers that answered and query them again</source>

@@ -448,6 +448,15 @@ FrmHistory* FrmMain::openHistory()
         m_history = new FrmHistory(m_settings, m_dataFolder, this);
         m_history->setAttribute(Qt::WA_DeleteOnClose);
         connect(m_history, &FrmHistory::queryRequested, m_queries, &QueryController::startHistoryQuery);
+        connect(m_history, &FrmHistory::serverChosen, this, [this](const QString& address, const QString& name) {
+            if (selectServer(address)) {
+                raise();
+                activateWindow();
+            } else {
+                m_history->tell(
+                    tr("%1 is not listed now: \"Query Recently Played\" asks every server you played on.").arg(name));
+            }
+        });
     }
     m_history->show();
     m_history->raise();
@@ -542,7 +551,7 @@ void FrmMain::showMenu(ListPane& pane, const QModelIndex& index, const QPoint& a
         m_menu->popup(at);
 }
 
-void FrmMain::selectServer(const QString& address)
+bool FrmMain::selectServer(const QString& address)
 {
     const VisibleList& servers = m_lists->visibleServers();
     for (int visible = 0; visible < servers.rowCount(); ++visible) {
@@ -554,8 +563,9 @@ void FrmMain::selectServer(const QString& address)
         m_serverPane->view()->scrollTo(first);
         showServer(first);
         m_queries->refresh(m_lists->server(m_selection->server()));
-        return;
+        return true;
     }
+    return false;
 }
 
 ListPane& FrmMain::shownList() const

@@ -108,7 +108,9 @@ private:
     void showServer(const QModelIndex& index);
     void showPlayer(const QModelIndex& index);
     void showMenu(ListPane& pane, const QModelIndex& index, const QPoint& at);
-    void selectServer(const QString& address);
+    // Shows the listed server of that "address:port" in the Servers view;
+    // false when it is not listed.
+    bool selectServer(const QString& address);
     ListPane& shownList() const;
     void joinFrom(const ListPane& pane);
 

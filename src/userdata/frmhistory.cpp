@@ -122,6 +122,10 @@ FrmHistory::FrmHistory(SettingsStore& settings, QString dataFolder, QWidget* par
         if (index.isValid())
             m_menu->popup(at);
     });
+    connect(lstHistory, &ReportView::rowDoubleClicked, this, [this](const QModelIndex& index) {
+        emit serverChosen(index.siblingAtColumn(HistoryModel::Address).data().toString(),
+                          index.siblingAtColumn(HistoryModel::Name).data().toString());
+    });
 
     cmdQueryHistory = new QPushButton(this);
     cmdQueryHistory->setObjectName(QStringLiteral("cmdQueryHistory"));
@@ -163,6 +167,12 @@ void FrmHistory::showState()
     lblEmpty->setVisible(!lblEmpty->text().isEmpty());
     cmdQueryHistory->setEnabled(m_model->rowCount() > 0);
     cmdRemove->setEnabled(lstHistory->selectedRow() >= 0);
+}
+
+void FrmHistory::tell(const QString& text)
+{
+    lblEmpty->setText(text);
+    lblEmpty->setVisible(!text.isEmpty());
 }
 
 void FrmHistory::removeSelected()

@@ -50,6 +50,8 @@ public:
 
     // Reads history.dat again (after a join).
     void reload();
+    // A word for the user under the list, until the selection changes.
+    void tell(const QString& text);
     const HistoryModel& model() const { return *m_model; }
     // What went wrong last (a file that could not be written); empty when
     // nothing did.
@@ -57,6 +59,8 @@ public:
 
 signals:
     void queryRequested();
+    // A double click or Enter on a row: the user wants that server.
+    void serverChosen(const QString& address, const QString& name);
 
 protected:
     void changeEvent(QEvent* event) override;

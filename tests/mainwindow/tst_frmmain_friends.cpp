@@ -296,7 +296,11 @@ private slots:
         QCOMPARE(history.first().name, QStringLiteral("Full"));
         QCOMPARE(history.first().joinedAt, w.desktop.manualClock.nowMs() / 1000);
 
-        // Found again in Recently Played, and queried from there.
+        // Found again in Recently Played, and queried from there. An older
+        // entry is of a server that no longer answers.
+        PlayHistory::List older = history;
+        older.append({QStringLiteral("127.0.0.1"), 9, QStringLiteral("Gone"), history.first().joinedAt - 60});
+        QVERIFY(PlayHistory::writeFile(w.dataFile(QStringLiteral("history.dat")), older));
         QTest::mouseClick(w.button("cmdRecent"), Qt::LeftButton);
         auto* recent = w.window->findChild<FrmHistory*>(QStringLiteral("frmHistory"));
         QVERIFY(recent && recent->isVisible());
@@ -304,8 +308,23 @@ private slots:
         QCOMPARE(rows->model()->index(0, HistoryModel::Name).data().toString(), QStringLiteral("Full"));
         QCOMPARE(rows->model()->index(0, HistoryModel::Address).data().toString(), w.address(1));
         QTest::mouseClick(recent->findChild<QPushButton*>(QStringLiteral("cmdQueryHistory")), Qt::LeftButton);
-        QVERIFY(QTest::qWaitFor([&] { return w.status() == QLatin1String("Done"); }, 4000));
+        QVERIFY(QTest::qWaitFor([&] { return w.status() == QLatin1String("Done"); }, 5000));
         QCOMPARE(w.addressesShown(), QStringList{w.address(1)});
+
+        // A double click on a listed server shows it in the Servers view;
+        // Enter on one that is not listed says how to find it.
+        w.clickTab(FrmMain::PlayersTab);
+        const QPoint full = rows->visualRect(rows->model()->index(0, 0)).center();
+        QTest::mouseClick(rows->viewport(), Qt::LeftButton, {}, full);
+        QTest::mouseDClick(rows->viewport(), Qt::LeftButton, {}, full);
+        QCOMPARE(w.window->findChild<QTabBar*>(QStringLiteral("tabSelect"))->currentIndex(), int(FrmMain::ServersTab));
+        QCOMPARE(w.servers()->currentIndex().siblingAtColumn(ServerListModel::Address).data().toString(), w.address(1));
+        rows->setFocus(Qt::TabFocusReason);
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Down);
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
+        QVERIFY(recent->isVisible());
+        QCOMPARE(recent->findChild<QLabel*>(QStringLiteral("lblEmpty"))->text(),
+                 QStringLiteral("Gone is not listed now: \"Query Recently Played\" asks every server you played on."));
     }
 
     void waitingEnds()
