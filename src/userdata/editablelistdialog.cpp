@@ -7,6 +7,7 @@
 
 #include <QAction>
 #include <QHeaderView>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
@@ -36,6 +37,7 @@ EditableListDialog::EditableListDialog(SettingsStore& settings, QAbstractItemMod
     txtEdit->setObjectName(QStringLiteral("txtEdit"));
     txtEdit->hide();
     connect(txtEdit, &QLineEdit::editingFinished, this, &EditableListDialog::commitEdit);
+    txtEdit->installEventFilter(this);
 
     lblMessage = new QLabel(this);
     lblMessage->setObjectName(QStringLiteral("lblMessage"));
@@ -102,6 +104,16 @@ void EditableListDialog::hideEvent(QHideEvent* event)
     QDialog::hideEvent(event);
 }
 
+bool EditableListDialog::eventFilter(QObject* watched, QEvent* event)
+{
+    if (watched == txtEdit && event->type() == QEvent::KeyPress &&
+        static_cast<QKeyEvent*>(event)->key() == Qt::Key_Escape) {
+        cancelEdit();
+        return true;
+    }
+    return QDialog::eventFilter(watched, event);
+}
+
 void EditableListDialog::editCell(int row, int column)
 {
     if (row < 0 || row >= m_model->rowCount() || column < 0 || column >= m_model->columnCount())
@@ -114,6 +126,14 @@ void EditableListDialog::editCell(int row, int column)
     txtEdit->show();
     txtEdit->setFocus();
     txtEdit->selectAll();
+}
+
+void EditableListDialog::cancelEdit()
+{
+    // No row to edit first: the focus leaving the box must not commit.
+    m_editRow = -1;
+    txtEdit->hide();
+    m_list->setFocus();
 }
 
 void EditableListDialog::commitEdit()

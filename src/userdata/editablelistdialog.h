@@ -40,12 +40,16 @@ protected:
     int selectedRow() const;
     void retranslateMenu();
     void commitEdit();
+    // Escape in the edit box: the cell keeps its text, the dialog stays open
+    // (its Cancel would throw away every change not yet applied).
+    void cancelEdit();
     // A line for what went wrong (a file that could not be written),
     // hidden while there is nothing to say; the subclass places it.
     QLabel* messageLine() const { return lblMessage; }
     void showMessage(const QString& text);
 
     void hideEvent(QHideEvent* event) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
     SettingsStore& m_settings;

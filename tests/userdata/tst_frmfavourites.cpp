@@ -4,6 +4,7 @@
 #include "settingsstore.h"
 
 #include <QAction>
+#include <QApplication>
 #include <QClipboard>
 #include <QDir>
 #include <QFile>
@@ -77,6 +78,36 @@ private slots:
         button(form, "cmdCancel")->click();
         QVERIFY(!form.isVisible());
         QCOMPARE(Favourites::readFile(path())->size(), 2);
+    }
+
+    void escapeInACellCancelsThatCellOnly()
+    {
+        FrmFavourites form(*m_settings, m_dir->path());
+        form.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&form));
+        button(form, "cmdNew")->click();
+        auto* list = form.findChild<ReportView*>(QStringLiteral("lvwFavourites"));
+        list->setFocus(Qt::TabFocusReason);
+        auto press = [](Qt::Key key) { QTest::keyClick(QApplication::focusWidget(), key); };
+        press(Qt::Key_End);
+        press(Qt::Key_Return);
+        auto* box = form.findChild<QLineEdit*>(QStringLiteral("txtEdit"));
+        QVERIFY(box->isVisible());
+        QTest::keyClicks(box, QStringLiteral("Mine"));
+        // Escape leaves the cell as it was and the unapplied new row with it.
+        press(Qt::Key_Escape);
+        QVERIFY(form.isVisible());
+        QVERIFY(!box->isVisible());
+        QCOMPARE(QApplication::focusWidget(), list);
+        QCOMPARE(form.rows(), (QList<FavouritesModel::Row>{{"New Server", "", ""}}));
+
+        press(Qt::Key_Return);
+        QTest::keyClicks(box, QStringLiteral("Mine"));
+        press(Qt::Key_Return);
+        QCOMPARE(form.rows(), (QList<FavouritesModel::Row>{{"Mine", "", ""}}));
+        // On the list, Escape is the dialog's Cancel, as everywhere.
+        press(Qt::Key_Escape);
+        QVERIFY(!form.isVisible());
     }
 
     void okWithNoRowsLeavesAnEmptyFile()
