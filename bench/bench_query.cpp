@@ -330,7 +330,7 @@ int filter()
                                       {"si_map", i % 3 ? "q4dm" + QByteArray::number(i % 9) : "q4ctf1"},
                                       {"si_maxplayers", "16"},
                                       {"si_usepass", "0"}};
-        ServerRecord record = InfoProtocol::parseReply(SimReplies::infoResponse(rules, fifteen));
+        ServerRecord record = InfoProtocol::parseReply(SimReplies::infoResponse(rules, fifteen)).value();
         record.address = QStringLiteral("127.0.0.1");
         record.port = 20000 + i;
         records.append(record);
@@ -470,7 +470,7 @@ int parse()
     constexpr int rounds = 50;
     for (int round = 0; round < rounds; ++round) {
         for (const auto& server : fleet.servers())
-            players += InfoProtocol::parseReply(server.reply).playerCount;
+            players += InfoProtocol::parseReply(server.reply).value_or(ServerRecord()).playerCount;
     }
     const double seconds = clock.nsecsElapsed() / 1e9;
     std::printf("parse: %d replies (%.1f MB) in %.3f s: %.0f replies/s, %.2f us per reply (%d players)\n",

@@ -26,6 +26,18 @@ QueryController::QueryController(SettingsStore& settings, const QString& dataFol
             emit progress(sent, std::max(total, 1));
     });
     connect(&m_session, &QuerySession::serverAnswered, this, &QueryController::queue);
+    // Sources keep giving addresses while the first servers answer.
+    connect(&m_session, &QuerySession::addressesAdded, this, [this] {
+        if (!m_quiet)
+            showQuerying();
+    });
+    connect(&m_session, &QuerySession::sourcesChanged, this, [this] {
+        if (m_quiet)
+            return;
+        reportSources();
+        if (m_session.phase() == QuerySession::Phase::Querying)
+            showQuerying();
+    });
     connect(&m_session, &QuerySession::finished, this, [this] {
         if (m_quiet) {
             finishRound();
@@ -69,6 +81,7 @@ bool QueryController::begin()
     m_answered.clear();
     m_sourceNames.clear();
     m_failedSources.clear();
+    m_awaitedSources.clear();
     emit sourcesReported(QString());
     emit busyChanged(true);
     emit started();
@@ -257,10 +270,7 @@ void QueryController::showPhase(QuerySession::Phase phase)
     case QuerySession::Phase::Querying: {
         const int count = m_session.addresses().count();
         reportSources();
-        const QString text = tr("Querying %1 Servers...").arg(count);
-        emit status(m_failedSources.isEmpty() ? text
-                                              : text + QLatin1Char('\n') + tr("No list from %1").arg(m_failedSources),
-                    StatusTone::Querying);
+        showQuerying();
         emit querying(count);
         emit progress(0, std::max(count, 1));
         break;
@@ -272,6 +282,17 @@ void QueryController::showPhase(QuerySession::Phase phase)
     case QuerySession::Phase::Idle:
         break;
     }
+}
+
+void QueryController::showQuerying()
+{
+    // The second line names the sources still awaited, then those that
+    // gave nothing; the tooltip says what each one gave.
+    const QString text = tr("Querying %1 Servers...").arg(m_session.addresses().count());
+    const QString more = !m_awaitedSources.isEmpty() ? tr("Waiting for %1").arg(m_awaitedSources)
+                         : !m_failedSources.isEmpty() ? tr("No list from %1").arg(m_failedSources)
+                                                      : QString();
+    emit status(more.isEmpty() ? text : text + QLatin1Char('\n') + more, StatusTone::Querying);
 }
 
 void QueryController::queue(const ServerRecord& server, bool refresh)
@@ -323,9 +344,18 @@ void QueryController::reportSources()
 {
     QStringList lines;
     QStringList failed;
+    QStringList awaited;
     for (const SourceReport& report : m_session.sourceReports()) {
+        // The status line names a list by its host; the tooltip in full.
+        const QString shortName =
+            report.kind == SourceReport::Kind::List ? QUrl(report.name).host() : report.name;
+        if (!report.settled) {
+            awaited.append(shortName);
+            lines.append(tr("%1: no answer yet").arg(report.name));
+            continue;
+        }
         if (report.failed()) {
-            failed.append(report.name);
+            failed.append(shortName);
             lines.append(tr("%1: %2").arg(report.name, report.error));
             continue;
         }
@@ -336,7 +366,10 @@ void QueryController::reportSources()
             line += QLatin1Char(' ') + tr("(list cut at %1)").arg(ServerListReader::MaxAddresses);
         lines.append(line);
     }
+    failed.removeDuplicates();
+    awaited.removeDuplicates();
     m_failedSources = failed.join(QStringLiteral(", "));
+    m_awaitedSources = awaited.join(QStringLiteral(", "));
     emit sourcesReported(lines.join(QLatin1Char('\n')));
 }
 

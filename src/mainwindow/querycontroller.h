@@ -52,7 +52,8 @@ signals:
     void progress(int value, int maximum);
     // A new query starts: everything listed goes.
     void started();
-    // The master phase is over; count servers are about to be asked.
+    // The first addresses are in; count servers are about to be asked (more
+    // may follow while they are).
     void querying(int count);
     void answers(const QList<ServerRecord>& batch);
     // A listed server answered again.
@@ -74,6 +75,7 @@ private:
     bool preparePool();
     bool begin();
     void showPhase(QuerySession::Phase phase);
+    void showQuerying();
     void queue(const ServerRecord& server, bool refresh);
     void flush();
     void flushTo(bool inPlace);
@@ -94,6 +96,7 @@ private:
     QuerySession m_session;
     QString m_sourceNames;
     QString m_failedSources;
+    QString m_awaitedSources;
     // The servers that answered this query, for the known servers.
     QList<AddressEntry> m_answered;
     // A speed outside the table keeps the pool of the last query.

@@ -1,7 +1,8 @@
 #include "infoprotocol.h"
 
 #include "lenientnumber.h"
-#include "masterprotocol.h"
+
+#include <QtEndian>
 
 #include <limits>
 
@@ -77,18 +78,30 @@ QByteArray getInfoRequest()
     return QByteArray("\xFF\xFFgetInfo\0\x04\0\0\0", 14);
 }
 
-QByteArray replyHeader()
+QByteArray replyPrefix()
 {
-    return QByteArray("\xFF\xFFinfoResponse\0\x04\0\0\0\x3E\0\x02", HeaderLength);
+    return QByteArray("\xFF\xFFinfoResponse\0", 15);
+}
+
+std::optional<Header> readHeader(const QByteArray& datagram)
+{
+    if (datagram.size() < HeaderLength || !datagram.startsWith(replyPrefix()))
+        return std::nullopt;
+    const auto* bytes = reinterpret_cast<const uchar*>(datagram.constData());
+    const Header header{qFromLittleEndian<quint32>(bytes + 15), qFromLittleEndian<quint32>(bytes + 19)};
+    if (header.version >> 16 != GameMajorVersion)
+        return std::nullopt;
+    return header;
+}
+
+QString versionText(quint32 version)
+{
+    return QString::number(version >> 16) + QLatin1Char('.') + QString::number(version & 0xFFFF);
 }
 
 Sections splitSections(const QByteArray& datagram)
 {
-    QByteArray text = MasterProtocol::removeAll(datagram, replyHeader());
-    // The last byte of the protocol version follows the header; the keys
-    // start after it.
-    if (text.size() < datagram.size() && text.startsWith('\0'))
-        text.remove(0, 1);
+    const QByteArray text = datagram.mid(HeaderLength);
     const qsizetype end = text.indexOf(QByteArray("\0\0\0", 3));
     if (end < 0)
         return Sections{text, {}};
@@ -97,13 +110,18 @@ Sections splitSections(const QByteArray& datagram)
     return Sections{text.left(end), players};
 }
 
-ServerRecord parseReply(const QByteArray& datagram)
+std::optional<ServerRecord> parseReply(const QByteArray& datagram)
 {
+    const std::optional<Header> header = readHeader(datagram);
+    if (!header)
+        return std::nullopt;
     const Sections sections = splitSections(datagram);
     ServerRecord server;
+    server.protocol = versionText(header->version);
+    server.tokens = {QString(ProtocolKey), server.protocol};
     if (!sections.keyValues.isEmpty()) {
         const QList<QByteArray> tokens = sections.keyValues.split('\0');
-        server.tokens.reserve(tokens.size());
+        server.tokens.reserve(tokens.size() + 2);
         for (const QByteArray& token : tokens)
             server.tokens.append(latin1(token));
         for (qsizetype i = 0; i + 1 < tokens.size(); i += 2) {

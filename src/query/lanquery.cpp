@@ -55,19 +55,21 @@ std::optional<QueryError> LanQuery::start(const QList<QHostAddress>& targets, qu
 
 void LanQuery::readReplies()
 {
-    static const QByteArray header = InfoProtocol::replyHeader().left(15); // up to the challenge
     while (m_socket && m_socket->hasPendingDatagrams()) {
         const QNetworkDatagram datagram = m_socket->receiveDatagram();
-        // Anyone may send to a broadcasting socket: only infoResponses count,
-        // and each server once, however many broadcasts reached it.
+        // Anyone may send to a broadcasting socket: only infoResponses of
+        // this game count, and each server once, however many broadcasts
+        // reached it.
         const QHostAddress sender(datagram.senderAddress().toIPv4Address());
         const QString key = endpointText(sender.toString(), datagram.senderPort());
-        if (!datagram.data().startsWith(header) || m_seen.contains(key)) {
+        std::optional<ServerRecord> reply =
+            m_seen.contains(key) ? std::nullopt : InfoProtocol::parseReply(datagram.data());
+        if (!reply) {
             ++m_dropped;
             continue;
         }
         m_seen.insert(key);
-        ServerRecord server = InfoProtocol::parseReply(datagram.data());
+        ServerRecord& server = *reply;
         server.address = sender.toString();
         server.port = datagram.senderPort();
         server.ping = int(std::min<qint64>(m_clock.elapsed(), ServerRecord::MaxPing));

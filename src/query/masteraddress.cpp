@@ -59,7 +59,7 @@ MasterList parseMasterList(QStringView text)
     static const QRegularExpression separators(QStringLiteral("[,\\s]+"));
     const QStringList entries = text.toString().split(separators, Qt::SkipEmptyParts);
     if (entries.isEmpty()) {
-        result.masters.append(MasterAddress{MasterAddress::DefaultHost, MasterAddress::DefaultPort});
+        result.masters = MasterAddress::defaults();
         return result;
     }
     for (const QString& entry : entries) {

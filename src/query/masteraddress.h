@@ -9,7 +9,11 @@
 
 struct MasterAddress {
     static constexpr quint16 DefaultPort = 27650;
+    // The game maker's master (the games still authenticate there) and
+    // the community master that lists today's servers.
     static inline const QString DefaultHost = QStringLiteral("q4master.idsoftware.com");
+    static inline const QString CommunityHost = QStringLiteral("master.quakehub.net");
+    static QList<MasterAddress> defaults() { return {{DefaultHost, DefaultPort}, {CommunityHost, DefaultPort}}; }
 
     QString host;
     quint16 port = DefaultPort;
@@ -26,7 +30,7 @@ std::optional<MasterAddress> parseMasterAddress(QStringView text);
 // The masters of one query: the setting holds one or more entries
 // separated by commas or blanks. Entries that name no usable host or port
 // are returned apart so the caller can say which; an empty text means the
-// default master.
+// default masters.
 struct MasterList {
     QList<MasterAddress> masters;
     QStringList refused;

@@ -59,9 +59,8 @@ std::optional<QList<QByteArray>> cutRecords(const QByteArray& gathered)
     return records;
 }
 
-void appendAddresses(const QList<QByteArray>& records, AddressTable& table)
+int appendAddresses(const QList<QByteArray>& records, AddressTable& table, int port)
 {
-    int port = 0;
     for (const QByteArray& record : records) {
         if (record.size() < 5)
             continue;
@@ -73,6 +72,7 @@ void appendAddresses(const QList<QByteArray>& records, AddressTable& table)
             port = byte(5) * 256 + byte(4);
         table.add(address, port);
     }
+    return port;
 }
 
 } // namespace MasterProtocol

@@ -45,7 +45,8 @@ std::optional<QList<QByteArray>> cutRecords(const QByteArray& gathered);
 // Four address bytes and a little-endian port per record. Records shorter
 // than five bytes are skipped. The port is a signed 16-bit number: a port
 // of 32768 or more (or a missing sixth byte) does not fit and the record
-// keeps the port of the record before it (0 for the first).
-void appendAddresses(const QList<QByteArray>& records, AddressTable& table);
+// keeps the port of the record before it (for the first, the port given:
+// 0 at the start of a list). Returns the port the next record would keep.
+int appendAddresses(const QList<QByteArray>& records, AddressTable& table, int port = 0);
 
 } // namespace MasterProtocol

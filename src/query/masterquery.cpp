@@ -17,8 +17,11 @@ MasterQuery::MasterQuery(QObject* parent)
     m_timer->setInterval(TimeoutMs);
     m_timer->setTimerType(Qt::PreciseTimer);
     connect(m_timer, &QTimer::timeout, this, [this] {
+        const bool late = m_late;
         stop();
-        emit timedOut();
+        // The list was complete; nothing more came.
+        if (!late)
+            emit timedOut();
     });
     connect(m_lookup, &HostLookup::finished, this, [this](const HostLookup::Result& result) {
         if (!m_socket)
@@ -133,6 +136,10 @@ void MasterQuery::readReplies()
             continue;
         }
         m_timer->stop();
+        if (m_late) {
+            readLate(datagram.data());
+            continue;
+        }
         m_gathered += datagram.data();
         m_recordBytes += MasterProtocol::removeAll(datagram.data(), MasterProtocol::replyHeader()).size();
         ++m_datagrams;
@@ -150,23 +157,43 @@ void MasterQuery::readReplies()
             continue;
         }
         finish();
-        return;
     }
 }
 
 void MasterQuery::finish()
 {
     const QByteArray gathered = std::exchange(m_gathered, {});
-    stop();
+    m_recordBytes = 0;
+    m_datagrams = 0;
     emit sorting();
     const auto records = MasterProtocol::cutRecords(gathered);
     if (!records) {
+        stop();
         emit failed(QueryError{QueryError::Kind::TooManyServers, QString()});
         return;
     }
     AddressTable table;
-    MasterProtocol::appendAddresses(*records, table);
+    m_carriedPort = MasterProtocol::appendAddresses(*records, table);
+    m_records = int(records->size());
+    m_late = true;
+    m_timer->start();
     emit addressesReady(table);
+}
+
+void MasterQuery::readLate(const QByteArray& datagram)
+{
+    const auto records = MasterProtocol::cutRecords(datagram);
+    // The record counter covers the whole list, late datagrams included.
+    if (!records || m_records + records->size() > MasterProtocol::MaxRecords) {
+        stop();
+        return;
+    }
+    m_records += int(records->size());
+    AddressTable table;
+    m_carriedPort = MasterProtocol::appendAddresses(*records, table, m_carriedPort);
+    m_timer->start();
+    if (!table.isEmpty())
+        emit moreAddresses(table);
 }
 
 void MasterQuery::cancel()
@@ -181,6 +208,9 @@ void MasterQuery::stop()
     m_gathered = QByteArray();
     m_recordBytes = 0;
     m_datagrams = 0;
+    m_late = false;
+    m_records = 0;
+    m_carriedPort = 0;
     m_lookup->abort();
     m_target.clear();
     if (m_socket) {

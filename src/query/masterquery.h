@@ -14,7 +14,10 @@ class QTimer;
 class QUdpSocket;
 
 // Asks the master server for the list of game servers and gathers its
-// reply datagrams until one shorter than a full datagram arrives.
+// reply datagrams until one shorter than a full datagram arrives. Then it
+// listens on for the rest of the time-out after each datagram: a master
+// that splits its list into smaller datagrams sends more after the one
+// the length rule calls the last, and those records count too.
 class MasterQuery final : public QObject {
     Q_OBJECT
     Q_DISABLE_COPY_MOVE(MasterQuery)
@@ -36,6 +39,8 @@ signals:
     void receiving();
     void sorting();
     void addressesReady(const AddressTable& table);
+    // Records of datagrams that came after the last one.
+    void moreAddresses(const AddressTable& table);
     void timedOut();
     void failed(const QueryError& error);
 
@@ -47,6 +52,7 @@ private:
     void send();
     void readReplies();
     void finish();
+    void readLate(const QByteArray& datagram);
     void stop();
 
     QUdpSocket* m_socket = nullptr;
@@ -60,4 +66,9 @@ private:
     qsizetype m_recordBytes = 0;
     int m_datagrams = 0;
     int m_dropped = 0;
+    // After the last datagram: the records so far, and the port a record
+    // with a port that does not fit keeps.
+    bool m_late = false;
+    int m_records = 0;
+    int m_carriedPort = 0;
 };

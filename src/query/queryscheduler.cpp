@@ -104,9 +104,10 @@ int QueryScheduler::lowestFreeSlot() const
     return -1;
 }
 
-void QueryScheduler::run(const AddressTable& table)
+void QueryScheduler::run(const AddressTable& table, bool moreToCome)
 {
     m_table = table;
+    m_moreToCome = moreToCome;
     m_next = 0;
     m_sent = 0;
     m_answered = 0;
@@ -121,9 +122,27 @@ void QueryScheduler::run(const AddressTable& table)
         pump();
 }
 
+void QueryScheduler::append(const AddressTable& more)
+{
+    if (!m_running)
+        return;
+    for (const AddressEntry& entry : more.entries())
+        m_table.add(entry.address, entry.port, entry.name, entry.password);
+    pump();
+}
+
+void QueryScheduler::closeTable()
+{
+    if (!m_running || !m_moreToCome)
+        return;
+    m_moreToCome = false;
+    pump();
+}
+
 void QueryScheduler::cancel()
 {
     m_running = false;
+    m_moreToCome = false;
     closePool();
 }
 
@@ -149,7 +168,7 @@ void QueryScheduler::pump()
         sendOn(index, entry.address, entry.port, false);
         emit requestSent(m_sent, m_table.count());
     }
-    if (m_running && m_next >= m_table.count() && busySockets() == 0) {
+    if (m_running && !m_moreToCome && m_next >= m_table.count() && busySockets() == 0) {
         m_running = false;
         emit finished();
     }
@@ -230,7 +249,14 @@ void QueryScheduler::readReplies(int index)
             ++m_dropped;
             continue;
         }
-        ServerRecord server = InfoProtocol::parseReply(datagram.data());
+        // Only an infoResponse of this game answers the request; anything
+        // else (a stray or forged datagram) leaves the server waited for.
+        std::optional<ServerRecord> reply = InfoProtocol::parseReply(datagram.data());
+        if (!reply) {
+            ++m_dropped;
+            continue;
+        }
+        ServerRecord& server = *reply;
         server.address = slot.address;
         server.port = slot.port;
         server.ping = int(std::min<qint64>(slot.clock.elapsed(), ServerRecord::MaxPing));

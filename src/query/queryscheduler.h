@@ -42,8 +42,12 @@ public:
 
     // Queries every entry in table order; finished() follows when the last
     // request was answered or timed out (for an empty table, once the
-    // caller is back in the event loop). The pool must be open.
-    void run(const AddressTable& table);
+    // caller is back in the event loop). The pool must be open. With
+    // moreToCome, append() adds addresses while it runs and finished()
+    // waits for closeTable() too.
+    void run(const AddressTable& table, bool moreToCome = false);
+    void append(const AddressTable& more);
+    void closeTable();
     // Stops sending and closes every socket; answers already reported stay.
     void cancel();
     bool isRunning() const { return m_running; }
@@ -94,6 +98,7 @@ private:
     AddressTable m_table;
     int m_next = 0;
     bool m_running = false;
+    bool m_moreToCome = false;
     int m_sent = 0;
     int m_answered = 0;
     int m_timedOut = 0;

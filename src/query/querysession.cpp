@@ -3,8 +3,18 @@
 QuerySession::QuerySession(QObject* parent)
     : QObject(parent)
 {
-    connect(&m_sources, &ServerSources::receiving, this, [this] { setPhase(Phase::Receiving); });
-    connect(&m_sources, &ServerSources::sorting, this, [this] { setPhase(Phase::Sorting); });
+    // Once servers are asked, a master still sending its list does not
+    // take the phase back.
+    connect(&m_sources, &ServerSources::receiving, this, [this] {
+        if (m_phase != Phase::Querying)
+            setPhase(Phase::Receiving);
+    });
+    connect(&m_sources, &ServerSources::sorting, this, [this] {
+        if (m_phase != Phase::Querying)
+            setPhase(Phase::Sorting);
+    });
+    connect(&m_sources, &ServerSources::listed, this, &QuerySession::take);
+    connect(&m_sources, &ServerSources::reported, this, &QuerySession::sourcesChanged);
     connect(&m_sources, &ServerSources::finished, this, &QuerySession::sourcesDone);
     connect(&m_lan, &LanQuery::serverAnswered, this,
             [this](const ServerRecord& server) { emit serverAnswered(server, false); });
@@ -37,7 +47,6 @@ std::optional<QueryError> QuerySession::startSources(const SourcePlan& plan)
 {
     cancel();
     m_addresses.clear();
-    m_reports.clear();
     m_clock.start();
     if (auto error = planError())
         return error;
@@ -51,18 +60,40 @@ std::optional<QueryError> QuerySession::startSources(const SourcePlan& plan)
     return std::nullopt;
 }
 
-void QuerySession::sourcesDone(const AddressTable& table, const QList<SourceReport>& reports)
+void QuerySession::take(const AddressTable& fresh)
 {
-    m_reports = reports;
-    const bool anyAnswered =
-        std::any_of(reports.cbegin(), reports.cend(), [](const SourceReport& report) { return !report.failed(); });
-    if (!table.isEmpty() || anyAnswered) {
-        runTable(table);
+    if (m_phase == Phase::Querying) {
+        for (const AddressEntry& entry : fresh.entries())
+            m_addresses.add(entry.address, entry.port, entry.name, entry.password);
+        emit addressesAdded(m_addresses.count());
+        m_scheduler.append(fresh);
         return;
     }
+    m_addresses = fresh;
+    setPhase(Phase::Querying);
+    m_scheduler.run(m_addresses, m_sources.isRunning());
+}
+
+void QuerySession::sourcesDone()
+{
+    if (m_phase == Phase::Querying) {
+        m_scheduler.closeTable();
+        return;
+    }
+    const QList<SourceReport>& reports = m_sources.reports();
+    const bool anyAnswered =
+        std::any_of(reports.cbegin(), reports.cend(), [](const SourceReport& report) { return !report.failed(); });
+    if (anyAnswered) {
+        // Lists that were empty: a query of nothing, done at once.
+        runTable(AddressTable());
+        return;
+    }
+    // Kept for the caller: cancel() would end the sources' reports too.
+    const std::optional<QueryError> single =
+        reports.size() == 1 ? reports.first().queryError : std::optional<QueryError>();
     cancel();
-    if (reports.size() == 1 && reports.first().queryError) {
-        emit failed(*reports.first().queryError);
+    if (single) {
+        emit failed(*single);
         return;
     }
     emit masterTimedOut();
@@ -71,8 +102,8 @@ void QuerySession::sourcesDone(const AddressTable& table, const QList<SourceRepo
 std::optional<QueryError> QuerySession::startLan(const QList<QHostAddress>& targets)
 {
     cancel();
+    m_sources.forget();
     m_addresses.clear();
-    m_reports.clear();
     m_clock.start();
     if (auto error = planError())
         return error;
@@ -87,6 +118,7 @@ std::optional<QueryError> QuerySession::startLan(const QList<QHostAddress>& targ
 std::optional<QueryError> QuerySession::startAddresses(const AddressTable& table)
 {
     cancel();
+    m_sources.forget();
     m_clock.start();
     if (auto error = m_scheduler.openPool())
         return error;

@@ -35,9 +35,10 @@ public:
     // Both bind every port first; a port that cannot be bound returns the
     // error and nothing runs.
     std::optional<QueryError> startMaster(const MasterAddress& master);
-    // Every source at once. When all of them fail and nothing is known,
-    // a single master's failure is reported as it is; several fail as one
-    // timed-out master.
+    // Every source at once, each source's addresses asked the moment it
+    // gives them; the query ends when every source settled and the pool is
+    // idle. When all of them fail and nothing is known, a single master's
+    // failure is reported as it is; several fail as one timed-out master.
     std::optional<QueryError> startSources(const SourcePlan& plan);
     std::optional<QueryError> startAddresses(const AddressTable& table);
     std::optional<QueryError> startLan(const QList<QHostAddress>& targets);
@@ -48,9 +49,11 @@ public:
     // Queries one server again; only while no query runs.
     std::optional<QueryError> refresh(const QString& address, int port);
 
+    // Every address asked so far, in the order asked.
     const AddressTable& addresses() const { return m_addresses; }
-    // What each source gave in the last query from sources.
-    const QList<SourceReport>& sourceReports() const { return m_reports; }
+    // What each source gave in the last query from sources (those not yet
+    // settled are marked so).
+    const QList<SourceReport>& sourceReports() const { return m_sources.reports(); }
     const LanQuery& lan() const { return m_lan; }
     const QueryScheduler& scheduler() const { return m_scheduler; }
     int droppedDatagrams() const
@@ -62,6 +65,11 @@ public:
 signals:
     void phaseChanged(QuerySession::Phase phase);
     void requestSent(int sent, int total);
+    // A source gave addresses while the servers are asked: addresses()
+    // holds count now.
+    void addressesAdded(int count);
+    // A source of the running query settled (sourceReports()).
+    void sourcesChanged();
     void serverAnswered(const ServerRecord& server, bool refresh);
     void finished();
     void masterTimedOut();
@@ -72,12 +80,12 @@ private:
     // The port plan reaches past the last port.
     std::optional<QueryError> planError() const;
     void runTable(const AddressTable& table);
-    void sourcesDone(const AddressTable& table, const QList<SourceReport>& reports);
+    void take(const AddressTable& fresh);
+    void sourcesDone();
 
     QueryScheduler m_scheduler;
     ServerSources m_sources;
     LanQuery m_lan;
-    QList<SourceReport> m_reports;
     QuerySpeed::PortPlan m_plan;
     AddressTable m_addresses;
     Phase m_phase = Phase::Idle;

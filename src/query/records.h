@@ -67,8 +67,11 @@ struct ServerRecord {
     QString passwordMark = QStringLiteral(" ");
     QString gameType = QStringLiteral("DM");
     QString gameName = QStringLiteral("baseQUAKE4-1");
-    // Every key and value of the reply in order, raw, for the rules view
-    // and the filters.
+    // The protocol version of the reply, "2.85" for the last retail patch.
+    QString protocol;
+    // The protocol version as a rule ("protocol", "2.85"), then every key
+    // and value of the reply in order, raw, for the rules view and the
+    // filters.
     QStringList tokens;
     // Players that could be stored; playerCount may be larger.
     QList<PlayerRecord> players;

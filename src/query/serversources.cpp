@@ -4,7 +4,6 @@
 #include "serverlistfetch.h"
 
 #include <QNetworkAccessManager>
-#include <QSet>
 
 namespace {
 
@@ -21,33 +20,18 @@ SourceReport reportOf(SourceReport::Kind kind, const QString& name)
 
 } // namespace
 
-AddressTable mergeSources(const QList<AddressTable>& listed, const AddressTable& known, int* knownAdded)
+AddressTable SourceMerger::take(int source, const AddressTable& table)
 {
-    AddressTable merged;
-    QSet<QString> seen;
-    for (const AddressTable& table : listed) {
-        QSet<QString> mine;
-        for (const AddressEntry& entry : table.entries()) {
-            const QString key = entry.endpointText();
-            if (seen.contains(key))
-                continue;
-            mine.insert(key);
-            merged.add(entry.address, entry.port, entry.name, entry.password);
-        }
-        seen.unite(mine);
-    }
-    int added = 0;
-    for (const AddressEntry& entry : known.entries()) {
-        const QString key = entry.endpointText();
-        if (seen.contains(key))
+    AddressTable fresh;
+    for (const AddressEntry& entry : table.entries()) {
+        const auto owner = m_owner.constFind(entry.endpointText());
+        if (owner != m_owner.cend() && *owner != source)
             continue;
-        seen.insert(key);
-        merged.add(entry.address, entry.port, entry.name, entry.password);
-        ++added;
+        if (owner == m_owner.cend())
+            m_owner.insert(entry.endpointText(), source);
+        fresh.add(entry.address, entry.port, entry.name, entry.password);
     }
-    if (knownAdded)
-        *knownAdded = added;
-    return merged;
+    return fresh;
 }
 
 ServerSources::ServerSources(QObject* parent)
@@ -63,7 +47,8 @@ ServerSources::~ServerSources()
 std::optional<QueryError> ServerSources::start(const SourcePlan& plan, quint16 firstMasterPort)
 {
     cancel();
-    m_known = plan.known;
+    m_reports.clear();
+    m_droppedBefore = 0;
     m_armed = true;
     m_starting = true;
     int port = firstMasterPort;
@@ -86,7 +71,6 @@ std::optional<QueryError> ServerSources::start(const SourcePlan& plan, quint16 f
         }
         const int index = int(m_reports.size());
         m_reports.append(reportOf(SourceReport::Kind::Master, masterAddressText(master)));
-        m_tables.append(AddressTable());
         ++m_pending;
         if (error) {
             settleFailed(index, error->message(), false, error);
@@ -96,6 +80,8 @@ std::optional<QueryError> ServerSources::start(const SourcePlan& plan, quint16 f
         connect(query, &MasterQuery::sorting, this, &ServerSources::sorting);
         connect(query, &MasterQuery::addressesReady, this,
                 [this, index](const AddressTable& table) { settle(index, table); });
+        connect(query, &MasterQuery::moreAddresses, this,
+                [this, index](const AddressTable& table) { offer(index, table); });
         connect(query, &MasterQuery::timedOut, this,
                 [this, index] { settleFailed(index, tr("did not answer"), true); });
         connect(query, &MasterQuery::failed, this,
@@ -109,7 +95,6 @@ std::optional<QueryError> ServerSources::start(const SourcePlan& plan, quint16 f
     for (const QUrl& url : plan.listUrls) {
         const int index = int(m_reports.size());
         m_reports.append(reportOf(SourceReport::Kind::List, url.toDisplayString()));
-        m_tables.append(AddressTable());
         ++m_pending;
         auto* fetch = new ServerListFetch(*m_network, this);
         m_fetches.append(fetch);
@@ -123,6 +108,14 @@ std::optional<QueryError> ServerSources::start(const SourcePlan& plan, quint16 f
         fetch->start(url);
     }
     m_starting = false;
+    // The servers known from earlier need no source: they are asked first.
+    if (!plan.known.isEmpty()) {
+        const int index = int(m_reports.size());
+        SourceReport known = reportOf(SourceReport::Kind::Known, tr("known servers"));
+        known.settled = true;
+        m_reports.append(known);
+        offer(index, plan.known);
+    }
     // Sources that failed at once, or none at all: report once the caller
     // is back in the event loop, as for any other ending.
     if (m_pending == 0)
@@ -130,20 +123,35 @@ std::optional<QueryError> ServerSources::start(const SourcePlan& plan, quint16 f
     return std::nullopt;
 }
 
+void ServerSources::offer(int index, const AddressTable& table)
+{
+    m_reports[index].addresses += table.count();
+    const AddressTable fresh = m_merger.take(index, table);
+    if (!fresh.isEmpty())
+        emit listed(fresh);
+}
+
 void ServerSources::settle(int index, const AddressTable& table)
 {
-    m_tables[index] = table;
-    m_reports[index].addresses = table.count();
+    m_reports[index].settled = true;
     --m_pending;
+    offer(index, table);
+    if (!m_armed)
+        return; // whoever heard the addresses ended the query
+    emit reported();
     checkDone();
 }
 
 void ServerSources::settleFailed(int index, const QString& error, bool timedOut, std::optional<QueryError> queryError)
 {
+    m_reports[index].settled = true;
     m_reports[index].error = error;
     m_reports[index].timedOut = timedOut;
     m_reports[index].queryError = std::move(queryError);
     --m_pending;
+    if (m_starting)
+        return;
+    emit reported();
     checkDone();
 }
 
@@ -152,31 +160,28 @@ void ServerSources::checkDone()
     if (!m_armed || m_pending > 0 || m_starting)
         return;
     m_armed = false;
-    int knownAdded = 0;
-    const AddressTable merged = mergeSources(m_tables, m_known, &knownAdded);
-    QList<SourceReport> reports = m_reports;
-    if (!m_known.isEmpty()) {
-        SourceReport known = reportOf(SourceReport::Kind::Known, tr("known servers"));
-        known.addresses = knownAdded;
-        reports.append(known);
+    // The lists are read; a master that split its list may still be
+    // sending the rest, so the masters stay until cancel().
+    for (ServerListFetch* fetch : std::exchange(m_fetches, {})) {
+        fetch->disconnect(this);
+        fetch->abort();
+        fetch->deleteLater();
     }
-    m_droppedBefore = droppedDatagrams();
-    release();
     // Whoever listens may start the next query from here.
-    emit finished(merged, reports);
+    emit finished();
 }
 
 void ServerSources::cancel()
 {
     m_armed = false;
     m_pending = 0;
-    m_droppedBefore = 0;
     release();
 }
 
 void ServerSources::release()
 {
     for (MasterQuery* master : std::exchange(m_masters, {})) {
+        m_droppedBefore += master->droppedDatagrams();
         master->disconnect(this);
         master->cancel();
         master->deleteLater();
@@ -186,9 +191,7 @@ void ServerSources::release()
         fetch->abort();
         fetch->deleteLater();
     }
-    m_reports.clear();
-    m_tables.clear();
-    m_known.clear();
+    m_merger.clear();
 }
 
 int ServerSources::droppedDatagrams() const

@@ -4,6 +4,7 @@
 #include "queryerror.h"
 #include "records.h"
 
+#include <QHash>
 #include <QList>
 #include <QNetworkProxy>
 #include <QObject>
@@ -19,8 +20,8 @@ class ServerListFetch;
 struct SourcePlan {
     QList<MasterAddress> masters;
     QList<QUrl> listUrls;
-    // Servers remembered from earlier queries: asked after the listed ones
-    // when no source listed them this time.
+    // Servers remembered from earlier queries: asked at once, before any
+    // source answered, and not again when a source lists them.
     AddressTable known;
     QNetworkProxy proxy = QNetworkProxy(QNetworkProxy::NoProxy);
 };
@@ -34,21 +35,31 @@ struct SourceReport {
     int skipped = 0; // list entries that named no usable server
     bool truncated = false;
     bool timedOut = false;
+    bool settled = false;                 // answered, failed or timed out
     std::optional<QueryError> queryError; // a master's documented failure
     QString error;                        // empty while the source answered
 
     bool failed() const { return !error.isEmpty(); }
 };
 
-// The query's table from every source's: the sources in order, an address
-// that an earlier source listed is not asked again (within one source its
-// duplicates stay, as a master's list is queried as it came), then the known
-// servers nobody listed. knownAdded, when given, receives their number.
-AddressTable mergeSources(const QList<AddressTable>& listed, const AddressTable& known, int* knownAdded = nullptr);
+// Which of a source's addresses are new to the running query. An address
+// that another source gave is not asked again; within one source its
+// duplicates stay, as a master's list is queried as it came.
+class SourceMerger final {
+public:
+    void clear() { m_owner.clear(); }
+    AddressTable take(int source, const AddressTable& table);
+
+private:
+    QHash<QString, int> m_owner;
+};
 
 // Asks every master and fetches every server list of a plan at once, and
-// hands over the merged table when the last of them answered, failed or
-// timed out.
+// hands over each source's new addresses the moment it gives them: the
+// known servers at the start, a master when its list is complete, a list
+// when it is read. A master keeps listening after the datagram its length
+// rule calls the last, within its time-out, for a list split into smaller
+// datagrams; what arrives there is handed over too, until cancel().
 class ServerSources final : public QObject {
     Q_OBJECT
     Q_DISABLE_COPY_MOVE(ServerSources)
@@ -61,15 +72,30 @@ public:
     // as with one master); the others take the next free ports above it.
     std::optional<QueryError> start(const SourcePlan& plan, quint16 firstMasterPort);
     void cancel();
+    // A query without sources follows: no reports of the last one.
+    void forget()
+    {
+        cancel();
+        m_reports.clear();
+    }
+    // Until every source settled.
     bool isRunning() const { return m_armed; }
+    // Every source of the plan, in plan order, then the known servers;
+    // those not yet settled are marked so.
+    const QList<SourceReport>& reports() const { return m_reports; }
     int droppedDatagrams() const;
 
 signals:
     void receiving();
     void sorting();
-    void finished(const AddressTable& table, const QList<SourceReport>& reports);
+    // Addresses no source of this query gave before.
+    void listed(const AddressTable& fresh);
+    // A source settled (reports() says how); finished follows the last.
+    void reported();
+    void finished();
 
 private:
+    void offer(int index, const AddressTable& table);
     void settle(int index, const AddressTable& table);
     void settleFailed(int index, const QString& error, bool timedOut, std::optional<QueryError> queryError = {});
     void checkDone();
@@ -81,8 +107,7 @@ private:
     QList<ServerListFetch*> m_fetches;
     QNetworkAccessManager* m_network = nullptr;
     QList<SourceReport> m_reports;
-    QList<AddressTable> m_tables;
-    AddressTable m_known;
+    SourceMerger m_merger;
     int m_pending = 0;
     bool m_starting = false;
     bool m_armed = false;

@@ -66,7 +66,7 @@ inline constexpr TextSetting ProxyAddress{u"ProxyAddress"};
 // The base address the update check asks; the build chooses the default.
 inline constexpr TextSetting UpdateSite{u"UpdateSite", u"" Q4V_UPDATE_SITE};
 // One or more "host[:port]" separated by commas or blanks; empty: the game
-// maker's master.
+// maker's master and the community master (MasterAddress::defaults()).
 inline constexpr TextSetting MasterServer{u"MasterServer"};
 // Published server lists: http or https addresses separated by blanks.
 inline constexpr TextSetting ServerListUrls{u"ServerListUrls", u"https://quakehub.net/api/v1/servers/q4"};

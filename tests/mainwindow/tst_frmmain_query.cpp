@@ -107,7 +107,7 @@ private slots:
             const QString address = w.cell("lstServerList", row, ServerListModel::Address);
             const int port = address.section(QLatin1Char(':'), 1).toInt();
             const auto& sent = fleet.servers().at(port - options.firstServerPort);
-            const ServerRecord expected = InfoProtocol::parseReply(sent.reply);
+            const ServerRecord expected = InfoProtocol::parseReply(sent.reply).value();
             QVERIFY(!sent.silent);
             QCOMPARE(w.cell("lstServerList", row, ServerListModel::Name),
                      ColourCodes::StripColourCodesCounted(expected.name));

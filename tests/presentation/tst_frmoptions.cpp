@@ -329,13 +329,18 @@ private slots:
         tabs->setCurrentIndex(FrmOptions::SourcesTab);
         auto* masters = find<QListWidget>("lstMasters");
         auto* lists = find<QListWidget>("lstServerLists");
-        // Untouched, the stored text stays as it was: empty is the default master.
-        QCOMPARE(masters->count(), 1);
-        QCOMPARE(masters->item(0)->text(), MasterAddress::DefaultHost);
+        // Untouched, the stored text stays as it was: empty is the default masters.
+        QCOMPARE(masters->count(), 2);
+        QCOMPARE(masters->item(0)->text(), QStringLiteral("q4master.idsoftware.com"));
+        QCOMPARE(masters->item(1)->text(), QStringLiteral("master.quakehub.net"));
         QCOMPARE(lists->count(), 1);
         click("cmdApply");
         QVERIFY(!m_settings->contains(u"MasterServer"));
         QVERIFY(!m_settings->contains(u"ServerListUrls"));
+
+        masters->setCurrentRow(1);
+        click("cmdMastersRemove");
+        QCOMPARE(masters->count(), 1);
 
         // A refused entry is said, and offered again for correction.
         m_desktop->inputAnswers.enqueue(QStringLiteral("master.example:99999"));

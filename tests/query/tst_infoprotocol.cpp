@@ -1,5 +1,6 @@
 #include "infoprotocol.h"
 
+#include <QFile>
 #include <QTest>
 
 using namespace InfoProtocol;
@@ -28,11 +29,37 @@ QByteArray player(int number, int ping, int rate, const QByteArray& name, const 
     return bytes + name + '\0' + clan + '\0';
 }
 
-// Header, version byte, key/value pairs, the closing empty pair, players,
-// and the three trailing bytes.
+// The header of a reply with this challenge and protocol version.
+QByteArray header(quint32 version = 0x0002003E, quint32 challenge = 4)
+{
+    QByteArray bytes = replyPrefix();
+    for (quint32 value : {challenge, version})
+        for (int shift : {0, 8, 16, 24})
+            bytes += char((value >> shift) & 0xFF);
+    return bytes;
+}
+
+// Header, key/value pairs, the closing empty pair, players, and the three
+// trailing bytes the first release documents.
 QByteArray reply(const QByteArray& pairs, const QByteArray& players = {})
 {
-    return replyHeader() + QByteArray(1, '\0') + pairs + QByteArray(2, '\0') + players + QByteArray("\x20\0\0", 3);
+    return header() + pairs + QByteArray(2, '\0') + players + QByteArray("\x20\0\0", 3);
+}
+
+ServerRecord parsed(const QByteArray& datagram)
+{
+    const std::optional<ServerRecord> server = parseReply(datagram);
+    if (!server)
+        qFatal("not read as an infoResponse");
+    return *server;
+}
+
+QByteArray fixture(const char* name)
+{
+    QFile file(QFINDTESTDATA(QStringLiteral("fixtures/%1").arg(QLatin1String(name))));
+    if (!file.open(QIODevice::ReadOnly))
+        qFatal("fixture %s is missing", name);
+    return file.readAll();
 }
 
 const QByteArray StandardPairs = keyValues({"si_name", "^1Red ^7Server", "si_map", "q4dm1", "si_maxplayers", "16",
@@ -47,37 +74,37 @@ private slots:
     void requestAndHeaderBytes()
     {
         QCOMPARE(getInfoRequest(), QByteArray("\xFF\xFFgetInfo\0\x04\0\0\0", 14));
-        QCOMPARE(replyHeader().size(), 22);
-        QVERIFY(replyHeader().startsWith("\xFF\xFFinfoResponse"));
-        QVERIFY(replyHeader().endsWith(QByteArray("\x04\0\0\0\x3E\0\x02", 7)));
+        QCOMPARE(replyPrefix(), QByteArray("\xFF\xFFinfoResponse\0", 15));
+        QCOMPARE(header().size(), HeaderLength);
     }
 
     void readsTheListedKeys()
     {
-        const ServerRecord server = parseReply(reply(StandardPairs));
+        const ServerRecord server = parsed(reply(StandardPairs));
         QCOMPARE(server.name, QStringLiteral("^1Red ^7Server"));
         QCOMPARE(server.map, QStringLiteral("q4dm1"));
         QCOMPARE(server.maxPlayers, 16);
         QCOMPARE(server.gameType, QStringLiteral("Tourney"));
         QCOMPARE(server.gameName, QStringLiteral("q4max"));
         QCOMPARE(server.passwordMark, QStringLiteral("*"));
-        QCOMPARE(server.tokens.size(), 12);
-        QCOMPARE(server.tokens.first(), QStringLiteral("si_name"));
+        // The protocol version comes first, then the reply's own pairs.
+        QCOMPARE(server.tokens.size(), 14);
+        QCOMPARE(server.tokens.mid(0, 3), (QStringList{"protocol", "2.62", "si_name"}));
         QCOMPARE(server.tokens.last(), QStringLiteral("1"));
         QCOMPARE(server.playerCount, 0);
     }
 
     void keysMatchInAnyCaseAndKeepTheirSpelling()
     {
-        const ServerRecord server = parseReply(reply(keyValues({"SI_Map", "q4ctf1", "GameName", "baseQ4"})));
+        const ServerRecord server = parsed(reply(keyValues({"SI_Map", "q4ctf1", "GameName", "baseQ4"})));
         QCOMPARE(server.map, QStringLiteral("q4ctf1"));
         QCOMPARE(server.gameName, QStringLiteral("baseQ4"));
-        QCOMPARE(server.tokens.first(), QStringLiteral("SI_Map"));
+        QCOMPARE(server.tokens.at(2), QStringLiteral("SI_Map"));
     }
 
     void missingKeysKeepTheListingDefaults()
     {
-        const ServerRecord server = parseReply(reply(keyValues({"fs_game", "x"})));
+        const ServerRecord server = parsed(reply(keyValues({"fs_game", "x"})));
         QCOMPARE(server.name, QStringLiteral("noname"));
         QCOMPARE(server.map, QStringLiteral("nomap"));
         QCOMPARE(server.gameType, QStringLiteral("DM"));
@@ -100,20 +127,20 @@ private slots:
     {
         QFETCH(QByteArray, value);
         QFETCH(QString, mark);
-        QCOMPARE(parseReply(reply(keyValues({"si_usepass", value.constData()}))).passwordMark, mark);
+        QCOMPARE(parsed(reply(keyValues({"si_usepass", value.constData()}))).passwordMark, mark);
     }
 
     void maxPlayersIsALeadingSigned16BitNumber()
     {
-        QCOMPARE(parseReply(reply(keyValues({"si_maxplayers", "12abc"}))).maxPlayers, 12);
-        QCOMPARE(parseReply(reply(keyValues({"si_maxplayers", "lots"}))).maxPlayers, 0);
-        QCOMPARE(parseReply(reply(keyValues({"si_maxplayers", "40000"}))).maxPlayers, 0);
+        QCOMPARE(parsed(reply(keyValues({"si_maxplayers", "12abc"}))).maxPlayers, 12);
+        QCOMPARE(parsed(reply(keyValues({"si_maxplayers", "lots"}))).maxPlayers, 0);
+        QCOMPARE(parsed(reply(keyValues({"si_maxplayers", "40000"}))).maxPlayers, 0);
     }
 
     void readsPlayersWithEmptyClans()
     {
         const QByteArray players = player(3, 45, 25000, "^1Fragger", "") + player(12, 0, 90000, "Bot", "[CLAN]");
-        const ServerRecord server = parseReply(reply(StandardPairs, players));
+        const ServerRecord server = parsed(reply(StandardPairs, players));
         QCOMPARE(server.playerCount, 2);
         QCOMPARE(server.players.size(), 2);
         QCOMPARE(server.players[0], (PlayerRecord{QString(), QStringLiteral("^1Fragger"), 3, 25000, 45}));
@@ -124,7 +151,7 @@ private slots:
 
     void overflowingPingOrRateStaysZero()
     {
-        const ServerRecord server = parseReply(reply(StandardPairs, player(1, 40000, 0x9000, "x", "")));
+        const ServerRecord server = parsed(reply(StandardPairs, player(1, 40000, 0x9000, "x", "")));
         QCOMPARE(server.playerCount, 1);
         QCOMPARE(server.players[0].ping, 0);
         QCOMPARE(server.players[0].rate, 0);
@@ -136,7 +163,7 @@ private slots:
         QByteArray players;
         for (int i = 0; i < 5; ++i)
             players += player(i, 50, 1000, "p" + QByteArray::number(i), "");
-        const ServerRecord server = parseReply(reply(keyValues({"si_name", "small", "si_maxplayers", "2"}), players));
+        const ServerRecord server = parsed(reply(keyValues({"si_name", "small", "si_maxplayers", "2"}), players));
         QCOMPARE(server.playerCount, 5);
         QCOMPARE(server.players.size(), 3); // indexes 0 to 2
         QCOMPARE(server.players.last().name, QStringLiteral("p2"));
@@ -145,33 +172,97 @@ private slots:
     void shortKeyValueSectionReadsNoPlayers()
     {
         const QByteArray players = player(1, 50, 1000, "p", "");
-        QCOMPARE(parseReply(reply(keyValues({"a", "b"}), players)).playerCount, 0);   // "a\0b" is 3 bytes
-        QCOMPARE(parseReply(reply(keyValues({"abc", "d"}), players)).playerCount, 0); // "abc\0d": 5 bytes
-        QCOMPARE(parseReply(reply(keyValues({"abcd", "e"}), players)).playerCount, 1);
+        QCOMPARE(parsed(reply(keyValues({"a", "b"}), players)).playerCount, 0);   // "a\0b" is 3 bytes
+        QCOMPARE(parsed(reply(keyValues({"abc", "d"}), players)).playerCount, 0); // "abc\0d": 5 bytes
+        QCOMPARE(parsed(reply(keyValues({"abcd", "e"}), players)).playerCount, 1);
     }
 
     void playerSectionThatIsASmallNumberIsSkipped()
     {
-        QCOMPARE(parseReply(reply(StandardPairs, "5")).playerCount, 0);
-        QCOMPARE(parseReply(reply(StandardPairs, " 3 ")).playerCount, 0);
+        QCOMPARE(parsed(reply(StandardPairs, "5")).playerCount, 0);
+        QCOMPARE(parsed(reply(StandardPairs, " 3 ")).playerCount, 0);
         // Binary data never converts to a number: players are read.
-        QCOMPARE(parseReply(reply(StandardPairs, player(0, 0, 0, "", ""))).playerCount, 1);
-        QCOMPARE(parseReply(reply(StandardPairs)).playerCount, 0);
+        QCOMPARE(parsed(reply(StandardPairs, player(0, 0, 0, "", ""))).playerCount, 1);
+        QCOMPARE(parsed(reply(StandardPairs)).playerCount, 0);
     }
 
-    void otherProtocolVersionKeepsItsHeader()
+    void everyReleaseOfTheGameIsRead_data()
     {
-        QByteArray other = reply(keyValues({"si_name", "x", "si_map", "m"}));
-        other[20] = '\x03'; // version 0x0003003E
-        const ServerRecord server = parseReply(other);
-        QVERIFY(server.tokens.first().startsWith(QStringLiteral("\u00FF\u00FFinfoResponse")));
+        QTest::addColumn<QString>("file");
+        QTest::addColumn<QString>("protocol");
+        QTest::newRow("1.0") << "info-2.62.bin" << "2.62";
+        QTest::newRow("1.4.1") << "info-2.77.bin" << "2.77";
+        QTest::newRow("1.4.2") << "info-2.85.bin" << "2.85";
+        QTest::newRow("1.4.2 demo") << "info-2.86.bin" << "2.86";
+        QTest::newRow("foreign challenge") << "info-2.85-foreign-challenge.bin" << "2.85";
+    }
+    // Replies as the releases send them: the header with the challenge and
+    // the version, and after the last player the client number 32 and a
+    // 32-bit mask of the server's operating systems.
+    void everyReleaseOfTheGameIsRead()
+    {
+        QFETCH(QString, file);
+        QFETCH(QString, protocol);
+        const ServerRecord server = parsed(fixture(qPrintable(file)));
+        QCOMPARE(server.name, QStringLiteral("^1Strogg^7 Arena ^3#1"));
+        QCOMPARE(server.map, QStringLiteral("mp/q4dm7"));
+        QCOMPARE(server.maxPlayers, 8);
+        QCOMPARE(server.gameType, QStringLiteral("Tourney"));
+        QCOMPARE(server.gameName, QStringLiteral("q4max"));
+        QCOMPARE(server.passwordMark, QString());
+        QCOMPARE(server.protocol, protocol);
+        QCOMPARE(server.tokens.mid(0, 4), (QStringList{"protocol", protocol, "fs_game", "q4max"}));
+        QCOMPARE(server.tokens.size(), 2 + 2 * 18);
+        QCOMPARE(server.playerCount, 3);
+        QCOMPARE(server.players,
+                 (QList<PlayerRecord>{{QStringLiteral("[UFO]"), QStringLiteral("^4Rail^7Gun"), 0, 25000, 48},
+                                      {QString(), QStringLiteral("Grim"), 3, 16000, 112},
+                                      {QStringLiteral("=LoL="), QStringLiteral("^1Bot"), 5, 0, 0}}));
+        QCOMPARE(server.zeroPingCount, 1);
+    }
+
+    void versionTextIsMajorDotMinor()
+    {
+        QCOMPARE(versionText(0x0002003E), QStringLiteral("2.62"));
+        QCOMPARE(versionText(0x00020055), QStringLiteral("2.85"));
+        QCOMPARE(versionText(0x00020005), QStringLiteral("2.5"));
+    }
+
+    void whatIsNotAnInfoResponseOfTheGameIsDropped_data()
+    {
+        QTest::addColumn<QByteArray>("datagram");
+        const QByteArray full = fixture("info-2.85.bin");
+        QTest::newRow("empty") << QByteArray();
+        QTest::newRow("the request itself") << getInfoRequest();
+        QTest::newRow("header cut short") << full.left(HeaderLength - 1);
+        QTest::newRow("another command") << QByteArray("\xFF\xFFinfoRequest\0", 15).append(full.mid(15));
+        QTest::newRow("no connectionless mark") << full.mid(2);
+        QByteArray doom = full;
+        doom[21] = '\x01'; // protocol 1.85: another game of the engine
+        QTest::newRow("another game") << doom;
+        QByteArray future = full;
+        future[21] = '\x03';
+        QTest::newRow("protocol 3") << future;
+    }
+    void whatIsNotAnInfoResponseOfTheGameIsDropped()
+    {
+        QFETCH(QByteArray, datagram);
+        QVERIFY(!parseReply(datagram));
+        QVERIFY(!readHeader(datagram));
+    }
+
+    void aBareHeaderIsAServerWithNothingToSay()
+    {
+        const ServerRecord server = parsed(header(0x00020055));
         QCOMPARE(server.name, QStringLiteral("noname"));
+        QCOMPARE(server.tokens, (QStringList{"protocol", "2.85"}));
+        QCOMPARE(server.playerCount, 0);
     }
 
     void theFirstTokenIsNeverEmpty()
     {
-        const ServerRecord server = parseReply(reply(StandardPairs));
-        QCOMPARE(server.tokens.first(), QStringLiteral("si_name"));
+        const ServerRecord server = parsed(reply(StandardPairs));
+        QCOMPARE(server.tokens.at(2), QStringLiteral("si_name"));
         QCOMPARE(server.tokens.size() % 2, 0);
     }
 
@@ -181,7 +272,7 @@ private slots:
         QCOMPARE(sections.keyValues, QByteArray("k\0v", 3));
         QCOMPARE(sections.players, QByteArray("PLAYERS"));
         // No run of three zeros: the whole rest is key/value section.
-        const Sections open = splitSections(replyHeader() + QByteArray("\0k\0v", 4));
+        const Sections open = splitSections(header() + QByteArray("k\0v", 3));
         QCOMPARE(open.keyValues, QByteArray("k\0v", 3));
         QVERIFY(open.players.isEmpty());
     }
@@ -191,7 +282,7 @@ private slots:
         QTest::addColumn<QByteArray>("datagram");
         const QByteArray full = reply(StandardPairs, player(1, 50, 1000, "name", "clan"));
         QTest::newRow("empty") << QByteArray();
-        QTest::newRow("header only") << replyHeader();
+        QTest::newRow("header only") << header();
         for (int cut : {23, 40, 100, int(full.size()) - 20, int(full.size()) - 4, int(full.size()) - 1})
             QTest::newRow(qPrintable(QStringLiteral("cut at %1").arg(cut))) << full.left(cut);
         QByteArray noise;
@@ -204,7 +295,7 @@ private slots:
     void truncatedAndGarbageRepliesNeverFail()
     {
         QFETCH(QByteArray, datagram);
-        const ServerRecord server = parseReply(datagram);
+        const ServerRecord server = parseReply(datagram).value_or(ServerRecord());
         QVERIFY(server.players.size() <= std::max(0, server.maxPlayers + 1));
         QVERIFY(server.playerCount >= server.players.size());
     }

@@ -79,7 +79,7 @@ private slots:
         QCOMPARE(scheduler.busySockets(), 0);
         for (const ServerRecord& record : answers(answered)) {
             const auto& server = fleet.servers().at(record.port - 42000);
-            const ServerRecord expected = InfoProtocol::parseReply(server.reply);
+            const ServerRecord expected = InfoProtocol::parseReply(server.reply).value();
             QCOMPARE(record.address, QStringLiteral("127.0.0.1"));
             QCOMPARE(record.name, expected.name);
             QCOMPARE(record.players, expected.players);

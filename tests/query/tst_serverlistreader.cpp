@@ -118,9 +118,10 @@ private slots:
         QCOMPARE(list.refused, QStringList{QStringLiteral("bad:port")});
         QCOMPARE(masterListText(list.masters), QStringLiteral("a.example, b.example:27777, ::1, 127.0.0.1"));
         QCOMPARE(parseMasterList(masterListText(list.masters)).masters, list.masters);
-        // Nothing at all is the game maker's master, as one empty entry always was.
+        // Nothing at all is the game maker's master and the community one.
         QCOMPARE(parseMasterList(u" , ").masters,
-                 QList<MasterAddress>{(MasterAddress{MasterAddress::DefaultHost, MasterAddress::DefaultPort})});
+                 (QList<MasterAddress>{{QStringLiteral("q4master.idsoftware.com"), 27650},
+                                       {QStringLiteral("master.quakehub.net"), 27650}}));
         QCOMPARE(masterAddressText(MasterAddress{QStringLiteral("::1"), 27000}), QStringLiteral("[::1]:27000"));
     }
 };

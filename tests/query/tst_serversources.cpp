@@ -67,8 +67,11 @@ private slots:
         qRegisterMetaType<QList<SourceReport>>();
     }
 
-    void mergingKeepsOrderAndAsksEachServerOnce()
+    void mergingAsksEachServerOnce()
     {
+        AddressTable known;
+        known.add(QStringLiteral("3.3.3.3"), 3);
+        known.add(QStringLiteral("4.4.4.4"), 4);
         AddressTable first;
         first.add(QStringLiteral("1.1.1.1"), 1);
         first.add(QStringLiteral("2.2.2.2"), 2);
@@ -76,15 +79,20 @@ private slots:
         AddressTable second;
         second.add(QStringLiteral("2.2.2.2"), 2);
         second.add(QStringLiteral("3.3.3.3"), 3);
-        second.add(QStringLiteral("3.3.3.3"), 3);
-        AddressTable known;
-        known.add(QStringLiteral("3.3.3.3"), 3);
-        known.add(QStringLiteral("4.4.4.4"), 4);
-        int knownAdded = -1;
-        const AddressTable merged = mergeSources({first, second}, known, &knownAdded);
-        QCOMPARE(endpoints(merged),
-                 (QStringList{"1.1.1.1:1", "2.2.2.2:2", "1.1.1.1:1", "3.3.3.3:3", "3.3.3.3:3", "4.4.4.4:4"}));
-        QCOMPARE(knownAdded, 1);
+        second.add(QStringLiteral("5.5.5.5"), 5);
+        second.add(QStringLiteral("5.5.5.5"), 5);
+        AddressTable late;
+        late.add(QStringLiteral("1.1.1.1"), 1);
+        late.add(QStringLiteral("5.5.5.5"), 5);
+        late.add(QStringLiteral("6.6.6.6"), 6);
+        SourceMerger merger;
+        QCOMPARE(endpoints(merger.take(2, known)), (QStringList{"3.3.3.3:3", "4.4.4.4:4"}));
+        QCOMPARE(endpoints(merger.take(0, first)), (QStringList{"1.1.1.1:1", "2.2.2.2:2", "1.1.1.1:1"}));
+        QCOMPARE(endpoints(merger.take(1, second)), (QStringList{"5.5.5.5:5", "5.5.5.5:5"}));
+        // The rest of the first master's list, split into a later datagram.
+        QCOMPARE(endpoints(merger.take(0, late)), (QStringList{"1.1.1.1:1", "6.6.6.6:6"}));
+        merger.clear();
+        QCOMPARE(merger.take(1, second).count(), 4);
     }
 
     void aSilentMasterDoesNotStopTheOthers()
@@ -135,11 +143,103 @@ private slots:
         QVERIFY(!session.startSources(plan));
         QTRY_COMPARE_WITH_TIMEOUT(finished.count(), 1, 8000);
         const QStringList expected = fleetEndpoints(a) + fleetEndpoints(b, 0, 1) + fleetEndpoints(b);
-        QCOMPARE(endpoints(session.addresses()), expected);
+        // Whichever master answers first gives the shared servers.
+        QStringList asked = endpoints(session.addresses());
+        asked.sort();
+        QStringList wanted = expected;
+        wanted.sort();
+        QCOMPARE(asked, wanted);
         QCOMPARE(answers.endpoints.size(), 11);
         for (const QString& endpoint : fleetEndpoints(a))
             QCOMPARE(answers.endpoints.count(endpoint), 1);
         QCOMPARE(a.infoRequests(), 5);
+    }
+
+    // The default sources of today: a master that no longer answers beside
+    // a published list, and the servers known from before.
+    void liveServersAreAskedBeforeASilentMasterGivesUp()
+    {
+        SimFleet fleet(fleetOf(32, 26800));
+        QVERIFY(!fleet.start());
+        fleet.setMasterSilent(true);
+        const QStringList all = fleetEndpoints(fleet);
+        HttpResponder web;
+        constexpr int ListDelayMs = 300;
+        // The list names every server but the two known ones, and one of
+        // those again.
+        web.set(QStringLiteral("/q4"), {200, lines(all.mid(1)), "text/plain", ListDelayMs});
+        QuerySession session;
+        session.setPool({5, PoolPort + 700});
+        QElapsedTimer clock;
+        qint64 listedAt = -1;
+        qint64 lastAnswerAt = -1;
+        QStringList answered;
+        connect(&session, &QuerySession::addressesAdded, this, [&] { listedAt = clock.elapsed(); });
+        connect(&session, &QuerySession::serverAnswered, this, [&](const ServerRecord& server) {
+            answered.append(server.endpointText());
+            lastAnswerAt = clock.elapsed();
+        });
+        QSignalSpy finished(&session, &QuerySession::finished);
+        SourcePlan plan;
+        plan.masters = {masterAt(26800)};
+        plan.listUrls = {web.url(QStringLiteral("/q4"))};
+        plan.known.add(QStringLiteral("127.0.0.1"), fleet.servers().at(0).port);
+        plan.known.add(QStringLiteral("127.0.0.1"), fleet.servers().at(1).port);
+        clock.start();
+        QVERIFY(!session.startSources(plan));
+        // The known servers are asked before any source answered.
+        QCOMPARE(session.phase(), QuerySession::Phase::Querying);
+        QCOMPARE(session.addresses().count(), 2);
+        QTRY_COMPARE_WITH_TIMEOUT(answered.size(), 32, MasterQuery::TimeoutMs);
+        QVERIFY2(listedAt >= ListDelayMs && lastAnswerAt - listedAt < 250,
+                 qPrintable(QStringLiteral("list at %1 ms, last answer at %2 ms").arg(listedAt).arg(lastAnswerAt)));
+        // Still waiting for the master, which costs only its own time-out.
+        QCOMPARE(finished.count(), 0);
+        QVERIFY(session.isRunning());
+        QVERIFY(!session.sourceReports().first().settled);
+        QTRY_COMPARE_WITH_TIMEOUT(finished.count(), 1, MasterQuery::TimeoutMs);
+        QVERIFY(clock.elapsed() >= MasterQuery::TimeoutMs);
+        answered.sort();
+        QStringList expected = all;
+        expected.sort();
+        QCOMPARE(answered, expected);
+        QCOMPARE(fleet.infoRequests(), 32);
+        const auto& reports = session.sourceReports();
+        QVERIFY(reports.at(0).timedOut);
+        QCOMPARE(reports.at(1).addresses, 31);
+        QCOMPARE(reports.at(2).kind, SourceReport::Kind::Known);
+        QCOMPARE(reports.at(2).addresses, 2);
+    }
+
+    // The community master sends 198 records a datagram, no count and no
+    // end mark: by the length rule its first datagram is already the last.
+    void aMasterThatSplitsItsListIsListedInFull()
+    {
+        FleetOptions options = fleetOf(600, 27000);
+        options.masterSplit = 198;
+        SimFleet fleet(options);
+        QVERIFY(!fleet.start());
+        QuerySession session;
+        session.setPool({19, PoolPort + 800});
+        Answers answers(session);
+        QSignalSpy finished(&session, &QuerySession::finished);
+        QSignalSpy phases(&session, &QuerySession::phaseChanged);
+        QElapsedTimer clock;
+        clock.start();
+        QVERIFY(!session.startMaster(masterAt(27000)));
+        QTRY_COMPARE_WITH_TIMEOUT(finished.count(), 1, 8000);
+        QCOMPARE(answers.endpoints.size(), 600);
+        QCOMPARE(endpoints(session.addresses()), fleetEndpoints(fleet));
+        QCOMPARE(session.sourceReports().first().addresses, 600);
+        QCOMPARE(fleet.infoRequests(), 600);
+        // Listening for the rest did not hold the end up.
+        QVERIFY2(clock.elapsed() < MasterQuery::TimeoutMs, qPrintable(QString::number(clock.elapsed())));
+        QList<QuerySession::Phase> seen;
+        for (const auto& arguments : phases)
+            seen.append(arguments.at(0).value<QuerySession::Phase>());
+        QCOMPARE(seen, (QList<QuerySession::Phase>{QuerySession::Phase::Requesting, QuerySession::Phase::Receiving,
+                                                   QuerySession::Phase::Sorting, QuerySession::Phase::Querying,
+                                                   QuerySession::Phase::Idle}));
     }
 
     void everySourceFailingIsTheMasterTimeOut()
@@ -229,7 +329,7 @@ private slots:
         QVERIFY(!sources.start(plan, PoolPort + 400));
         QTRY_COMPARE_WITH_TIMEOUT(finished.count(), 1, ServerListFetch::TimeoutMs + 2000);
         const qint64 elapsed = clock.elapsed();
-        const auto reports = finished.first().at(1).value<QList<SourceReport>>();
+        const auto reports = sources.reports();
         QVERIFY2(elapsed >= ServerListFetch::TimeoutMs - 50,
                  qPrintable(QStringLiteral("after %1 ms: %2").arg(elapsed).arg(reports.first().error)));
         QVERIFY(elapsed < ServerListFetch::TimeoutMs + 1000);
@@ -245,6 +345,7 @@ private slots:
         HttpResponder web;
         web.set(QStringLiteral("/huge"), {200, body, "text/plain", 0});
         ServerSources sources;
+        QSignalSpy listed(&sources, &ServerSources::listed);
         QSignalSpy finished(&sources, &ServerSources::finished);
         // The event loop keeps turning while the list comes in.
         QElapsedTimer clock;
@@ -258,8 +359,9 @@ private slots:
         clock.start();
         ticker.start();
         QTRY_COMPARE_WITH_TIMEOUT(finished.count(), 1, 5000);
-        const auto table = finished.first().at(0).value<AddressTable>();
-        const auto reports = finished.first().at(1).value<QList<SourceReport>>();
+        QCOMPARE(listed.count(), 1);
+        const auto table = listed.first().at(0).value<AddressTable>();
+        const auto reports = sources.reports();
         QCOMPARE(table.count(), ServerListReader::MaxAddresses);
         QVERIFY(reports.first().truncated);
         QVERIFY2(longestGap < 500, qPrintable(QStringLiteral("the loop stood still %1 ms").arg(longestGap)));
@@ -272,13 +374,14 @@ private slots:
         HttpResponder proxy;
         proxy.set(QStringLiteral("http://lists.invalid/q4"), {200, "127.0.0.1:28004\n", "text/plain", 0});
         ServerSources sources;
+        QSignalSpy listed(&sources, &ServerSources::listed);
         QSignalSpy finished(&sources, &ServerSources::finished);
         SourcePlan plan;
         plan.listUrls = {QUrl(QStringLiteral("http://lists.invalid/q4"))};
         plan.proxy = httpProxy(true, QStringLiteral("127.0.0.1:%1").arg(proxy.url({}).port()));
         QVERIFY(!sources.start(plan, PoolPort + 400));
         QTRY_COMPARE_WITH_TIMEOUT(finished.count(), 1, 5000);
-        QCOMPARE(endpoints(finished.first().at(0).value<AddressTable>()), QStringList{"127.0.0.1:28004"});
+        QCOMPARE(endpoints(listed.first().at(0).value<AddressTable>()), QStringList{"127.0.0.1:28004"});
         QVERIFY(proxy.lastRequest().startsWith("GET http://lists.invalid/q4 "));
 
         QCOMPARE(httpProxy(false, QStringLiteral("proxy:3128")).type(), QNetworkProxy::NoProxy);

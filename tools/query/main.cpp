@@ -179,7 +179,11 @@ int main(int argc, char* argv[])
     int exitCode = Finished;
     // Each answer is written as it comes and then forgotten.
     QueryReport::Writer writer(format == QLatin1String("json") ? QueryReport::Format::Json : QueryReport::Format::Text);
-    const auto write = [](const QByteArray& bytes) { std::fwrite(bytes.constData(), 1, size_t(bytes.size()), stdout); };
+    // Flushed at once: a script reading a pipe sees each server as it answers.
+    const auto write = [](const QByteArray& bytes) {
+        std::fwrite(bytes.constData(), 1, size_t(bytes.size()), stdout);
+        std::fflush(stdout);
+    };
     QObject::connect(&session, &QuerySession::serverAnswered, &app,
                      [&writer, &write](const ServerRecord& server) { write(writer.server(server)); });
     const auto report = [&] {

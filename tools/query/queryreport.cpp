@@ -40,6 +40,7 @@ QJsonObject serverObject(const ServerRecord& record)
                        {QStringLiteral("password"), record.passwordMark},
                        {QStringLiteral("gametype"), record.gameType},
                        {QStringLiteral("gamename"), record.gameName},
+                       {QStringLiteral("protocol"), record.protocol},
                        {QStringLiteral("zero_ping_players"), record.zeroPingCount},
                        {QStringLiteral("rules"), rules(record.tokens)},
                        {QStringLiteral("player_list"), players}};

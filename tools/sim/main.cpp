@@ -52,6 +52,17 @@ int main(int argc, char* argv[])
         {QStringLiteral("churn"),
          QStringLiteral("Every this many seconds players join and leave on a fifth of the servers (0: never)."),
          QStringLiteral("SECONDS"), QStringLiteral("0")},
+        {QStringLiteral("protocol"),
+         QStringLiteral("Protocol version the servers answer with: 2.85 (1.4.2, what live servers run), 2.62 (1.0), "
+                        "or any MAJOR.MINOR."),
+         QStringLiteral("VERSION"), QStringLiteral("2.85")},
+        {QStringLiteral("short-trailer"),
+         QStringLiteral("End the player list with three bytes, as the first release is documented, instead of the "
+                        "retail client number 32 and operating-system mask.")},
+        {QStringLiteral("master-split"),
+         QStringLiteral("The master sends its list in datagrams of N records, as the community master does (198); "
+                        "0: the id master's 231 records and a shorter last datagram."),
+         QStringLiteral("N"), QStringLiteral("0")},
         {QStringLiteral("lifetime"), QStringLiteral("Stop after this many seconds (0: run until stopped)."),
          QStringLiteral("SECONDS"), QStringLiteral("0")},
     });
@@ -76,8 +87,17 @@ int main(int argc, char* argv[])
     const double churn = parser.value(QStringLiteral("churn")).toDouble(&churnOk);
     ok = ok && churnOk;
     options.churnMs = int(churn * 1000);
+    const QStringList protocol = parser.value(QStringLiteral("protocol")).split(QLatin1Char('.'));
+    bool majorOk = false;
+    bool minorOk = false;
+    const uint major = protocol.value(0).toUInt(&majorOk);
+    const uint minor = protocol.value(1).toUInt(&minorOk);
+    ok = ok && protocol.size() == 2 && majorOk && minorOk && major <= 0xFFFF && minor <= 0xFFFF;
+    options.reply.protocol = quint32(major << 16 | minor);
+    options.reply.documentedTrailer = parser.isSet(QStringLiteral("short-trailer"));
+    options.masterSplit = number(parser, QStringLiteral("master-split"), &ok);
     if (!ok || options.servers < 0 || options.delayMs < 0 || options.jitterMs < 0 || options.playersPerServer < 0 ||
-        lifetime < 0 || churn < 0 || options.firstServerPort + options.servers > 65536) {
+        lifetime < 0 || churn < 0 || options.masterSplit < 0 || options.firstServerPort + options.servers > 65536) {
         std::fprintf(stderr, "q4vantage-sim: invalid option value (see --help)\n");
         return 2;
     }

@@ -89,14 +89,15 @@ void SimFleet::generate()
                                                      quint32(bot ? 0 : 25000), playerName(random),
                                                      pick(Clans, random)});
         }
-        server.reply = SimReplies::infoResponse(server.rules, server.players);
+        server.reply = SimReplies::infoResponse(server.rules, server.players, m_options.reply);
         m_servers.append(server);
     }
     QList<QPair<quint32, quint16>> listed;
     listed.reserve(m_servers.size());
     for (const Server& server : std::as_const(m_servers))
         listed.append({m_options.address.toIPv4Address(), server.port});
-    m_masterDatagrams = SimReplies::serverList(listed);
+    m_masterDatagrams = m_options.masterSplit > 0 ? SimReplies::splitServerList(listed, m_options.masterSplit)
+                                                  : SimReplies::serverList(listed);
 }
 
 void SimFleet::setServer(int index, const SimReplies::Rules& rules, const QList<SimReplies::Player>& players)
@@ -104,7 +105,7 @@ void SimFleet::setServer(int index, const SimReplies::Rules& rules, const QList<
     Server& server = m_servers[index];
     server.rules = rules;
     server.players = players;
-    server.reply = SimReplies::infoResponse(rules, players);
+    server.reply = SimReplies::infoResponse(rules, players, m_options.reply);
 }
 
 int SimFleet::answeringServers() const
@@ -170,7 +171,7 @@ void SimFleet::churn()
         }
         for (int p = 0; p < server.players.size(); ++p)
             server.players[p].number = quint8(p);
-        server.reply = SimReplies::infoResponse(server.rules, server.players);
+        server.reply = SimReplies::infoResponse(server.rules, server.players, m_options.reply);
     }
 }
 

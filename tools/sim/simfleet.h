@@ -24,6 +24,8 @@ struct FleetOptions {
     quint32 seed = 1;            // same seed, same names, maps and players
     int churnMs = 0;             // every this often players come and go (0: never)
     double churnShare = 0.2;     // share of servers that change each time
+    SimReplies::Format reply;    // protocol version and trailer (1.4.2 by default)
+    int masterSplit = 0;         // records per master datagram, community style (0: the id master's)
 };
 
 // A master server and a fleet of game servers, each on its own UDP port,
