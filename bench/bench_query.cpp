@@ -9,6 +9,8 @@
 //   q4vantage-bench windowping  the same with every answer 50 ms late: the
 //                             error of the pings the window lists
 //   q4vantage-bench parse     infoResponse parsing throughput
+//   q4vantage-bench sources   a silent master beside a published list and 30
+//                             live servers: when the window lists them
 //   q4vantage-bench filter    re-filtering 10,000 servers and 150,000 players,
 //                             with 50 friends marked, and a refresh of every
 //                             server applied in place
@@ -481,6 +483,8 @@ int parse()
 
 } // namespace
 
+int sources(); // bench_sources.cpp
+
 int main(int argc, char* argv[])
 {
     qputenv("QT_QPA_PLATFORM", qgetenv("QT_QPA_PLATFORM").isEmpty() ? "offscreen" : qgetenv("QT_QPA_PLATFORM"));
@@ -499,6 +503,8 @@ int main(int argc, char* argv[])
         return parse();
     if (which == QLatin1String("filter"))
         return filter();
-    std::fprintf(stderr, "usage: q4vantage-bench pool|cost|window|windowping|parse|filter\n");
+    if (which == QLatin1String("sources"))
+        return sources();
+    std::fprintf(stderr, "usage: q4vantage-bench pool|cost|window|windowping|parse|filter|sources\n");
     return 2;
 }

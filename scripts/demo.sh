@@ -17,8 +17,10 @@ trap cleanup EXIT
 mkdir -p "$demo_home/Quake 4 Vantage"
 printf '[Settings]\nMasterServer=127.0.0.1:27950\nServerListUrls=\nAutoUpdate=0\n' >"$demo_home/Quake 4 Vantage/Quake 4 Vantage.ini"
 
+# Servers answer as patch 1.4.2 does, and the master splits its list as the
+# community master does.
 build/bin/q4vantage-sim --servers 300 --master-port 27950 --first-port 28000 \
-    --silent 0.1 --delay 20 --jitter 60 --players 12 --churn 5 &
+    --silent 0.1 --delay 20 --jitter 60 --players 12 --churn 5 --master-split 198 &
 sim_pid=$!
 
 echo "Click \"Query Masters\" to query the simulated servers."

@@ -978,6 +978,14 @@ Auf einen freien Platz warten und beitreten, sobald einer frei wird?</translatio
         <source>No servers played yet: the servers you join are kept in &quot;Recently Played&quot;.</source>
         <translation>Noch keine Server gespielt: Die Server, denen Sie beitreten, stehen unter „Zuletzt gespielt“.</translation>
     </message>
+    <message>
+        <source>Waiting for %1</source>
+        <translation>Warte auf %1</translation>
+    </message>
+    <message>
+        <source>%1: no answer yet</source>
+        <translation>%1: noch keine Antwort</translation>
+    </message>
 </context>
 <context>
     <name>QueryError</name>

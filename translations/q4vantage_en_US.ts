@@ -972,6 +972,14 @@ Wait for a free slot and join as soon as one opens?</source>
         <source>No servers played yet: the servers you join are kept in &quot;Recently Played&quot;.</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>Waiting for %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1: no answer yet</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>QueryError</name>

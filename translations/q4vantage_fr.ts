@@ -978,6 +978,14 @@ Attendre une place libre et rejoindre dès qu&apos;une place se libère ?</trans
         <source>No servers played yet: the servers you join are kept in &quot;Recently Played&quot;.</source>
         <translation>Aucun serveur joué pour l&apos;instant : les serveurs que vous rejoignez sont gardés dans « Joués récemment ».</translation>
     </message>
+    <message>
+        <source>Waiting for %1</source>
+        <translation>En attente de %1</translation>
+    </message>
+    <message>
+        <source>%1: no answer yet</source>
+        <translation>%1 : pas encore de réponse</translation>
+    </message>
 </context>
 <context>
     <name>QueryError</name>

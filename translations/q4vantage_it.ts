@@ -978,6 +978,14 @@ Attendere un posto libero ed entrare appena se ne libera uno?</translation>
         <source>No servers played yet: the servers you join are kept in &quot;Recently Played&quot;.</source>
         <translation>Nessun server giocato finora: i server a cui ti unisci restano in «Giocati di recente».</translation>
     </message>
+    <message>
+        <source>Waiting for %1</source>
+        <translation>In attesa di %1</translation>
+    </message>
+    <message>
+        <source>%1: no answer yet</source>
+        <translation>%1: nessuna risposta finora</translation>
+    </message>
 </context>
 <context>
     <name>QueryError</name>

@@ -978,6 +978,14 @@ Wachten op een vrije plek en deelnemen zodra er een vrijkomt?</translation>
         <source>No servers played yet: the servers you join are kept in &quot;Recently Played&quot;.</source>
         <translation>Nog geen servers gespeeld: de servers waaraan u deelneemt, staan onder &apos;Recent gespeeld&apos;.</translation>
     </message>
+    <message>
+        <source>Waiting for %1</source>
+        <translation>Wachten op %1</translation>
+    </message>
+    <message>
+        <source>%1: no answer yet</source>
+        <translation>%1: nog geen antwoord</translation>
+    </message>
 </context>
 <context>
     <name>QueryError</name>

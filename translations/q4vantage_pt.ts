@@ -978,6 +978,14 @@ Esperar por uma vaga e entrar assim que uma abrir?</translation>
         <source>No servers played yet: the servers you join are kept in &quot;Recently Played&quot;.</source>
         <translation>Ainda não jogou em nenhum servidor: os servidores em que entra ficam em «Jogados recentemente».</translation>
     </message>
+    <message>
+        <source>Waiting for %1</source>
+        <translation>À espera de %1</translation>
+    </message>
+    <message>
+        <source>%1: no answer yet</source>
+        <translation>%1: ainda sem resposta</translation>
+    </message>
 </context>
 <context>
     <name>QueryError</name>

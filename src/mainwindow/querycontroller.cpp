@@ -289,7 +289,7 @@ void QueryController::showQuerying()
     // The second line names the sources still awaited, then those that
     // gave nothing; the tooltip says what each one gave.
     const QString text = tr("Querying %1 Servers...").arg(m_session.addresses().count());
-    const QString more = !m_awaitedSources.isEmpty() ? tr("Waiting for %1").arg(m_awaitedSources)
+    const QString more = !m_awaitedSources.isEmpty()  ? tr("Waiting for %1").arg(m_awaitedSources)
                          : !m_failedSources.isEmpty() ? tr("No list from %1").arg(m_failedSources)
                                                       : QString();
     emit status(more.isEmpty() ? text : text + QLatin1Char('\n') + more, StatusTone::Querying);
@@ -347,8 +347,7 @@ void QueryController::reportSources()
     QStringList awaited;
     for (const SourceReport& report : m_session.sourceReports()) {
         // The status line names a list by its host; the tooltip in full.
-        const QString shortName =
-            report.kind == SourceReport::Kind::List ? QUrl(report.name).host() : report.name;
+        const QString shortName = report.kind == SourceReport::Kind::List ? QUrl(report.name).host() : report.name;
         if (!report.settled) {
             awaited.append(shortName);
             lines.append(tr("%1: no answer yet").arg(report.name));

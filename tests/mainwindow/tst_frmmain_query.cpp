@@ -5,6 +5,7 @@
 #include "frmfilters.h"
 #include "historycombobox.h"
 #include "infoprotocol.h"
+#include "knownservers.h"
 #include "multicolorlabel.h"
 #include "playerlistmodel.h"
 #include "querycontroller.h"
@@ -102,20 +103,26 @@ private slots:
         QCOMPARE(w.find<QLabel>("lblServers")->text(), QStringLiteral("%1 servers found").arg(answering));
         QCOMPARE(w.find<QLabel>("lblPlayers")->text(), QStringLiteral("%1 players found").arg(players));
 
-        // Cells show the records as the lists show them.
+        // Cells show what the servers (retail 1.4.2, protocol 2.85) sent.
         for (int row = 0; row < answering; ++row) {
             const QString address = w.cell("lstServerList", row, ServerListModel::Address);
             const int port = address.section(QLatin1Char(':'), 1).toInt();
             const auto& sent = fleet.servers().at(port - options.firstServerPort);
-            const ServerRecord expected = InfoProtocol::parseReply(sent.reply).value();
+            const auto rule = [&sent](const char* key) {
+                for (const auto& [name, value] : sent.rules)
+                    if (name == key)
+                        return QString::fromLatin1(value);
+                return QString();
+            };
             QVERIFY(!sent.silent);
             QCOMPARE(w.cell("lstServerList", row, ServerListModel::Name),
-                     ColourCodes::StripColourCodesCounted(expected.name));
-            QCOMPARE(w.cell("lstServerList", row, ServerListModel::Map), expected.map);
+                     ColourCodes::StripColourCodesCounted(rule("si_name")));
+            QCOMPARE(w.cell("lstServerList", row, ServerListModel::Map), rule("si_map"));
             QCOMPARE(w.cell("lstServerList", row, ServerListModel::Players),
-                     QStringLiteral("%1/%2").arg(expected.playerCount).arg(expected.maxPlayers));
-            QCOMPARE(w.cell("lstServerList", row, ServerListModel::Password), expected.passwordMark);
-            QCOMPARE(w.cell("lstServerList", row, ServerListModel::GameName), expected.gameName);
+                     QStringLiteral("%1/%2").arg(sent.players.size()).arg(rule("si_maxplayers")));
+            QCOMPARE(w.cell("lstServerList", row, ServerListModel::Password),
+                     rule("si_usepass") == QLatin1String("1") ? QStringLiteral("*") : QString());
+            QCOMPARE(w.cell("lstServerList", row, ServerListModel::GameName), rule("gamename"));
         }
         const PlayerListModel& hidden = w.window->lists().players();
         for (int row = 0; row < hidden.rowCount(); ++row) {
@@ -331,6 +338,38 @@ private slots:
         QVERIFY(w.queryMasters());
         QCOMPARE(w.visible("lstServerList")->rowCount(), busy);
         QCOMPARE(w.window->lists().servers().rowCount(), 40);
+    }
+
+    void theProtocolVersionIsARuleToShowAndFilter()
+    {
+        FleetOptions options = fleetOf(6, 24800);
+        SimFleet retail(options);
+        QVERIFY(!retail.start());
+        // Two servers of the first release beside them, known from before.
+        FleetOptions first = fleetOf(2, 24850);
+        first.reply.protocol = SimReplies::Protocol1_0;
+        first.reply.documentedTrailer = true;
+        SimFleet old(first);
+        QVERIFY(!old.start());
+        TestWindow w(24800, StartPort);
+        QVERIFY(KnownServers::writeFile(w.dataFile(QStringLiteral("servers.dat")),
+                                        {KnownServers::Server{QStringLiteral("127.0.0.1"), 24851, {}, 1, 0},
+                                         KnownServers::Server{QStringLiteral("127.0.0.1"), 24852, {}, 1, 0}}));
+        QVERIFY(w.queryMasters());
+        QCOMPARE(w.visible("lstServerList")->rowCount(), 8);
+
+        auto* list = w.find<ReportView>("lstServerList");
+        QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, list->visualRect(list->model()->index(0, 0)).center());
+        auto* rules = w.find<ReportView>("lvwServerInfo")->model();
+        QCOMPARE(rules->index(0, 0).data().toString(), QStringLiteral("protocol"));
+        const QString version = rules->index(0, 1).data().toString();
+        QVERIFY2(version == QLatin1String("2.85") || version == QLatin1String("2.62"), qPrintable(version));
+
+        QTest::mouseClick(w.button("cmdFilters"), Qt::LeftButton);
+        addFilter(w, QStringLiteral("protocol"), QStringLiteral("2.85"));
+        QCOMPARE(w.visible("lstServerList")->rowCount(), 6);
+        for (int row = 0; row < 6; ++row)
+            QVERIFY(w.cell("lstServerList", row, ServerListModel::Address) != QLatin1String("127.0.0.1:24851"));
     }
 
     void columnClicksFlipSortAndPersist()

@@ -154,6 +154,46 @@ private slots:
         QVERIFY(text.out.contains("known known servers: 2 addresses, 0 skipped\n"));
     }
 
+    // A script reading the tool through a pipe sees each server the moment
+    // it answers, long before a silent master lets the query end.
+    void eachServerIsWrittenAsItAnswers()
+    {
+        FleetOptions options;
+        options.servers = 3;
+        options.masterPort = 29300;
+        options.firstServerPort = 29301;
+        SimFleet fleet(options);
+        QVERIFY(!fleet.start());
+        fleet.setMasterSilent(true);
+        const QString known = m_home.filePath(QStringLiteral("streamed.dat"));
+        QVERIFY(KnownServers::writeFile(known, {KnownServers::Server{QStringLiteral("127.0.0.1"), 29301, {}, 1, 0}}));
+        for (const QString& format : {QStringLiteral("text"), QStringLiteral("json")}) {
+            QProcess process;
+            QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+            environment.insert(QStringLiteral("XDG_CONFIG_HOME"), m_home.path());
+            process.setProcessEnvironment(environment);
+            QElapsedTimer clock;
+            qint64 firstOutput = -1;
+            connect(&process, &QProcess::readyReadStandardOutput, this, [&] {
+                if (firstOutput < 0)
+                    firstOutput = clock.elapsed();
+            });
+            QSignalSpy finished(&process, &QProcess::finished);
+            clock.start();
+            process.start(QStringLiteral(QUERY_TOOL), {QStringLiteral("--master"), QStringLiteral("127.0.0.1:29300"),
+                                                       QStringLiteral("--known"), known, QStringLiteral("--start-port"),
+                                                       QString::number(StartPort), QStringLiteral("--format"), format});
+            QVERIFY(finished.wait(15000));
+            const qint64 ended = clock.elapsed();
+            QCOMPARE(process.exitCode(), 0);
+            QVERIFY2(firstOutput >= 0 && ended - firstOutput > 1000,
+                     qPrintable(QStringLiteral("%1: first output at %2 ms, exit at %3 ms")
+                                    .arg(format)
+                                    .arg(firstOutput)
+                                    .arg(ended)));
+        }
+    }
+
     void theLanIsSearched()
     {
         FleetOptions options;

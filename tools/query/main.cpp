@@ -57,8 +57,7 @@ int main(int argc, char* argv[])
                                            QStringLiteral("Published server list, http or https (repeatable)."),
                                            QStringLiteral("URL"));
     const QCommandLineOption knownOption(QStringLiteral("known"),
-                                         QStringLiteral("Also query the servers of this servers.dat that no other "
-                                                        "source lists."),
+                                         QStringLiteral("Also query the servers of this servers.dat, at once."),
                                          QStringLiteral("FILE"));
     const QCommandLineOption lanOption(QStringLiteral("lan"),
                                        QStringLiteral("Search the local network by broadcast instead."));
