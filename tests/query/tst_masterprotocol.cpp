@@ -113,6 +113,16 @@ private slots:
         QCOMPARE(table.at(4).port, 32767);
     }
 
+    // A list split over datagrams read one by one keeps carrying the port.
+    void theCarriedPortCrossesDatagrams()
+    {
+        AddressTable table;
+        const int carried = appendAddresses(cutRecords(replyHeader() + record(1, 1, 1, 1, 27960)).value(), table);
+        QCOMPARE(carried, 27960);
+        QCOMPARE(appendAddresses(cutRecords(replyHeader() + record(2, 2, 2, 2, 40000)).value(), table, carried), 27960);
+        QCOMPARE(table.at(1).port, 27960);
+    }
+
     void duplicatesAreKept()
     {
         const AddressTable table = tableOf(record(1, 2, 3, 4, 28004) + record(1, 2, 3, 4, 28004));
