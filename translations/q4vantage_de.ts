@@ -73,6 +73,14 @@
         <source>%1 of %2 bytes arrived.</source>
         <translation>%1 von %2 Bytes sind angekommen.</translation>
     </message>
+    <message>
+        <source>The installer is larger than %1 MB.</source>
+        <translation>Das Installationsprogramm ist größer als %1 MB.</translation>
+    </message>
+    <message>
+        <source>The site sent more than the %1 bytes it announced.</source>
+        <translation>Die Seite sandte mehr als die angekündigten %1 Bytes.</translation>
+    </message>
 </context>
 <context>
     <name>EditableListDialog</name>
@@ -270,6 +278,16 @@
     <message>
         <source>Cancel</source>
         <translation>Abbrechen</translation>
+    </message>
+    <message numerus="yes">
+        <source>Downloading v%1
+%n bytes</source>
+        <translation>
+            <numerusform>Lade v%1 herunter
+%n Byte</numerusform>
+            <numerusform>Lade v%1 herunter
+%n Bytes</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -1153,6 +1171,10 @@ Auf einen freien Platz warten und beitreten, sobald einer frei wird?</translatio
     <message>
         <source>The installer was saved to %1, but it cannot be started on this system.</source>
         <translation>Das Installationsprogramm wurde unter %1 gespeichert, kann auf diesem System aber nicht gestartet werden.</translation>
+    </message>
+    <message>
+        <source>The site did not say how large the installer is, so whether all of it arrived cannot be checked, and it will not be started. It was saved to %1.</source>
+        <translation>Die Seite gab die Größe des Installationsprogramms nicht an; ob es vollständig ankam, lässt sich nicht prüfen, daher wird es nicht gestartet. Es wurde unter %1 gespeichert.</translation>
     </message>
 </context>
 </TS>

@@ -72,6 +72,14 @@
         <source>%1 of %2 bytes arrived.</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>The installer is larger than %1 MB.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The site sent more than the %1 bytes it announced.</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>EditableListDialog</name>
@@ -268,6 +276,14 @@
     <message>
         <source>Cancel</source>
         <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>Downloading v%1
+%n bytes</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -1146,6 +1162,10 @@ Wait for a free slot and join as soon as one opens?</source>
     </message>
     <message>
         <source>The installer was saved to %1, but it cannot be started on this system.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The site did not say how large the installer is, so whether all of it arrived cannot be checked, and it will not be started. It was saved to %1.</source>
         <translation type="unfinished"></translation>
     </message>
 </context>

@@ -73,6 +73,14 @@
         <source>%1 of %2 bytes arrived.</source>
         <translation>%1 octets sur %2 sont arrivés.</translation>
     </message>
+    <message>
+        <source>The installer is larger than %1 MB.</source>
+        <translation>Le programme d'installation dépasse %1 Mo.</translation>
+    </message>
+    <message>
+        <source>The site sent more than the %1 bytes it announced.</source>
+        <translation>Le site a envoyé plus que les %1 octets annoncés.</translation>
+    </message>
 </context>
 <context>
     <name>EditableListDialog</name>
@@ -270,6 +278,16 @@
     <message>
         <source>Cancel</source>
         <translation>Annuler</translation>
+    </message>
+    <message numerus="yes">
+        <source>Downloading v%1
+%n bytes</source>
+        <translation>
+            <numerusform>Téléchargement de la v%1
+%n octet</numerusform>
+            <numerusform>Téléchargement de la v%1
+%n octets</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -1153,6 +1171,10 @@ Attendre une place libre et rejoindre dès qu&apos;une place se libère ?</trans
     <message>
         <source>The installer was saved to %1, but it cannot be started on this system.</source>
         <translation>Le programme d&apos;installation a été enregistré dans %1, mais il ne peut pas être lancé sur ce système.</translation>
+    </message>
+    <message>
+        <source>The site did not say how large the installer is, so whether all of it arrived cannot be checked, and it will not be started. It was saved to %1.</source>
+        <translation>Le site n'a pas indiqué la taille du programme d'installation : impossible de vérifier qu'il est arrivé en entier, il ne sera donc pas lancé. Il a été enregistré dans %1.</translation>
     </message>
 </context>
 </TS>

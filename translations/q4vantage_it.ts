@@ -73,6 +73,14 @@ hanno risposto %2 server su %3</translation>
         <source>%1 of %2 bytes arrived.</source>
         <translation>Sono arrivati %1 byte su %2.</translation>
     </message>
+    <message>
+        <source>The installer is larger than %1 MB.</source>
+        <translation>Il programma di installazione supera %1 MB.</translation>
+    </message>
+    <message>
+        <source>The site sent more than the %1 bytes it announced.</source>
+        <translation>Il sito ha inviato più dei %1 byte annunciati.</translation>
+    </message>
 </context>
 <context>
     <name>EditableListDialog</name>
@@ -270,6 +278,16 @@ hanno risposto %2 server su %3</translation>
     <message>
         <source>Cancel</source>
         <translation>Annulla</translation>
+    </message>
+    <message numerus="yes">
+        <source>Downloading v%1
+%n bytes</source>
+        <translation>
+            <numerusform>Download della v%1
+%n byte</numerusform>
+            <numerusform>Download della v%1
+%n byte</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -1153,6 +1171,10 @@ Attendere un posto libero ed entrare appena se ne libera uno?</translation>
     <message>
         <source>The installer was saved to %1, but it cannot be started on this system.</source>
         <translation>Il programma di installazione è stato salvato in %1, ma non può essere avviato su questo sistema.</translation>
+    </message>
+    <message>
+        <source>The site did not say how large the installer is, so whether all of it arrived cannot be checked, and it will not be started. It was saved to %1.</source>
+        <translation>Il sito non ha indicato la dimensione del programma di installazione: non si può verificare che sia arrivato per intero, quindi non verrà avviato. È stato salvato in %1.</translation>
     </message>
 </context>
 </TS>

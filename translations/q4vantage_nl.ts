@@ -73,6 +73,14 @@
         <source>%1 of %2 bytes arrived.</source>
         <translation>%1 van %2 bytes zijn aangekomen.</translation>
     </message>
+    <message>
+        <source>The installer is larger than %1 MB.</source>
+        <translation>Het installatieprogramma is groter dan %1 MB.</translation>
+    </message>
+    <message>
+        <source>The site sent more than the %1 bytes it announced.</source>
+        <translation>De site stuurde meer dan de aangekondigde %1 bytes.</translation>
+    </message>
 </context>
 <context>
     <name>EditableListDialog</name>
@@ -270,6 +278,16 @@
     <message>
         <source>Cancel</source>
         <translation>Annuleren</translation>
+    </message>
+    <message numerus="yes">
+        <source>Downloading v%1
+%n bytes</source>
+        <translation>
+            <numerusform>v%1 downloaden
+%n byte</numerusform>
+            <numerusform>v%1 downloaden
+%n bytes</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -1153,6 +1171,10 @@ Wachten op een vrije plek en deelnemen zodra er een vrijkomt?</translation>
     <message>
         <source>The installer was saved to %1, but it cannot be started on this system.</source>
         <translation>Het installatieprogramma is opgeslagen in %1, maar kan op dit systeem niet worden gestart.</translation>
+    </message>
+    <message>
+        <source>The site did not say how large the installer is, so whether all of it arrived cannot be checked, and it will not be started. It was saved to %1.</source>
+        <translation>De site gaf de grootte van het installatieprogramma niet op; of alles aankwam valt niet na te gaan, dus het wordt niet gestart. Het is opgeslagen in %1.</translation>
     </message>
 </context>
 </TS>

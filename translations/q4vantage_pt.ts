@@ -73,6 +73,14 @@ responderam %2 de %3 servidores</translation>
         <source>%1 of %2 bytes arrived.</source>
         <translation>Chegaram %1 de %2 bytes.</translation>
     </message>
+    <message>
+        <source>The installer is larger than %1 MB.</source>
+        <translation>O instalador tem mais de %1 MB.</translation>
+    </message>
+    <message>
+        <source>The site sent more than the %1 bytes it announced.</source>
+        <translation>O site enviou mais do que os %1 bytes anunciados.</translation>
+    </message>
 </context>
 <context>
     <name>EditableListDialog</name>
@@ -270,6 +278,16 @@ responderam %2 de %3 servidores</translation>
     <message>
         <source>Cancel</source>
         <translation>Cancelar</translation>
+    </message>
+    <message numerus="yes">
+        <source>Downloading v%1
+%n bytes</source>
+        <translation>
+            <numerusform>A transferir v%1
+%n byte</numerusform>
+            <numerusform>A transferir v%1
+%n bytes</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -1153,6 +1171,10 @@ Esperar por uma vaga e entrar assim que uma abrir?</translation>
     <message>
         <source>The installer was saved to %1, but it cannot be started on this system.</source>
         <translation>O instalador foi guardado em %1, mas não pode ser iniciado neste sistema.</translation>
+    </message>
+    <message>
+        <source>The site did not say how large the installer is, so whether all of it arrived cannot be checked, and it will not be started. It was saved to %1.</source>
+        <translation>O site não indicou o tamanho do instalador; não é possível verificar se chegou completo, por isso não será iniciado. Foi guardado em %1.</translation>
     </message>
 </context>
 </TS>

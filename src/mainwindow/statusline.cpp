@@ -4,6 +4,8 @@ StatusLine::StatusLine(QWidget* parent)
     : QLabel(parent)
 {
     setObjectName(QStringLiteral("lblStatus"));
+    // Source names and errors come from the network: shown as they are.
+    setTextFormat(Qt::PlainText);
     // The status colours (orange, yellow, green, red) read best on black.
     setAutoFillBackground(true);
     QPalette statusPalette = palette();

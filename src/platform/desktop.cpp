@@ -42,6 +42,8 @@ QMessageBox::StandardButton QtDesktop::message(QWidget* parent, Icon icon, const
                                                QMessageBox::StandardButtons buttons)
 {
     QMessageBox box(toQtIcon(icon), title, text, buttons, parent);
+    // Messages quote what servers and sites sent: never as markup.
+    box.setTextFormat(Qt::PlainText);
     const int result = box.exec();
     return static_cast<QMessageBox::StandardButton>(result);
 }

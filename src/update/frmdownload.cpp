@@ -31,13 +31,14 @@ FrmDownload::FrmDownload(Desktop& desktop, const QStringList& latest, QWidget* p
 
     connect(cmdCancel, &QPushButton::clicked, this, &FrmDownload::reject);
     connect(m_downloader, &Downloader::progress, this, &FrmDownload::showProgress);
-    connect(m_downloader, &Downloader::failed, this, [this] { fail(tr("Error During Download")); });
+    connect(m_downloader, &Downloader::failed, this,
+            [this](const QString& reason) { fail(tr("Error During Download") + QStringLiteral("\n\n") + reason); });
     connect(m_downloader, &Downloader::notSaved, this, [this](const QString& target, const QString& reason) {
         fail(tr("The installer could not be saved to %1 (%2).").arg(target, reason));
     });
-    connect(m_downloader, &Downloader::completed, this, [this](const QString& target, bool trusted) {
+    connect(m_downloader, &Downloader::completed, this, [this](const QString& target, InstallerTrust::Verdict verdict) {
         m_target = target;
-        m_trusted = trusted;
+        m_verdict = verdict;
         prgBar->hide();
         lblProgress->setText(tr("Complete"));
         accept();
@@ -45,20 +46,29 @@ FrmDownload::FrmDownload(Desktop& desktop, const QStringList& latest, QWidget* p
     retranslateUi();
 }
 
-void FrmDownload::begin(const QUrl& url, const QString& target, const QNetworkProxy& proxy)
+void FrmDownload::begin(const QUrl& url, const QString& target, const QNetworkProxy& proxy, const QList<QUrl>& way,
+                        const TransferAuthorities& authorities)
 {
-    m_downloader->begin(url, target, proxy);
+    m_downloader->setAuthorities(authorities);
+    m_downloader->begin(url, target, proxy, way);
 }
 
 void FrmDownload::showProgress(qint64 received, qint64 total)
 {
     m_received = received;
-    m_total = std::max<qint64>(total, 0);
+    m_total = total;
+    if (total <= 0) {
+        // The site did not say how much comes: a busy bar and the count.
+        prgBar->setRange(0, 0);
+        lblProgress->setText(
+            tr("Downloading v%1\n%n bytes", nullptr, int(std::min<qint64>(received, INT_MAX))).arg(m_latest));
+        return;
+    }
     // The bar counts in kilobytes past 2 GB, where an int ends.
-    const int scale = m_total > std::numeric_limits<int>::max() ? 1024 : 1;
-    prgBar->setMaximum(int(std::max<qint64>(m_total / scale, 1)));
-    prgBar->setValue(int(std::min(received, m_total) / scale));
-    lblProgress->setText(tr("Downloading v%1\n%2 of %3").arg(m_latest).arg(received).arg(m_total));
+    const int scale = total > std::numeric_limits<int>::max() ? 1024 : 1;
+    prgBar->setRange(0, int(std::max<qint64>(total / scale, 1)));
+    prgBar->setValue(int(std::min(received, total) / scale));
+    lblProgress->setText(tr("Downloading v%1\n%2 of %3").arg(m_latest).arg(std::min(received, total)).arg(total));
 }
 
 void FrmDownload::fail(const QString& text)

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "updatetransfer.h"
+
 #include <QDialog>
 #include <QNetworkProxy>
 #include <QStringList>
@@ -20,9 +22,11 @@ class FrmDownload final : public QDialog {
 public:
     FrmDownload(Desktop& desktop, const QStringList& latest, QWidget* parent = nullptr);
 
-    void begin(const QUrl& url, const QString& target, const QNetworkProxy& proxy);
+    // way: the addresses that offered the download (the version file's).
+    void begin(const QUrl& url, const QString& target, const QNetworkProxy& proxy, const QList<QUrl>& way,
+               const TransferAuthorities& authorities);
     QString target() const { return m_target; }
-    bool trusted() const { return m_trusted; }
+    InstallerTrust::Verdict verdict() const { return m_verdict; }
 
 protected:
     void changeEvent(QEvent* event) override;
@@ -36,7 +40,7 @@ private:
     Desktop& m_desktop;
     QString m_latest;
     QString m_target;
-    bool m_trusted = false;
+    InstallerTrust::Verdict m_verdict = InstallerTrust::Verdict::PlainHttp;
     Downloader* m_downloader = nullptr;
     QProgressBar* prgBar = nullptr;
     QLabel* lblProgress = nullptr;

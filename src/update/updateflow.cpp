@@ -37,6 +37,12 @@ bool UpdateFlow::isChecking() const
     return m_check->isRunning();
 }
 
+void UpdateFlow::addAuthorities(const QList<QSslCertificate>& authorities)
+{
+    m_authorities.add(authorities);
+    m_check->setAuthorities(m_authorities);
+}
+
 void UpdateFlow::offer(const QStringList& latest)
 {
     auto* dialog = new FrmUpdate(m_settings, latest, m_window);
@@ -49,21 +55,30 @@ void UpdateFlow::download(const QStringList& latest)
 {
     auto* dialog = new FrmDownload(m_desktop, latest, m_window);
     dialog->setAttribute(Qt::WA_DeleteOnClose);
-    connect(dialog, &QDialog::accepted, this, [this, dialog] { downloaded(dialog->target(), dialog->trusted()); });
+    connect(dialog, &QDialog::accepted, this, [this, dialog] { downloaded(dialog->target(), dialog->verdict()); });
     dialog->open();
     dialog->begin(UpdateVersion::installerUrl(m_settings.value(Keys::UpdateSite)),
                   QDir(m_installerFolder).filePath(QLatin1String(UpdateVersion::InstallerFileName)),
-                  httpProxy(m_settings.value(Keys::Proxy), m_settings.value(Keys::ProxyAddress)));
+                  httpProxy(m_settings.value(Keys::Proxy), m_settings.value(Keys::ProxyAddress)), m_check->way(),
+                  m_authorities);
 }
 
-void UpdateFlow::downloaded(const QString& installer, bool trusted)
+void UpdateFlow::downloaded(const QString& installer, InstallerTrust::Verdict verdict)
 {
     const QString title = tr("Quake 4 Vantage Update");
-    if (!trusted) {
+    if (verdict == InstallerTrust::Verdict::PlainHttp) {
         // Anyone between here and the site could have changed it.
         m_desktop.message(m_window, Desktop::Icon::Warning, title,
                           tr("The installer came without encryption (plain HTTP), so it will not be started. It was "
                              "saved to %1.")
+                              .arg(QDir::toNativeSeparators(installer)),
+                          QMessageBox::Ok);
+        return;
+    }
+    if (verdict == InstallerTrust::Verdict::LengthUnknown) {
+        m_desktop.message(m_window, Desktop::Icon::Warning, title,
+                          tr("The site did not say how large the installer is, so whether all of it arrived cannot "
+                             "be checked, and it will not be started. It was saved to %1.")
                               .arg(QDir::toNativeSeparators(installer)),
                           QMessageBox::Ok);
         return;

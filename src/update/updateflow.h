@@ -1,5 +1,7 @@
 #pragma once
 
+#include "updatetransfer.h"
+
 #include <QObject>
 #include <QPointer>
 #include <QStringList>
@@ -26,6 +28,8 @@ public:
     // False when no request was made (switched off, or no update site).
     bool checkAtStart();
     bool isChecking() const;
+    // Certificate authorities trusted besides the system's (a test's).
+    void addAuthorities(const QList<QSslCertificate>& authorities);
 
 signals:
     // The installer runs: the program should end so it can be replaced.
@@ -34,11 +38,12 @@ signals:
 private:
     void offer(const QStringList& latest);
     void download(const QStringList& latest);
-    void downloaded(const QString& installer, bool trusted);
+    void downloaded(const QString& installer, InstallerTrust::Verdict verdict);
 
     SettingsStore& m_settings;
     Desktop& m_desktop;
     QString m_installerFolder;
     QWidget* m_window;
     UpdateCheck* m_check;
+    TransferAuthorities m_authorities;
 };

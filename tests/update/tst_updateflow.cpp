@@ -8,6 +8,7 @@
 #include "updateversion.h"
 
 #include <QCheckBox>
+#include <QDir>
 #include <QElapsedTimer>
 #include <QFile>
 #include <QLabel>
@@ -37,7 +38,26 @@ QByteArray installerBytes(int size)
     return bytes;
 }
 
+// The process's peak resident memory in MB; reset first clears the mark.
+qint64 peakMemoryMb(bool reset)
+{
+    if (reset) {
+        QFile clear(QStringLiteral("/proc/self/clear_refs"));
+        if (clear.open(QIODevice::WriteOnly))
+            clear.write("5");
+    }
+    QFile status(QStringLiteral("/proc/self/status"));
+    if (!status.open(QIODevice::ReadOnly))
+        return 0;
+    for (const QByteArray& line : status.readAll().split('\n'))
+        if (line.startsWith("VmHWM:"))
+            return line.mid(6).trimmed().split(' ').first().toLongLong() / 1024;
+    return 0;
+}
+
 } // namespace
+
+Q_DECLARE_METATYPE(HttpResponder::Reply)
 
 // The update as a user meets it: a window, a site on this machine, the
 // dialogs answered by clicks and the desktop's boxes by script.
@@ -86,9 +106,12 @@ private slots:
         m_desktop = std::make_unique<ScriptedDesktop>();
         m_window = std::make_unique<QWidget>();
         m_window->show();
-        m_site = std::make_unique<HttpResponder>();
+        // The site speaks HTTPS with a certificate of the test authority,
+        // which the flow is told to trust besides the system's.
+        m_site = std::make_unique<HttpResponder>(HttpResponder::Tls::On);
         m_settings->set(Keys::UpdateSite, m_site->url(QString()).toString());
         m_flow = new UpdateFlow(*m_settings, *m_desktop, m_dir->path(), m_window.get());
+        m_flow->addAuthorities(HttpResponder::testAuthority());
     }
     void cleanup()
     {
@@ -133,6 +156,17 @@ private slots:
         QCOMPARE(file.readAll(), body);
         QVERIFY(m_settings->value(Keys::AutoUpdate));
         QVERIFY(m_site->lastRequest().startsWith("GET " + InstallerPath.toLatin1() + " "));
+    }
+
+    void theVersionFileIsShownAsPlainText()
+    {
+        serve("99.<img src=x><b>bold</b>.0", "x");
+        QVERIFY(m_flow->checkAtStart());
+        QTRY_VERIFY_WITH_TIMEOUT(dialog<FrmUpdate>("frmUpdate"), 6000);
+        auto* latest = control<QLabel>(dialog<FrmUpdate>("frmUpdate"), "lblLVersion2");
+        QCOMPARE(latest->textFormat(), Qt::PlainText);
+        QVERIFY(latest->text().contains(QStringLiteral("<b>bold</b>")));
+        click(dialog<FrmUpdate>("frmUpdate"), "cmdNo");
     }
 
     void noUpdateShowsNothing_data()
@@ -234,14 +268,14 @@ private slots:
         const auto& box = m_desktop->messages.first();
         QCOMPARE(box.icon, Desktop::Icon::Critical);
         QCOMPARE(box.title, QStringLiteral("Quake 4 Vantage Update"));
-        QCOMPARE(box.text, QStringLiteral("Error During Download"));
+        QVERIFY2(box.text.startsWith(QStringLiteral("Error During Download\n\n")), qPrintable(box.text));
         QTRY_VERIFY(!dialog<FrmDownload>("frmDownload"));
         QVERIFY(m_desktop->starts.isEmpty());
         QCOMPARE(quit.count(), 0);
         QVERIFY(!QFile::exists(installer()));
     }
 
-    void aShorterInstallerKeepsTheOldTail()
+    void aNewInstallerReplacesTheOldOneWhole()
     {
         {
             QFile old(installer());
@@ -254,7 +288,107 @@ private slots:
         QTRY_COMPARE_WITH_TIMEOUT(m_desktop->starts.size(), 1, 5000);
         QFile file(installer());
         QVERIFY(file.open(QIODevice::ReadOnly));
-        QCOMPARE(file.readAll(), QByteArray("abc3456789"));
+        QCOMPARE(file.readAll(), QByteArray("abc"));
+    }
+
+    // What a broken or hostile site sends: nothing is started, the old file
+    // stays as it was unless a whole new one arrived, and the box says why.
+    void aBadInstallerIsNeverStarted_data()
+    {
+        QTest::addColumn<HttpResponder::Reply>("reply");
+        QTest::addColumn<QString>("said");
+        QTest::addColumn<QByteArray>("left");
+        HttpResponder::Reply cut;
+        cut.raw = true;
+        cut.body = "HTTP/1.1 200 OK\r\nContent-Length: 100\r\nConnection: close\r\n\r\n" + QByteArray(30, 'x');
+        QTest::newRow("cut short") << cut << "Error During Download\n\n" << QByteArray("old installer");
+        HttpResponder::Reply unsized;
+        unsized.noLength = true;
+        unsized.body = QByteArray(30, 'y');
+        QTest::newRow("no length") << unsized << "The site did not say how large" << QByteArray(30, 'y');
+        HttpResponder::Reply huge;
+        huge.raw = true;
+        huge.body = "HTTP/1.1 200 OK\r\nContent-Length: 3000000000\r\nConnection: close\r\n\r\nMZ";
+        QTest::newRow("too large") << huge << "Error During Download\n\nThe installer is larger than 256 MB."
+                                   << QByteArray("old installer");
+    }
+    void aBadInstallerIsNeverStarted()
+    {
+        QFETCH(HttpResponder::Reply, reply);
+        QFETCH(QString, said);
+        QFETCH(QByteArray, left);
+        {
+            QFile old(installer());
+            QVERIFY(old.open(QIODevice::WriteOnly));
+            old.write("old installer");
+        }
+        m_site->set(VersionPath, {200, "99.0.0", "text/plain", 0});
+        m_site->set(InstallerPath, reply);
+        m_desktop->messageAnswers.enqueue(QMessageBox::Ok);
+        QVERIFY(m_flow->checkAtStart());
+        QVERIFY(acceptOffer());
+        QTRY_COMPARE_WITH_TIMEOUT(m_desktop->messages.size(), 1, 5000);
+        QVERIFY2(m_desktop->messages.first().text.startsWith(said), qPrintable(m_desktop->messages.first().text));
+        QVERIFY(m_desktop->starts.isEmpty());
+        QFile file(installer());
+        QVERIFY(file.open(QIODevice::ReadOnly));
+        QCOMPARE(file.readAll(), left);
+    }
+
+    // An endless installer is refused at the limit, written to disk as it
+    // came, never held in memory.
+    void anEndlessInstallerStopsAtTheLimitWithoutFillingMemory()
+    {
+        HttpResponder::Reply endless;
+        endless.raw = true;
+        endless.body = "HTTP/1.1 200 OK\r\nConnection: close\r\n\r\n";
+        endless.again = QByteArray(1024 * 1024, 'z');
+        endless.repeat = 1000; // 1000 MB, more than the limit
+        // Over plain HTTP: the test's own TLS server would buffer in this
+        // process what the program does not.
+        HttpResponder plain;
+        m_settings->set(Keys::UpdateSite, plain.url(QString()).toString());
+        plain.set(VersionPath, {200, "99.0.0", "text/plain", 0});
+        plain.set(InstallerPath, endless);
+        m_desktop->messageAnswers.enqueue(QMessageBox::Ok);
+        const qint64 before = peakMemoryMb(true);
+        QVERIFY(m_flow->checkAtStart());
+        FrmDownload* download = acceptOffer();
+        QVERIFY(download);
+        auto* label = control<QLabel>(download, "lblProgress");
+        QStringList shown;
+        connect(download->findChild<Downloader*>(), &Downloader::progress, this,
+                [&shown, label] { shown.append(label->text()); });
+        QTRY_COMPARE_WITH_TIMEOUT(m_desktop->messages.size(), 1, 60000);
+        QCOMPARE(m_desktop->messages.first().text,
+                 QStringLiteral("Error During Download\n\nThe installer is larger than 256 MB."));
+        const qint64 peak = peakMemoryMb(false);
+        QVERIFY2(peak - before < 64, qPrintable(QStringLiteral("peak %1 MB, %2 MB before").arg(peak).arg(before)));
+        QVERIFY(!shown.isEmpty());
+        // No total is known: a count, never "of 0".
+        QVERIFY2(shown.last().endsWith(QStringLiteral(" bytes")) && !shown.last().contains(QStringLiteral(" of ")),
+                 qPrintable(shown.last()));
+        QVERIFY(m_desktop->starts.isEmpty());
+        QVERIFY(!QFile::exists(installer()));
+        QCOMPARE(QDir(m_dir->path()).entryList({QStringLiteral("*.exe*")}, QDir::Files | QDir::Hidden), QStringList());
+    }
+
+    void anEndlessVersionFileIsNoUpdate()
+    {
+        HttpResponder::Reply endless;
+        endless.raw = true;
+        endless.body = "HTTP/1.1 200 OK\r\nConnection: close\r\n\r\n99.0.0";
+        endless.again = QByteArray(64 * 1024, '0');
+        endless.repeat = 100000;
+        m_site->set(VersionPath, endless);
+        QSignalSpy checked(m_flow->findChild<UpdateCheck*>(), &UpdateCheck::checked);
+        QElapsedTimer clock;
+        clock.start();
+        QVERIFY(m_flow->checkAtStart());
+        QTRY_COMPARE_WITH_TIMEOUT(checked.count(), 1, 6000);
+        QVERIFY(!checked.first().at(0).toBool());
+        QVERIFY2(clock.elapsed() < 2000, qPrintable(QString::number(clock.elapsed())));
+        QVERIFY(!dialog<FrmUpdate>("frmUpdate"));
     }
 
     void cancelStopsTheDownload()
@@ -289,26 +423,73 @@ private slots:
     void plainHttpFromElsewhereIsNeverStarted()
     {
         // The site is somewhere else, reached through the proxy of the
-        // options (the responder plays the proxy): both transfers go through
-        // it, and an installer fetched without encryption is not run.
+        // options (a plain responder plays the proxy): both transfers go
+        // through it, and an installer fetched without encryption is not run.
+        HttpResponder proxy;
         m_settings->set(Keys::UpdateSite, QStringLiteral("http://updates.invalid/q4v"));
         m_settings->set(Keys::Proxy, true);
-        m_settings->set(Keys::ProxyAddress, QStringLiteral("127.0.0.1:%1").arg(m_site->url(QString()).port()));
-        m_site->set(QStringLiteral("http://updates.invalid/q4v") + VersionPath, {200, "99.0.0", "text/plain", 0});
-        m_site->set(QStringLiteral("http://updates.invalid/q4v") + InstallerPath, {200, "installer", "x", 0});
+        m_settings->set(Keys::ProxyAddress, QStringLiteral("127.0.0.1:%1").arg(proxy.url(QString()).port()));
+        proxy.set(QStringLiteral("http://updates.invalid/q4v") + VersionPath, {200, "99.0.0", "text/plain", 0});
+        proxy.set(QStringLiteral("http://updates.invalid/q4v") + InstallerPath, {200, "installer", "x", 0});
         m_desktop->messageAnswers.enqueue(QMessageBox::Ok);
         QVERIFY(m_flow->checkAtStart());
         QVERIFY(acceptOffer());
         QTRY_COMPARE_WITH_TIMEOUT(m_desktop->messages.size(), 1, 5000);
         QVERIFY(m_desktop->messages.first().text.startsWith(QStringLiteral("The installer came without encryption")));
         QVERIFY(m_desktop->starts.isEmpty());
-        QCOMPARE(m_site->requests(), 2);
+        QCOMPARE(proxy.requests(), 2);
         QVERIFY(QFile::exists(installer()));
+    }
 
-        QVERIFY(Downloader::isTrusted(QUrl(QStringLiteral("https://updates.example/x"))));
-        QVERIFY(Downloader::isTrusted(QUrl(QStringLiteral("http://localhost:8080/x"))));
-        QVERIFY(Downloader::isTrusted(QUrl(QStringLiteral("http://127.0.0.2/x"))));
-        QVERIFY(!Downloader::isTrusted(QUrl(QStringLiteral("http://updates.example/x"))));
+    // The site on plain HTTP, even on this machine, sends the installer on
+    // to an HTTPS address: the way was not encrypted all along.
+    void aRedirectFromPlainHttpIsNeverStarted()
+    {
+        HttpResponder plain;
+        m_settings->set(Keys::UpdateSite, plain.url(QString()).toString());
+        plain.set(VersionPath, {200, "99.0.0", "text/plain", 0});
+        HttpResponder::Reply moved{302, "", "text/plain", 0};
+        moved.headers = "Location: " + m_site->url(QStringLiteral("/evil.exe")).toEncoded() + "\r\n";
+        plain.set(InstallerPath, moved);
+        m_site->set(QStringLiteral("/evil.exe"), {200, "attacker's installer", "x", 0});
+        m_desktop->messageAnswers.enqueue(QMessageBox::Ok);
+        QVERIFY(m_flow->checkAtStart());
+        QVERIFY(acceptOffer());
+        QTRY_COMPARE_WITH_TIMEOUT(m_desktop->messages.size(), 1, 5000);
+        QVERIFY(m_desktop->messages.first().text.startsWith(QStringLiteral("The installer came without encryption")));
+        QVERIFY(m_desktop->starts.isEmpty());
+        QCOMPARE(m_site->requests(), 1);
+    }
+
+    // From HTTPS, a redirect to plain HTTP is not even followed.
+    void aRedirectToPlainHttpIsNotFollowed()
+    {
+        HttpResponder plain;
+        plain.set(QStringLiteral("/evil.exe"), {200, "attacker's installer", "x", 0});
+        m_site->set(VersionPath, {200, "99.0.0", "text/plain", 0});
+        HttpResponder::Reply moved{302, "", "text/plain", 0};
+        moved.headers = "Location: " + plain.url(QStringLiteral("/evil.exe")).toEncoded() + "\r\n";
+        m_site->set(InstallerPath, moved);
+        m_desktop->messageAnswers.enqueue(QMessageBox::Ok);
+        QVERIFY(m_flow->checkAtStart());
+        QVERIFY(acceptOffer());
+        QTRY_COMPARE_WITH_TIMEOUT(m_desktop->messages.size(), 1, 5000);
+        QVERIFY(m_desktop->messages.first().text.startsWith(QStringLiteral("Error During Download")));
+        QVERIFY(m_desktop->starts.isEmpty());
+        QCOMPARE(plain.requests(), 0);
+    }
+
+    void onlyAWayAllOverHttpsStarts()
+    {
+        using InstallerTrust::Verdict;
+        const QUrl secure(QStringLiteral("https://updates.example/x"));
+        QCOMPARE(InstallerTrust::of({secure, secure}, true), Verdict::Start);
+        QCOMPARE(InstallerTrust::of({secure, secure}, false), Verdict::LengthUnknown);
+        for (const char* plain : {"http://updates.example/x", "http://localhost:8080/x", "http://127.0.0.2/x"}) {
+            QCOMPARE(InstallerTrust::of({QUrl(QLatin1String(plain)), secure}, true), Verdict::PlainHttp);
+            QCOMPARE(InstallerTrust::of({secure, QUrl(QLatin1String(plain))}, true), Verdict::PlainHttp);
+        }
+        QCOMPARE(InstallerTrust::of({}, true), Verdict::PlainHttp);
     }
 };
 
