@@ -8,6 +8,9 @@
 #include <QCommandLineParser>
 #include <QIcon>
 
+#include <cstdio>
+#include <cstdlib>
+
 namespace {
 
 void nameTheProgram()
@@ -36,6 +39,12 @@ void answerInformationOptions(int argc, char* argv[])
         parser.showVersion();
 }
 
+[[noreturn]] int exitAtOnce(int exitCode)
+{
+    std::fflush(nullptr);
+    std::_Exit(exitCode);
+}
+
 } // namespace
 
 int main(int argc, char* argv[])
@@ -48,10 +57,18 @@ int main(int argc, char* argv[])
         icon.addFile(QStringLiteral(":/icons/%1/q4vantage.png").arg(QLatin1String(size)));
     QApplication::setWindowIcon(icon);
 
-    SettingsStore settings;
-    QtDesktop desktop;
-    Language language;
-    FrmMain window(settings, desktop, language, Folders::dataFolder());
-    window.show();
-    return QApplication::exec();
+    int exitCode = 0;
+    {
+        SettingsStore settings;
+        QtDesktop desktop;
+        Language language;
+        FrmMain window(settings, desktop, language, Folders::dataFolder());
+        window.show();
+        exitCode = QApplication::exec();
+    }
+    // Everything of ours is written and closed. Qt would still wait for the
+    // name lookups of transfers that were cut short (a list's or the update
+    // site's host) until the resolver gives up, seconds after the window
+    // went: nothing is left that needs them.
+    return exitAtOnce(exitCode);
 }

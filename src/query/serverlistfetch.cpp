@@ -30,12 +30,12 @@ void ServerListFetch::start(const QUrl& url)
     request.setHeader(QNetworkRequest::UserAgentHeader,
                       QStringLiteral("q4vantage/%1").arg(QCoreApplication::applicationVersion()));
     request.setRawHeader("Accept", "application/json, text/plain;q=0.9, */*;q=0.5");
+    m_body.clear();
     m_reply = m_network.get(request);
-    connect(m_reply, &QNetworkReply::downloadProgress, this, [this](qint64 received, qint64) {
-        if (received > MaxReplyBytes)
-            fail(QCoreApplication::translate("ServerListFetch", "the reply is larger than %1 MiB")
-                     .arg(MaxReplyBytes / (1024 * 1024)));
-    });
+    // Qt keeps no more than this for us; the body is gathered here and
+    // refused the moment it passes the cap, however fast it comes.
+    m_reply->setReadBufferSize(256 * 1024);
+    connect(m_reply, &QNetworkReply::readyRead, this, &ServerListFetch::gather);
     connect(m_reply, &QNetworkReply::finished, this, &ServerListFetch::done);
     m_timer.start();
 }
@@ -43,6 +43,7 @@ void ServerListFetch::start(const QUrl& url)
 void ServerListFetch::abort()
 {
     m_timer.stop();
+    m_body = QByteArray();
     if (QNetworkReply* reply = m_reply) {
         m_reply = nullptr;
         reply->disconnect(this);
@@ -66,9 +67,24 @@ void ServerListFetch::done()
         fail(reply->errorString());
         return;
     }
-    const QByteArray body = reply->readAll();
+    gather();
+    if (!m_reply)
+        return;
+    const QByteArray body = std::exchange(m_body, {});
     abort();
     emit listed(ServerListReader::read(body));
+}
+
+void ServerListFetch::gather()
+{
+    while (m_reply && m_reply->bytesAvailable() > 0) {
+        m_body += m_reply->read(64 * 1024);
+        if (m_body.size() > MaxReplyBytes) {
+            fail(QCoreApplication::translate("ServerListFetch", "the reply is larger than %1 MiB")
+                     .arg(MaxReplyBytes / (1024 * 1024)));
+            return;
+        }
+    }
 }
 
 void ServerListFetch::fail(const QString& reason)

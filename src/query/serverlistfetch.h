@@ -36,9 +36,11 @@ signals:
 
 private:
     void done();
+    void gather();
     void fail(const QString& reason);
 
     QNetworkAccessManager& m_network;
     QPointer<QNetworkReply> m_reply;
     QTimer m_timer;
+    QByteArray m_body;
 };

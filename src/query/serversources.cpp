@@ -88,8 +88,11 @@ std::optional<QueryError> ServerSources::start(const SourcePlan& plan, quint16 f
                 [this, index](const QueryError& error) { settleFailed(index, error.message(), false, error); });
     }
     if (!plan.listUrls.isEmpty()) {
-        if (!m_network)
-            m_network = new QNetworkAccessManager(this);
+        // A manager of this query's own: a site that left the last one's
+        // connection stuck (an endless header) cannot hold up this one.
+        if (m_network)
+            m_network->deleteLater();
+        m_network = new QNetworkAccessManager(this);
         m_network->setProxy(plan.proxy);
     }
     for (const QUrl& url : plan.listUrls) {

@@ -3,6 +3,7 @@
 #include "httpresponder.h"
 #include "lanquery.h"
 #include "masterquery.h"
+#include "peakmemory.h"
 #include "querysession.h"
 #include "serverlistfetch.h"
 #include "serversources.h"
@@ -365,6 +366,51 @@ private slots:
         QCOMPARE(table.count(), ServerListReader::MaxAddresses);
         QVERIFY(reports.first().truncated);
         QVERIFY2(longestGap < 500, qPrintable(QStringLiteral("the loop stood still %1 ms").arg(longestGap)));
+    }
+
+    // A site that never ends its header or its body costs only its own
+    // list: the other list is read, memory stays near the cap, and the next
+    // query fetches every list again.
+    void anEndlessListCostsOnlyItself_data()
+    {
+        QTest::addColumn<QByteArray>("head");
+        QTest::addColumn<QByteArray>("again");
+        QTest::newRow("endless header line")
+            << QByteArray("HTTP/1.1 200 OK\r\nX-Filler: ") << QByteArray(64 * 1024, 'a');
+        QTest::newRow("endless chunked body") << QByteArray("HTTP/1.1 200 OK\r\nTransfer-Encoding: chunked\r\n\r\n")
+                                              << QByteArray("10000\r\n") + QByteArray(0x10000, 'b') + "\r\n";
+    }
+    void anEndlessListCostsOnlyItself()
+    {
+        QFETCH(QByteArray, head);
+        QFETCH(QByteArray, again);
+        HttpResponder web;
+        HttpResponder::Reply endless;
+        endless.raw = true;
+        endless.body = head;
+        endless.again = again;
+        endless.repeat = 100000;
+        web.set(QStringLiteral("/endless"), endless);
+        web.set(QStringLiteral("/good"), {200, "127.0.0.1:28004\n", "text/plain", 0});
+        ServerSources sources;
+        QSignalSpy listed(&sources, &ServerSources::listed);
+        QSignalSpy finished(&sources, &ServerSources::finished);
+        SourcePlan plan;
+        plan.listUrls = {web.url(QStringLiteral("/endless")), web.url(QStringLiteral("/good"))};
+        for (int round = 1; round <= 2; ++round) {
+            QElapsedTimer clock;
+            clock.start();
+            const qint64 before = peakMemoryMb(true);
+            QVERIFY(!sources.start(plan, PoolPort + 400));
+            QTRY_COMPARE_WITH_TIMEOUT(finished.count(), round, ServerListFetch::TimeoutMs + 2000);
+            const qint64 grown = peakMemoryMb(false) - before;
+            QVERIFY2(grown < ServerListFetch::MaxReplyBytes / (1024 * 1024) + 24,
+                     qPrintable(QStringLiteral("%1 MB more").arg(grown)));
+            QVERIFY2(clock.elapsed() < ServerListFetch::TimeoutMs + 300, qPrintable(QString::number(clock.elapsed())));
+            QCOMPARE(listed.count(), round);
+            QVERIFY(sources.reports().at(0).failed());
+            QCOMPARE(sources.reports().at(1).addresses, 1);
+        }
     }
 
     void listsGoThroughTheProxy()

@@ -1,6 +1,7 @@
 #include "frmdownload.h"
 #include "frmupdate.h"
 #include "httpresponder.h"
+#include "peakmemory.h"
 #include "scripteddesktop.h"
 #include "settingsstore.h"
 #include "updateflow.h"
@@ -36,23 +37,6 @@ QByteArray installerBytes(int size)
     for (int i = 0; i < size; ++i)
         bytes[i] = char(i * 7 % 251);
     return bytes;
-}
-
-// The process's peak resident memory in MB; reset first clears the mark.
-qint64 peakMemoryMb(bool reset)
-{
-    if (reset) {
-        QFile clear(QStringLiteral("/proc/self/clear_refs"));
-        if (clear.open(QIODevice::WriteOnly))
-            clear.write("5");
-    }
-    QFile status(QStringLiteral("/proc/self/status"));
-    if (!status.open(QIODevice::ReadOnly))
-        return 0;
-    for (const QByteArray& line : status.readAll().split('\n'))
-        if (line.startsWith("VmHWM:"))
-            return line.mid(6).trimmed().split(' ').first().toLongLong() / 1024;
-    return 0;
 }
 
 } // namespace

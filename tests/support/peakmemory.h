@@ -1,0 +1,21 @@
+#pragma once
+
+#include <QFile>
+
+// The process's peak resident memory in MB (Linux); with reset, the mark is
+// first lowered to what the process holds now.
+inline qint64 peakMemoryMb(bool reset)
+{
+    if (reset) {
+        QFile clear(QStringLiteral("/proc/self/clear_refs"));
+        if (clear.open(QIODevice::WriteOnly))
+            clear.write("5");
+    }
+    QFile status(QStringLiteral("/proc/self/status"));
+    if (!status.open(QIODevice::ReadOnly))
+        return 0;
+    for (const QByteArray& line : status.readAll().split('\n'))
+        if (line.startsWith("VmHWM:"))
+            return line.mid(6).trimmed().split(' ').first().toLongLong() / 1024;
+    return 0;
+}
