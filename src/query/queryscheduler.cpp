@@ -4,6 +4,7 @@
 #include "infoprotocol.h"
 
 #include <QNetworkDatagram>
+#include <QNetworkInterface>
 #include <QNetworkProxy>
 #include <QTimer>
 #include <QUdpSocket>
@@ -73,8 +74,22 @@ void QueryScheduler::closeSlot(int index)
     }
 }
 
+void QueryScheduler::setOwnPorts(int first, int last)
+{
+    m_ownFirst = first;
+    m_ownLast = last;
+}
+
+bool QueryScheduler::isOwnSocket(const QHostAddress& target, int port) const
+{
+    if (port < m_ownFirst || port > m_ownLast)
+        return false;
+    return target.isLoopback() || target == QHostAddress(QHostAddress::AnyIPv4) || m_localAddresses.contains(target);
+}
+
 std::optional<QueryError> QueryScheduler::openPool()
 {
+    m_localAddresses = QNetworkInterface::allAddresses();
     for (int index = 0; index <= m_lastSocketIndex; ++index) {
         if (auto error = bindSlot(index)) {
             closePool();
@@ -112,7 +127,10 @@ void QueryScheduler::run(const AddressTable& table, bool moreToCome)
     m_sent = 0;
     m_answered = 0;
     m_timedOut = 0;
+    m_skipped = 0;
     m_dropped = 0;
+    m_asked.clear();
+    m_askedByName.clear();
     m_running = true;
     // A caller that connects to finished() after run() returns, or that has
     // not entered its event loop yet, must still hear it.
@@ -192,6 +210,13 @@ void QueryScheduler::sendOn(int index, const QString& address, int port, bool re
     const QHostAddress literal(address);
     if (literal.protocol() == QAbstractSocket::IPv4Protocol) {
         slot.target = literal;
+        const QString key = endpointText(literal.toString(), port);
+        if (isOwnSocket(literal, port) || (!refresh && m_askedByName.contains(key))) {
+            QMetaObject::invokeMethod(
+                this, [this, index] { skip(index); }, Qt::QueuedConnection);
+            return;
+        }
+        m_asked.insert(key);
         transmit(index);
         return;
     }
@@ -217,6 +242,13 @@ void QueryScheduler::resolved(int index, const HostLookup::Result& result)
         timeOut(index);
         return;
     }
+    const QString key = endpointText(slot.target.toString(), slot.targetPort);
+    if (isOwnSocket(slot.target, slot.targetPort) || (!slot.refresh && m_asked.contains(key))) {
+        skip(index);
+        return;
+    }
+    m_asked.insert(key);
+    m_askedByName.insert(key);
     transmit(index);
 }
 
@@ -267,6 +299,19 @@ void QueryScheduler::readReplies(int index)
         if (!refresh)
             pump();
     }
+}
+
+void QueryScheduler::skip(int index)
+{
+    Slot& slot = m_slots[index];
+    if (!slot.busy)
+        return;
+    slot.lookup->abort();
+    const bool refresh = slot.refresh;
+    ++m_skipped;
+    release(index);
+    if (!refresh)
+        pump();
 }
 
 void QueryScheduler::timeOut(int index)

@@ -7,7 +7,9 @@
 
 #include <QElapsedTimer>
 #include <QHostAddress>
+#include <QList>
 #include <QObject>
+#include <QSet>
 
 #include <array>
 #include <optional>
@@ -35,6 +37,10 @@ public:
     void setPool(int lastSocketIndex, quint16 startPort);
     int lastSocketIndex() const { return m_lastSocketIndex; }
     quint16 startPort() const { return m_startPort; }
+    // The local ports of this program's own sockets (the pool and the
+    // masters above it): an address of this machine on one of them is never
+    // asked, or the query would read its own requests.
+    void setOwnPorts(int first, int last);
 
     // Binds every socket of the pool. On failure nothing stays bound.
     std::optional<QueryError> openPool();
@@ -59,6 +65,9 @@ public:
     int sentCount() const { return m_sent; }
     int answeredCount() const { return m_answered; }
     int timedOutCount() const { return m_timedOut; }
+    // Addresses not asked: this program's own sockets, or a host name that
+    // led to a server already asked.
+    int skippedCount() const { return m_skipped; }
     // Datagrams from anyone but the server a socket was waiting for.
     int droppedDatagrams() const { return m_dropped; }
 
@@ -90,6 +99,8 @@ private:
     void release(int index);
     void readReplies(int index);
     void timeOut(int index);
+    void skip(int index);
+    bool isOwnSocket(const QHostAddress& target, int port) const;
     void pump();
 
     std::array<Slot, QuerySpeed::PoolCapacity> m_slots;
@@ -102,5 +113,14 @@ private:
     int m_sent = 0;
     int m_answered = 0;
     int m_timedOut = 0;
+    int m_skipped = 0;
     int m_dropped = 0;
+    int m_ownFirst = 0;
+    int m_ownLast = -1;
+    QList<QHostAddress> m_localAddresses;
+    // "address:port" of every server asked in this query, and of those
+    // reached through a host name: a list that names one server by name and
+    // by number gets it asked once.
+    QSet<QString> m_asked;
+    QSet<QString> m_askedByName;
 };

@@ -34,6 +34,7 @@ void QuerySession::setPool(const QuerySpeed::PortPlan& plan)
 {
     m_plan = plan;
     m_scheduler.setPool(plan.lastSocketIndex, quint16(plan.startPort));
+    m_scheduler.setOwnPorts(plan.startPort, plan.masterPort() + ServerSources::PortSearchSpan);
 }
 
 std::optional<QueryError> QuerySession::startMaster(const MasterAddress& master)

@@ -1,8 +1,18 @@
 #include "records.h"
 
+#include <QHostAddress>
+
 QString endpointText(const QString& address, int port)
 {
     return address + QLatin1Char(':') + QString::number(port);
+}
+
+QString canonicalHost(const QString& host)
+{
+    const QHostAddress address(host);
+    if (address.protocol() == QAbstractSocket::IPv4Protocol)
+        return address.toString();
+    return host.toLower();
 }
 
 void AddressTable::add(const QString& address, int port, const QString& name, const QString& password)

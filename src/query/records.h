@@ -10,6 +10,11 @@
 // "address:port", as the lists show a server and the favourites match it.
 QString endpointText(const QString& address, int port);
 
+// One spelling per host: an IPv4 address in any form the resolver takes
+// ("127.1", "2130706433", "0x7f000001", "127.0.0.01") as its dotted
+// quad, a host name in lower case. Lists name one server in many ways.
+QString canonicalHost(const QString& host);
+
 // One address the scheduler will query. Name and password are filled only
 // when the table comes from the favourites.
 struct AddressEntry {

@@ -5,6 +5,7 @@
 #include <QJsonObject>
 #include <QJsonParseError>
 #include <QRegularExpression>
+#include <QSet>
 
 namespace {
 
@@ -56,7 +57,7 @@ std::optional<AddressEntry> entryOf(const QJsonValue& value)
             return entry;
         const auto number = portOf(port);
         if (number && isHostName(text))
-            return AddressEntry{text, *number, {}, {}};
+            return AddressEntry{canonicalHost(text), *number, {}, {}};
         return std::nullopt;
     }
     return std::nullopt;
@@ -81,12 +82,19 @@ QJsonArray serversIn(const QJsonValue& value, int depth = 0)
     return {};
 }
 
-void add(ServerListReader::Result& result, const std::optional<AddressEntry>& entry, int maxAddresses)
+void add(ServerListReader::Result& result, QSet<QString>& seen, const std::optional<AddressEntry>& entry,
+         int maxAddresses)
 {
     if (!entry) {
         ++result.skipped;
         return;
     }
+    // A server named again is asked once, and does not count to the cap.
+    if (seen.contains(entry->endpointText())) {
+        ++result.repeated;
+        return;
+    }
+    seen.insert(entry->endpointText());
     if (result.addresses.count() >= maxAddresses) {
         result.truncated = true;
         return;
@@ -109,12 +117,13 @@ std::optional<AddressEntry> parseEndpoint(QStringView text)
     const int port = text.mid(colon + 1).toInt(&ok);
     if (!ok || port < 1 || port > 65535 || !isHostName(host))
         return std::nullopt;
-    return AddressEntry{host.toString(), port, {}, {}};
+    return AddressEntry{canonicalHost(host.toString()), port, {}, {}};
 }
 
 Result read(const QByteArray& reply, int maxAddresses)
 {
     Result result;
+    QSet<QString> seen;
     QJsonParseError error{};
     const QJsonDocument document = QJsonDocument::fromJson(reply, &error);
     if (error.error == QJsonParseError::NoError) {
@@ -122,7 +131,7 @@ Result read(const QByteArray& reply, int maxAddresses)
         const QJsonArray servers =
             serversIn(document.isArray() ? QJsonValue(document.array()) : QJsonValue(document.object()));
         for (const QJsonValue& value : servers) {
-            add(result, entryOf(value), maxAddresses);
+            add(result, seen, entryOf(value), maxAddresses);
             if (result.truncated)
                 break;
         }
@@ -138,7 +147,7 @@ Result read(const QByteArray& reply, int maxAddresses)
         const qsizetype blank = line.indexOf(QLatin1Char(' '));
         const qsizetype tab = line.indexOf(QLatin1Char('\t'));
         const qsizetype end = blank < 0 ? tab : (tab < 0 ? blank : std::min(blank, tab));
-        add(result, parseEndpoint(end < 0 ? line : line.left(end)), maxAddresses);
+        add(result, seen, parseEndpoint(end < 0 ? line : line.left(end)), maxAddresses);
         if (result.truncated)
             break;
     }

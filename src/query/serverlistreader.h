@@ -22,6 +22,7 @@ inline constexpr int MaxAddresses = 5000;
 struct Result {
     AddressTable addresses;
     int skipped = 0;        // entries that name no usable IPv4 host and port
+    int repeated = 0;       // entries naming a server listed before (in any spelling of its address)
     bool truncated = false; // more than the maximum were listed
     bool json = false;
 };

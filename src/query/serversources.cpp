@@ -7,9 +7,6 @@
 
 namespace {
 
-// How far above the first master's port the others look for a free one.
-constexpr int PortSearchSpan = 64;
-
 SourceReport reportOf(SourceReport::Kind kind, const QString& name)
 {
     SourceReport report;
@@ -20,12 +17,12 @@ SourceReport reportOf(SourceReport::Kind kind, const QString& name)
 
 } // namespace
 
-AddressTable SourceMerger::take(int source, const AddressTable& table)
+AddressTable SourceMerger::take(int source, const AddressTable& table, Repeats repeats)
 {
     AddressTable fresh;
     for (const AddressEntry& entry : table.entries()) {
         const auto owner = m_owner.constFind(entry.endpointText());
-        if (owner != m_owner.cend() && *owner != source)
+        if (owner != m_owner.cend() && (*owner != source || repeats == Repeats::Drop))
             continue;
         if (owner == m_owner.cend())
             m_owner.insert(entry.endpointText(), source);
@@ -129,9 +126,15 @@ std::optional<QueryError> ServerSources::start(const SourcePlan& plan, quint16 f
 void ServerSources::offer(int index, const AddressTable& table)
 {
     m_reports[index].addresses += table.count();
-    const AddressTable fresh = m_merger.take(index, table);
+    const AddressTable fresh = m_merger.take(index, table, repeatsOf(index));
     if (!fresh.isEmpty())
         emit listed(fresh);
+}
+
+SourceMerger::Repeats ServerSources::repeatsOf(int index) const
+{
+    return m_reports.at(index).kind == SourceReport::Kind::Master ? SourceMerger::Repeats::Keep
+                                                                  : SourceMerger::Repeats::Drop;
 }
 
 void ServerSources::settle(int index, const AddressTable& table)

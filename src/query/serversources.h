@@ -43,12 +43,14 @@ struct SourceReport {
 };
 
 // Which of a source's addresses are new to the running query. An address
-// that another source gave is not asked again; within one source its
-// duplicates stay, as a master's list is queried as it came.
+// that another source gave is not asked again. Within a master's list its
+// duplicates stay, as the list is queried as it came; a published list or
+// the known servers name each server once however often they repeat it.
 class SourceMerger final {
 public:
+    enum class Repeats { Keep, Drop };
     void clear() { m_owner.clear(); }
-    AddressTable take(int source, const AddressTable& table);
+    AddressTable take(int source, const AddressTable& table, Repeats repeats = Repeats::Keep);
 
 private:
     QHash<QString, int> m_owner;
@@ -65,6 +67,9 @@ class ServerSources final : public QObject {
     Q_DISABLE_COPY_MOVE(ServerSources)
 
 public:
+    // How far above the first master's port the others look for a free one.
+    static constexpr int PortSearchSpan = 64;
+
     explicit ServerSources(QObject* parent = nullptr);
     ~ServerSources() override;
 
@@ -96,6 +101,7 @@ signals:
 
 private:
     void offer(int index, const AddressTable& table);
+    SourceMerger::Repeats repeatsOf(int index) const;
     void settle(int index, const AddressTable& table);
     void settleFailed(int index, const QString& error, bool timedOut, std::optional<QueryError> queryError = {});
     void checkDone();

@@ -413,6 +413,40 @@ private slots:
         }
     }
 
+    // A list can aim every reader's browser at one server, and name it in
+    // many ways: it is asked once. A list naming the program's own query
+    // ports makes no phantom servers.
+    void aListNeverMultipliesOneServerNorAsksItself()
+    {
+        SimFleet fleet(fleetOf(1, 27700));
+        QVERIFY(!fleet.start());
+        fleet.setMasterSilent(true);
+        const QByteArray port = QByteArray::number(fleet.servers().first().port);
+        QByteArray list;
+        for (int i = 0; i < 6000; ++i)
+            list += "127.0.0.1:" + port + '\n';
+        for (const char* spelling : {"localhost", "LOCALHOST", "127.1", "2130706433", "0x7f000001", "127.0.0.01"})
+            list += spelling + (':' + port) + '\n';
+        const QuerySpeed::PortPlan ports{5, PoolPort + 900};
+        for (int own = ports.startPort; own <= ports.masterPort(); ++own)
+            list += "127.0.0.1:" + QByteArray::number(own) + '\n';
+        HttpResponder web;
+        web.set(QStringLiteral("/aimed"), {200, list, "text/plain", 0});
+        QuerySession session;
+        session.setPool(ports);
+        Answers answers(session);
+        QSignalSpy finished(&session, &QuerySession::finished);
+        SourcePlan plan;
+        plan.masters = {masterAt(27700)};
+        plan.listUrls = {web.url(QStringLiteral("/aimed"))};
+        QVERIFY(!session.startSources(plan));
+        QTRY_COMPARE_WITH_TIMEOUT(finished.count(), 1, 8000);
+        QCOMPARE(answers.endpoints, QStringList{"127.0.0.1:" + QString::fromLatin1(port)});
+        QCOMPARE(fleet.infoRequests(), 1);
+        QCOMPARE(session.scheduler().skippedCount(), ports.masterPort() - ports.startPort + 1 + 1);
+        QCOMPARE(session.scheduler().timedOutCount(), 0);
+    }
+
     void listsGoThroughTheProxy()
     {
         // The responder plays the proxy: a request through a proxy names the
