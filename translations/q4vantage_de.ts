@@ -328,6 +328,13 @@
         <source>New Server</source>
         <translation>Neuer Server</translation>
     </message>
+    <message numerus="yes">
+        <source>%n servers added elsewhere since this list was opened are kept as well.</source>
+        <translation>
+            <numerusform>%n anderswo hinzugefügter Server seit dem Öffnen dieser Liste bleibt ebenfalls erhalten.</numerusform>
+            <numerusform>%n anderswo hinzugefügte Server seit dem Öffnen dieser Liste bleiben ebenfalls erhalten.</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>FrmFilters</name>
@@ -1003,6 +1010,10 @@ Auf einen freien Platz warten und beitreten, sobald einer frei wird?</translatio
     <message>
         <source>%1: no answer yet</source>
         <translation>%1: noch keine Antwort</translation>
+    </message>
+    <message>
+        <source>The servers that answered could not be remembered in %1.</source>
+        <translation>Die Server, die geantwortet haben, konnten nicht in %1 gespeichert werden.</translation>
     </message>
 </context>
 <context>

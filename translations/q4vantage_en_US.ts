@@ -324,6 +324,13 @@
         <source>New Server</source>
         <translation type="unfinished"></translation>
     </message>
+    <message numerus="yes">
+        <source>%n servers added elsewhere since this list was opened are kept as well.</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>FrmFilters</name>
@@ -994,6 +1001,10 @@ Wait for a free slot and join as soon as one opens?</source>
     </message>
     <message>
         <source>%1: no answer yet</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The servers that answered could not be remembered in %1.</source>
         <translation type="unfinished"></translation>
     </message>
 </context>

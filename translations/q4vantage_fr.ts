@@ -75,7 +75,7 @@
     </message>
     <message>
         <source>The installer is larger than %1 MB.</source>
-        <translation>Le programme d'installation dépasse %1 Mo.</translation>
+        <translation>Le programme d&apos;installation dépasse %1 Mo.</translation>
     </message>
     <message>
         <source>The site sent more than the %1 bytes it announced.</source>
@@ -327,6 +327,13 @@
     <message>
         <source>New Server</source>
         <translation>Nouveau serveur</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n servers added elsewhere since this list was opened are kept as well.</source>
+        <translation>
+            <numerusform>%n serveur ajouté ailleurs depuis l'ouverture de cette liste est conservé aussi.</numerusform>
+            <numerusform>%n serveurs ajoutés ailleurs depuis l'ouverture de cette liste sont conservés aussi.</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -1004,6 +1011,10 @@ Attendre une place libre et rejoindre dès qu&apos;une place se libère ?</trans
         <source>%1: no answer yet</source>
         <translation>%1 : pas encore de réponse</translation>
     </message>
+    <message>
+        <source>The servers that answered could not be remembered in %1.</source>
+        <translation>Les serveurs qui ont répondu n'ont pas pu être enregistrés dans %1.</translation>
+    </message>
 </context>
 <context>
     <name>QueryError</name>
@@ -1174,7 +1185,7 @@ Attendre une place libre et rejoindre dès qu&apos;une place se libère ?</trans
     </message>
     <message>
         <source>The site did not say how large the installer is, so whether all of it arrived cannot be checked, and it will not be started. It was saved to %1.</source>
-        <translation>Le site n'a pas indiqué la taille du programme d'installation : impossible de vérifier qu'il est arrivé en entier, il ne sera donc pas lancé. Il a été enregistré dans %1.</translation>
+        <translation>Le site n&apos;a pas indiqué la taille du programme d&apos;installation : impossible de vérifier qu&apos;il est arrivé en entier, il ne sera donc pas lancé. Il a été enregistré dans %1.</translation>
     </message>
 </context>
 </TS>

@@ -328,6 +328,13 @@ hanno risposto %2 server su %3</translation>
         <source>New Server</source>
         <translation>Nuovo server</translation>
     </message>
+    <message numerus="yes">
+        <source>%n servers added elsewhere since this list was opened are kept as well.</source>
+        <translation>
+            <numerusform>%n server aggiunto altrove dopo l'apertura di questo elenco viene mantenuto.</numerusform>
+            <numerusform>%n server aggiunti altrove dopo l'apertura di questo elenco vengono mantenuti.</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>FrmFilters</name>
@@ -1003,6 +1010,10 @@ Attendere un posto libero ed entrare appena se ne libera uno?</translation>
     <message>
         <source>%1: no answer yet</source>
         <translation>%1: nessuna risposta finora</translation>
+    </message>
+    <message>
+        <source>The servers that answered could not be remembered in %1.</source>
+        <translation>I server che hanno risposto non sono stati memorizzati in %1.</translation>
     </message>
 </context>
 <context>

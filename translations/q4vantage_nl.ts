@@ -328,6 +328,13 @@
         <source>New Server</source>
         <translation>Nieuwe server</translation>
     </message>
+    <message numerus="yes">
+        <source>%n servers added elsewhere since this list was opened are kept as well.</source>
+        <translation>
+            <numerusform>%n server die elders is toegevoegd sinds deze lijst openging, blijft ook bewaard.</numerusform>
+            <numerusform>%n servers die elders zijn toegevoegd sinds deze lijst openging, blijven ook bewaard.</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>FrmFilters</name>
@@ -1003,6 +1010,10 @@ Wachten op een vrije plek en deelnemen zodra er een vrijkomt?</translation>
     <message>
         <source>%1: no answer yet</source>
         <translation>%1: nog geen antwoord</translation>
+    </message>
+    <message>
+        <source>The servers that answered could not be remembered in %1.</source>
+        <translation>De servers die antwoordden konden niet worden onthouden in %1.</translation>
     </message>
 </context>
 <context>

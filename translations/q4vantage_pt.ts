@@ -328,6 +328,13 @@ responderam %2 de %3 servidores</translation>
         <source>New Server</source>
         <translation>Novo servidor</translation>
     </message>
+    <message numerus="yes">
+        <source>%n servers added elsewhere since this list was opened are kept as well.</source>
+        <translation>
+            <numerusform>%n servidor adicionado noutro lado desde que esta lista foi aberta também é mantido.</numerusform>
+            <numerusform>%n servidores adicionados noutro lado desde que esta lista foi aberta também são mantidos.</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>FrmFilters</name>
@@ -1003,6 +1010,10 @@ Esperar por uma vaga e entrar assim que uma abrir?</translation>
     <message>
         <source>%1: no answer yet</source>
         <translation>%1: ainda sem resposta</translation>
+    </message>
+    <message>
+        <source>The servers that answered could not be remembered in %1.</source>
+        <translation>Os servidores que responderam não puderam ser memorizados em %1.</translation>
     </message>
 </context>
 <context>

@@ -3,6 +3,7 @@
 #include "frmmain.h"
 #include "language.h"
 #include "settingsstore.h"
+#include "singleinstance.h"
 
 #include <QApplication>
 #include <QCommandLineParser>
@@ -60,9 +61,22 @@ int main(int argc, char* argv[])
     int exitCode = 0;
     {
         SettingsStore settings;
+        // A second start shows the first one's window instead: two windows
+        // would write the same favourites and settings over each other.
+        SingleInstance instance(settings.filePath());
+        if (!instance.claim()) {
+            std::printf("Quake 4 Vantage is already running: its window was brought to the front.\n");
+            return exitAtOnce(0);
+        }
         QtDesktop desktop;
         Language language;
         FrmMain window(settings, desktop, language, Folders::dataFolder());
+        QObject::connect(&instance, &SingleInstance::activationRequested, &window, [&window] {
+            window.setWindowState((window.windowState() & ~Qt::WindowMinimized) | Qt::WindowActive);
+            window.show();
+            window.raise();
+            window.activateWindow();
+        });
         window.show();
         exitCode = QApplication::exec();
     }

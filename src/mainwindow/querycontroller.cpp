@@ -8,6 +8,7 @@
 #include "settingsstore.h"
 
 #include <QDateTime>
+#include <QDir>
 #include <QSet>
 
 QueryController::QueryController(SettingsStore& settings, const QString& dataFolder, QObject* parent)
@@ -43,8 +44,10 @@ QueryController::QueryController(SettingsStore& settings, const QString& dataFol
             finishRound();
             return;
         }
-        remember(true);
+        const bool saved = remember(true);
         stop(tr("Done"), StatusTone::Done);
+        if (!saved)
+            sayNotSaved();
     });
     // The window opens a modal Retry/Cancel box: let the engine unwind first.
     connect(
@@ -192,7 +195,8 @@ void QueryController::endRound()
     m_flushTimer.stop();
     if (!batch.isEmpty())
         emit updated(batch);
-    remember(false);
+    // The user's own query follows and says whether it could remember.
+    (void)remember(false);
 }
 
 void QueryController::finishRound()
@@ -208,8 +212,10 @@ void QueryController::finishRound()
             silent.append(entry.endpointText());
     }
     // A silent round costs no known server a miss: rounds come often.
-    remember(false);
+    const bool saved = remember(false);
     emit roundEnded(m_session.addresses().count(), silent);
+    if (!saved)
+        sayNotSaved();
 }
 
 void QueryController::startLanQuery()
@@ -248,9 +254,17 @@ void QueryController::cancel()
         endRound();
         return;
     }
-    if (m_session.isRunning())
-        remember(false);
+    const bool saved = !m_session.isRunning() || remember(false);
     stop(tr("Cancelled"), StatusTone::Failed);
+    if (!saved)
+        sayNotSaved();
+}
+
+void QueryController::sayNotSaved()
+{
+    emit status(
+        tr("The servers that answered could not be remembered in %1.").arg(QDir::toNativeSeparators(m_knownPath)),
+        StatusTone::Failed);
 }
 
 void QueryController::showPhase(QuerySession::Phase phase)
@@ -372,15 +386,14 @@ void QueryController::reportSources()
     emit sourcesReported(lines.join(QLatin1Char('\n')));
 }
 
-void QueryController::remember(bool finished)
+bool QueryController::remember(bool finished)
 {
     // Only answers are news; a LAN search asks no list of addresses.
     if (m_answered.isEmpty() && (!finished || m_session.addresses().isEmpty()))
-        return;
+        return true;
     const KnownServers::List known = KnownServers::readFile(m_knownPath);
     const KnownServers::List updated =
         KnownServers::update(known, m_session.addresses(), m_answered, QDateTime::currentSecsSinceEpoch(), finished);
-    if (updated != known && !KnownServers::writeFile(m_knownPath, updated))
-        qWarning("The known servers could not be saved to %s", qPrintable(m_knownPath));
     m_answered.clear();
+    return updated == known || KnownServers::writeFile(m_knownPath, updated);
 }

@@ -82,7 +82,9 @@ private:
     void stop(const QString& text, StatusTone tone);
     void fail(const QueryError& error);
     void reportSources();
-    void remember(bool finished);
+    // False when servers.dat could not be written.
+    bool remember(bool finished);
+    void sayNotSaved();
     // The user starts a query while a refresh round runs: the round ends
     // quietly and what it heard is kept.
     void endRound();

@@ -145,10 +145,9 @@ FrmFavourites::FrmFavourites(SettingsStore& settings, QString dataFolder, QWidge
     });
     connect(cmdCancel, &QPushButton::clicked, this, &QWidget::close);
 
-    QList<FavouritesModel::Row> rows;
-    for (const auto& favourite : Favourites::readFile(m_path, &m_complete).value_or(QList<Favourites::Favourite>{}))
-        rows.append({favourite.name, Favourites::addressText(favourite), favourite.password});
+    const QList<FavouritesModel::Row> rows = rowsOnDisk(&m_complete);
     m_model->setRows(rows);
+    m_onDisk = rows;
     if (!m_complete)
         sayTooLarge();
 
@@ -173,11 +172,33 @@ void FrmFavourites::sayTooLarge()
                     .arg(Favourites::MaxFileBytes / (1024 * 1024)));
 }
 
+QList<FavouritesModel::Row> FrmFavourites::rowsOnDisk(bool* complete) const
+{
+    QList<FavouritesModel::Row> rows;
+    for (const auto& favourite : Favourites::readFile(m_path, complete).value_or(QList<Favourites::Favourite>{}))
+        rows.append({favourite.name, Favourites::addressText(favourite), favourite.password});
+    return rows;
+}
+
 bool FrmFavourites::apply()
 {
     if (!m_complete) {
         sayTooLarge();
         return false;
+    }
+    // Another window of the program (or the server list's "Add To
+    // Favourites") may have written the file since it was read here: what
+    // it added is kept, beside this editor's rows.
+    bool complete = true;
+    const QList<FavouritesModel::Row> now = rowsOnDisk(&complete);
+    int added = 0;
+    if (complete && now != m_onDisk) {
+        for (const FavouritesModel::Row& row : now) {
+            if (!m_onDisk.contains(row) && !m_model->rows().contains(row)) {
+                m_model->append(row);
+                ++added;
+            }
+        }
     }
     QByteArray bytes;
     for (const FavouritesModel::Row& row : m_model->rows())
@@ -188,7 +209,11 @@ bool FrmFavourites::apply()
                         .arg(QDir::toNativeSeparators(m_path)));
         return false;
     }
-    showMessage(QString());
+    // As the file reads back, so the next comparison is like with like.
+    m_onDisk = rowsOnDisk(&complete);
+    showMessage(added == 0
+                    ? QString()
+                    : tr("%n servers added elsewhere since this list was opened are kept as well.", nullptr, added));
     return true;
 }
 

@@ -50,6 +50,7 @@ public:
     // dialog, when it could not be written or may not be (a file too large
     // to be read whole).
     bool apply();
+    QList<FavouritesModel::Row> rowsOnDisk(bool* complete) const;
 
 protected:
     void commitCell(int row, int column, const QString& text) override;
@@ -65,6 +66,8 @@ private:
 
     QString m_path;
     bool m_complete = true;
+    // The rows of the file as last read or written here.
+    QList<FavouritesModel::Row> m_onDisk;
     FavouritesModel* m_model = nullptr;
     ColumnLayout::SortState m_sort;
     QPushButton* cmdOK = nullptr;

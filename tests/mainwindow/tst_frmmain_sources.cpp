@@ -7,6 +7,7 @@
 #include "updateflow.h"
 
 #include <QDateTime>
+#include <QDir>
 #include <QSignalSpy>
 #include <QTest>
 
@@ -72,6 +73,19 @@ private slots:
             QCOMPARE(server.misses, 0);
             QVERIFY(!server.name.isEmpty());
         }
+    }
+
+    void serversThatCannotBeRememberedAreSaid()
+    {
+        SimFleet fleet(fleetOf(2, 26900));
+        QVERIFY(!fleet.start());
+        TestWindow w(26900, StartPort + 350);
+        // A folder where the file should be: no write can replace it.
+        QVERIFY(QDir().mkpath(w.dataFile(QStringLiteral("servers.dat"))));
+        QTest::mouseClick(w.button("cmdGet"), Qt::LeftButton);
+        QTRY_VERIFY_WITH_TIMEOUT(w.status().startsWith(QStringLiteral("The servers that answered could not be")), 5000);
+        QCOMPARE(w.statusColour(), QColor(255, 0, 0));
+        QCOMPARE(listedRows(w), 2);
     }
 
     void withEveryMasterDownTheKnownServersAreStillListed()

@@ -1,4 +1,5 @@
 #include <QProcess>
+#include <QTemporaryDir>
 #include <QTest>
 
 // The program itself, started as a user would start it.
@@ -32,6 +33,42 @@ private slots:
         QCOMPARE(help->exitCode(), 0);
         const QByteArray text = help->readAllStandardOutput();
         QVERIFY2(text.contains("Usage:") && text.contains("--version"), text.constData());
+    }
+
+    // A second start while the program runs brings the running window to
+    // the front and ends; after a crash the next start runs as usual.
+    void aSecondStartUsesTheRunningWindow()
+    {
+        QTemporaryDir home;
+        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+        environment.insert(QStringLiteral("XDG_CONFIG_HOME"), home.path());
+        environment.insert(QStringLiteral("QT_QPA_PLATFORM"), QStringLiteral("offscreen"));
+        const auto start = [&environment] {
+            auto process = std::make_unique<QProcess>();
+            process->setProcessEnvironment(environment);
+            process->start(QStringLiteral(PROGRAM), QStringList{});
+            return process;
+        };
+        std::unique_ptr<QProcess> first = start();
+        QVERIFY(first->waitForStarted(10000));
+        QTest::qWait(1500);
+        QCOMPARE(first->state(), QProcess::Running);
+
+        std::unique_ptr<QProcess> second = start();
+        QVERIFY(second->waitForFinished(10000));
+        QCOMPARE(second->exitCode(), 0);
+        QVERIFY(second->readAllStandardOutput().contains("already running"));
+        QCOMPARE(first->state(), QProcess::Running);
+
+        // Killed: its socket is left behind, and the next start takes over.
+        first->kill();
+        QVERIFY(first->waitForFinished(10000));
+        std::unique_ptr<QProcess> third = start();
+        QVERIFY(third->waitForStarted(10000));
+        QVERIFY(!third->waitForFinished(2500));
+        QCOMPARE(third->state(), QProcess::Running);
+        third->terminate();
+        QVERIFY(third->waitForFinished(10000));
     }
 };
 

@@ -56,6 +56,29 @@ private slots:
         QCOMPARE(form.rows(), expected);
     }
 
+    // Two windows of the program, or the server list's menu while the
+    // editor is open: what was added elsewhere is not lost on OK.
+    void aFavouriteAddedElsewhereMeanwhileIsKept()
+    {
+        write("1.2.3.4:1\x01\x01Old\r\n");
+        FrmFavourites form(*m_settings, m_dir->path());
+        form.show();
+        write("1.2.3.4:1\x01\x01Old\r\n9.9.9.9:2\x01\x01Theirs\r\n");
+        button(form, "cmdNew")->click();
+        button(form, "cmdApply")->click();
+        QCOMPARE(file(), QByteArray("1.2.3.4:1\x01\x01Old\r\n\x01\x01New Server\r\n9.9.9.9:2\x01\x01Theirs\r\n"));
+        QCOMPARE(form.rows().size(), 3);
+        QCOMPARE(form.findChild<QLabel*>(QStringLiteral("lblMessage"))->text(),
+                 QStringLiteral("1 servers added elsewhere since this list was opened are kept as well."));
+        // Removed here and nowhere else: it goes.
+        ReportView* list = form.findChild<ReportView*>(QStringLiteral("lvwFavourites"));
+        QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, list->visualRect(list->model()->index(0, 0)).center());
+        button(form, "cmdRemove")->click();
+        QCOMPARE(form.rows().size(), 2);
+        button(form, "cmdApply")->click();
+        QCOMPARE(Favourites::readFile(path())->size(), 2);
+    }
+
     void editsReachTheFileOnlyOnApplyOrOk()
     {
         write("1.2.3.4:1\x01\x01Old\r\n");
