@@ -46,6 +46,7 @@ void ServerListFetch::abort()
     m_body = QByteArray();
     if (QNetworkReply* reply = m_reply) {
         m_reply = nullptr;
+        m_cutOff = m_cutOff || !reply->isFinished();
         reply->disconnect(this);
         reply->abort();
         reply->deleteLater();

@@ -28,6 +28,9 @@ public:
     void start(const QUrl& url);
     void abort();
     bool isRunning() const { return m_reply != nullptr; }
+    // A transfer was cut off before the site finished (time-out, size, or
+    // abort): Qt's network thread may still be busy with that connection.
+    bool wasCutOff() const { return m_cutOff; }
 
 signals:
     // Exactly one of these follows each start, unless aborted.
@@ -43,4 +46,5 @@ private:
     QPointer<QNetworkReply> m_reply;
     QTimer m_timer;
     QByteArray m_body;
+    bool m_cutOff = false;
 };

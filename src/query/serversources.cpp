@@ -39,6 +39,7 @@ ServerSources::ServerSources(QObject* parent)
 ServerSources::~ServerSources()
 {
     release();
+    releaseNetwork();
 }
 
 std::optional<QueryError> ServerSources::start(const SourcePlan& plan, quint16 firstMasterPort)
@@ -87,8 +88,7 @@ std::optional<QueryError> ServerSources::start(const SourcePlan& plan, quint16 f
     if (!plan.listUrls.isEmpty()) {
         // A manager of this query's own: a site that left the last one's
         // connection stuck (an endless header) cannot hold up this one.
-        if (m_network)
-            m_network->deleteLater();
+        releaseNetwork();
         m_network = new QNetworkAccessManager(this);
         m_network->setProxy(plan.proxy);
     }
@@ -171,6 +171,7 @@ void ServerSources::checkDone()
     for (ServerListFetch* fetch : std::exchange(m_fetches, {})) {
         fetch->disconnect(this);
         fetch->abort();
+        m_networkCutOff = m_networkCutOff || fetch->wasCutOff();
         fetch->deleteLater();
     }
     // Whoever listens may start the next query from here.
@@ -195,9 +196,28 @@ void ServerSources::release()
     for (ServerListFetch* fetch : std::exchange(m_fetches, {})) {
         fetch->disconnect(this);
         fetch->abort();
+        m_networkCutOff = m_networkCutOff || fetch->wasCutOff();
         fetch->deleteLater();
     }
     m_merger.clear();
+}
+
+void ServerSources::releaseNetwork()
+{
+    QNetworkAccessManager* network = std::exchange(m_network, nullptr);
+    if (!network)
+        return;
+    if (!std::exchange(m_networkCutOff, false)) {
+        network->deleteLater();
+        return;
+    }
+    // Deleting a manager waits (up to 5 s, in this thread) for its network
+    // thread, which a site that streams an endless header keeps busy: the
+    // window would freeze. It is set aside instead, idle once the site
+    // stops; the program's exit does not wait for it.
+    static auto* setAside = new QList<QNetworkAccessManager*>;
+    network->setParent(nullptr);
+    setAside->append(network);
 }
 
 int ServerSources::droppedDatagrams() const

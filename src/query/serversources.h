@@ -107,11 +107,14 @@ private:
     void checkDone();
 
     void release();
+    void releaseNetwork();
 
     // Deleted later: a source ends inside its own signal.
     QList<MasterQuery*> m_masters;
     QList<ServerListFetch*> m_fetches;
     QNetworkAccessManager* m_network = nullptr;
+    // A list of this manager was cut off mid-transfer.
+    bool m_networkCutOff = false;
     QList<SourceReport> m_reports;
     SourceMerger m_merger;
     int m_pending = 0;
