@@ -413,7 +413,7 @@ private slots:
             QTRY_COMPARE_WITH_TIMEOUT(finished.count(), round, ServerListFetch::TimeoutMs + 2000);
             const qint64 grown = peakMemoryMb(false) - before;
             qInfo("round %d: %lld ms, peak %lld MB above the start", round, clock.elapsed(), grown);
-            QVERIFY2(grown < ServerListFetch::MaxReplyBytes / (1024 * 1024) + 24,
+            QVERIFY2(!PeakMemoryIsMeaningful || grown < ServerListFetch::MaxReplyBytes / (1024 * 1024) + 24,
                      qPrintable(QStringLiteral("%1 MB more").arg(grown)));
             QVERIFY2(clock.elapsed() < ServerListFetch::TimeoutMs + 300, qPrintable(QString::number(clock.elapsed())));
             QVERIFY2(listed.count() == round, qPrintable(sources.reports().at(1).error));

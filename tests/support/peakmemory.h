@@ -2,6 +2,14 @@
 
 #include <QFile>
 
+// AddressSanitizer keeps freed memory in quarantine (256 MB by default):
+// peaks measured under it say nothing about the program.
+#if defined(__SANITIZE_ADDRESS__)
+inline constexpr bool PeakMemoryIsMeaningful = false;
+#else
+inline constexpr bool PeakMemoryIsMeaningful = true;
+#endif
+
 // The process's peak resident memory in MB (Linux); with reset, the mark is
 // first lowered to what the process holds now.
 inline qint64 peakMemoryMb(bool reset)

@@ -348,7 +348,8 @@ private slots:
                  QStringLiteral("Error During Download\n\nThe installer is larger than 256 MB."));
         const qint64 peak = peakMemoryMb(false);
         qInfo("endless installer: refused at the limit, peak %lld MB (%lld MB before)", peak, before);
-        QVERIFY2(peak - before < 64, qPrintable(QStringLiteral("peak %1 MB, %2 MB before").arg(peak).arg(before)));
+        if (PeakMemoryIsMeaningful)
+            QVERIFY2(peak - before < 64, qPrintable(QStringLiteral("peak %1 MB, %2 MB before").arg(peak).arg(before)));
         QVERIFY(!shown.isEmpty());
         // No total is known: a count, never "of 0".
         QVERIFY2(shown.last().endsWith(QStringLiteral(" bytes")) && !shown.last().contains(QStringLiteral(" of ")),
