@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // Measures the query engine against a simulated fleet that runs on its own
 // thread, so the fleet's work does not count against the engine's.
 //

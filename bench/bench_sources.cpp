@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // The first query of a player whose sources are those of today: a master
 // that no longer answers beside a published list that answers within a few
 // hundred milliseconds, and 30 live servers that answer within 40 ms. How

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // The two colour-code grammars (server names count carets, player names
 // do not): what a label shows is what the list shows (SOH aside), one
 // colour per character.

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // filters.dat as found, and the lines written for any typed filter.
 #include "filters.h"
 #include "fuzzinput.h"

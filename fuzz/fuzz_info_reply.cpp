@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // A game server's infoResponse, whatever a server (or anyone forging one)
 // sends: parsed without a crash, and its parts stay consistent.
 #include "fuzzinput.h"

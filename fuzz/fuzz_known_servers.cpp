@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // servers.dat as a crash, a disk fault or a person may have left it. What
 // is read writes back to the same list, and an update never keeps more
 // than the cap or a server that should be forgotten.

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // A master's reply: the input is cut into datagrams of at most 1,396
 // bytes as a socket would deliver them, gathered, cut into records and
 // turned into the address table.

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // The filters' wildcard match with any text and any pattern (split at the
 // first zero byte): no crash, no run-away time on many stars.
 #include "filters.h"

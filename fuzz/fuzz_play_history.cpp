@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // history.dat as a crash, a disk fault or a person may have left it. What
 // is read writes back to the same list, holds each server once, and a join
 // recorded on top keeps it within the limit.

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // A published server list as any web site may serve it: JSON of any shape
 // or text of any bytes. What is read is always a usable address, never more
 // than the cap, and reads the same again when written as text.

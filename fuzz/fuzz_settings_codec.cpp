@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // Values of the settings file: lenient numbers, flags, truths and the
 // remembered entries of the drop-down boxes.
 #include "fuzzinput.h"

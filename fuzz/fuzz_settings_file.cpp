@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // The settings file as any editor (or a crash of another program) may have
 // left it: every key of the table reads without a crash.
 #include "fuzzinput.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // Themes.ini as found: read without a crash, and what is written from it
 // reads back the same (themes without a name aside, which are not written,
 // and line breaks in names, which become blanks).

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // The update site's version file as any server may send it. The reading
 // never fails, and a version is never newer than itself.
 #include "fuzzinput.h"

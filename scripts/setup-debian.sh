@@ -11,7 +11,7 @@ packages=(
     xvfb xauth
     iproute2 util-linux
     clang libclang-rt-14-dev
-    desktop-file-utils appstream dpkg-dev
+    desktop-file-utils appstream dpkg-dev lintian
 )
 
 missing=()

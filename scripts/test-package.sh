@@ -28,8 +28,17 @@ for size in 16 32 48 256; do
 done
 test -s "$root/usr/share/icons/hicolor/scalable/apps/q4vantage.svg"
 for page in man1/q4vantage-query.1 man1/q4vantage-sim.1 man6/q4vantage.6; do
-    test -s "$root/usr/share/man/$page"
+    zcat "$root/usr/share/man/$page.gz" | grep -q '^\.TH'
 done
+test -s "$root/usr/share/doc/q4vantage/copyright"
+zcat "$root/usr/share/doc/q4vantage/changelog.gz" | grep -q '^q4vantage '
+
+# Debian's own checker: no error and no warning.
+if ! report=$(lintian --fail-on error,warning "$deb" 2>&1); then
+    echo "lintian:"
+    echo "$report"
+    exit 1
+fi
 
 export HOME=$work/home XDG_CONFIG_HOME=$work/home/config XDG_DATA_HOME=$work/home/data
 "$root/usr/bin/q4vantage" --version | grep -q "$(sed -n 's/^project(Q4Vantage VERSION \([0-9.]*\).*/\1/p' CMakeLists.txt)"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 #include "masterquery.h"
 
 #include "hostlookup.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 #include "frmfavourites.h"
 
 #include "datafield.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 #include "fleet.h"
 #include "hostlookup.h"
 #include "masterprotocol.h"

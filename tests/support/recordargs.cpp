@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // Stands in for the game in join tests: writes the folder it was started
 // in and each argument it got, each ended by a zero byte (an argument may
 // hold line breaks), to the file named by Q4V_RECORD_TO.

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 #include "scripteddesktop.h"
 
 QMessageBox::StandardButton ScriptedDesktop::message(QWidget*, Icon icon, const QString& title, const QString& text,

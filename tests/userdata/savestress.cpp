@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // Saves one data file over and over, alternating between two contents,
 // until it is killed: the crash-safety test kills it at random moments.
 //   q4_savestress favourites|filters|settings PATH

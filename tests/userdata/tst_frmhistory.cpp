@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 #include "frmhistory.h"
 #include "reportview.h"
 #include "settingsstore.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
 // Takes a picture of every window of the program in every language: the
 // main window listing a simulated fleet (both views, friends marked, one
 // server greyed by a refresh), the options dialog (every tab), the
