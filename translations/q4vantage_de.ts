@@ -1015,6 +1015,10 @@ Auf einen freien Platz warten und beitreten, sobald einer frei wird?</translatio
         <source>The servers that answered could not be remembered in %1.</source>
         <translation>Die Server, die geantwortet haben, konnten nicht in %1 gespeichert werden.</translation>
     </message>
+    <message>
+        <source>No server answered on the local network; the list is as it was.</source>
+        <translation>Im lokalen Netzwerk hat kein Server geantwortet; die Liste bleibt, wie sie war.</translation>
+    </message>
 </context>
 <context>
     <name>QueryError</name>

@@ -1007,6 +1007,10 @@ Wait for a free slot and join as soon as one opens?</source>
         <source>The servers that answered could not be remembered in %1.</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>No server answered on the local network; the list is as it was.</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>QueryError</name>

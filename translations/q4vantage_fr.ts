@@ -331,8 +331,8 @@
     <message numerus="yes">
         <source>%n servers added elsewhere since this list was opened are kept as well.</source>
         <translation>
-            <numerusform>%n serveur ajouté ailleurs depuis l'ouverture de cette liste est conservé aussi.</numerusform>
-            <numerusform>%n serveurs ajoutés ailleurs depuis l'ouverture de cette liste sont conservés aussi.</numerusform>
+            <numerusform>%n serveur ajouté ailleurs depuis l&apos;ouverture de cette liste est conservé aussi.</numerusform>
+            <numerusform>%n serveurs ajoutés ailleurs depuis l&apos;ouverture de cette liste sont conservés aussi.</numerusform>
         </translation>
     </message>
 </context>
@@ -1013,7 +1013,11 @@ Attendre une place libre et rejoindre dès qu&apos;une place se libère ?</trans
     </message>
     <message>
         <source>The servers that answered could not be remembered in %1.</source>
-        <translation>Les serveurs qui ont répondu n'ont pas pu être enregistrés dans %1.</translation>
+        <translation>Les serveurs qui ont répondu n&apos;ont pas pu être enregistrés dans %1.</translation>
+    </message>
+    <message>
+        <source>No server answered on the local network; the list is as it was.</source>
+        <translation>Aucun serveur n'a répondu sur le réseau local ; la liste reste telle quelle.</translation>
     </message>
 </context>
 <context>

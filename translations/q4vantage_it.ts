@@ -331,8 +331,8 @@ hanno risposto %2 server su %3</translation>
     <message numerus="yes">
         <source>%n servers added elsewhere since this list was opened are kept as well.</source>
         <translation>
-            <numerusform>%n server aggiunto altrove dopo l'apertura di questo elenco viene mantenuto.</numerusform>
-            <numerusform>%n server aggiunti altrove dopo l'apertura di questo elenco vengono mantenuti.</numerusform>
+            <numerusform>%n server aggiunto altrove dopo l&apos;apertura di questo elenco viene mantenuto.</numerusform>
+            <numerusform>%n server aggiunti altrove dopo l&apos;apertura di questo elenco vengono mantenuti.</numerusform>
         </translation>
     </message>
 </context>
@@ -1014,6 +1014,10 @@ Attendere un posto libero ed entrare appena se ne libera uno?</translation>
     <message>
         <source>The servers that answered could not be remembered in %1.</source>
         <translation>I server che hanno risposto non sono stati memorizzati in %1.</translation>
+    </message>
+    <message>
+        <source>No server answered on the local network; the list is as it was.</source>
+        <translation>Nessun server ha risposto nella rete locale; l'elenco resta com'era.</translation>
     </message>
 </context>
 <context>

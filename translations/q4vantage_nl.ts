@@ -1015,6 +1015,10 @@ Wachten op een vrije plek en deelnemen zodra er een vrijkomt?</translation>
         <source>The servers that answered could not be remembered in %1.</source>
         <translation>De servers die antwoordden konden niet worden onthouden in %1.</translation>
     </message>
+    <message>
+        <source>No server answered on the local network; the list is as it was.</source>
+        <translation>Geen server antwoordde op het lokale netwerk; de lijst blijft zoals ze was.</translation>
+    </message>
 </context>
 <context>
     <name>QueryError</name>

@@ -1015,6 +1015,10 @@ Esperar por uma vaga e entrar assim que uma abrir?</translation>
         <source>The servers that answered could not be remembered in %1.</source>
         <translation>Os servidores que responderam não puderam ser memorizados em %1.</translation>
     </message>
+    <message>
+        <source>No server answered on the local network; the list is as it was.</source>
+        <translation>Nenhum servidor respondeu na rede local; a lista fica como estava.</translation>
+    </message>
 </context>
 <context>
     <name>QueryError</name>

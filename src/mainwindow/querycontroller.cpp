@@ -46,7 +46,12 @@ QueryController::QueryController(SettingsStore& settings, const QString& dataFol
             return;
         }
         const bool saved = remember(true);
-        stop(tr("Done"), StatusTone::Done);
+        flush();
+        // A LAN search that found nothing leaves the list of the last query.
+        if (std::exchange(m_clearWithFirstAnswer, false))
+            stop(tr("No server answered on the local network; the list is as it was."), StatusTone::Hint);
+        else
+            stop(tr("Done"), StatusTone::Done);
         if (!saved)
             sayNotSaved();
     });
@@ -76,7 +81,7 @@ bool QueryController::preparePool()
     return true;
 }
 
-bool QueryController::begin()
+bool QueryController::begin(ListsGo listsGo)
 {
     if (!preparePool())
         return false;
@@ -88,7 +93,9 @@ bool QueryController::begin()
     m_awaitedSources.clear();
     emit sourcesReported(QString());
     emit busyChanged(true);
-    emit started();
+    m_clearWithFirstAnswer = listsGo == ListsGo::WithFirstAnswer;
+    if (!m_clearWithFirstAnswer)
+        emit started();
     emit progress(0, 1);
     emit status(QString(), StatusTone::Requesting);
     return true;
@@ -235,7 +242,7 @@ void QueryController::startLanQuery()
         emit status(tr("No local network to search: no network interface can broadcast."), StatusTone::Hint);
         return;
     }
-    if (!begin())
+    if (!begin(ListsGo::WithFirstAnswer))
         return;
     if (const auto error = m_session.startLan(targets))
         fail(*error);
@@ -333,6 +340,8 @@ void QueryController::flushTo(bool inPlace)
     if (m_pending.isEmpty())
         return;
     const QList<ServerRecord> batch = std::exchange(m_pending, {});
+    if (!inPlace && std::exchange(m_clearWithFirstAnswer, false))
+        emit started();
     inPlace ? emit updated(batch) : emit answers(batch);
 }
 
@@ -340,6 +349,7 @@ void QueryController::stop(const QString& text, StatusTone tone)
 {
     m_session.cancel();
     flush();
+    m_clearWithFirstAnswer = false;
     emit ended();
     emit busyChanged(false);
     emit status(text, tone);
@@ -350,6 +360,7 @@ void QueryController::fail(const QueryError& error)
 {
     m_session.cancel();
     flush();
+    m_clearWithFirstAnswer = false;
     emit busyChanged(false);
     emit progress(0, 1);
     emit status(error.message(), StatusTone::Failed);

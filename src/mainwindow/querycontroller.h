@@ -74,7 +74,10 @@ signals:
 
 private:
     bool preparePool();
-    bool begin();
+    // When the lists of the last query go: at the start, or only once an
+    // answer comes (a LAN search that finds nothing keeps them).
+    enum class ListsGo { AtStart, WithFirstAnswer };
+    bool begin(ListsGo listsGo = ListsGo::AtStart);
     void showPhase(QuerySession::Phase phase);
     void showQuerying();
     void queue(const ServerRecord& server, bool refresh);
@@ -91,6 +94,7 @@ private:
     void endRound();
     void finishRound();
     bool m_quiet = false;
+    bool m_clearWithFirstAnswer = false;
 
     SettingsStore& m_settings;
     QString m_favouritesPath;

@@ -137,6 +137,23 @@ private slots:
         QCOMPARE(KnownServers::readFile(w.dataFile(QStringLiteral("servers.dat"))).size(), 2);
     }
 
+    void aLanSearchThatFindsNothingKeepsTheList()
+    {
+        SimFleet fleet(fleetOf(3, 26950));
+        QVERIFY(!fleet.start());
+        // Nothing answers on the game ports of this address.
+        TestWindow w(26950, StartPort + 250,
+                     [](SettingsStore& settings) { settings.save(u"LanBroadcast", QStringLiteral("127.0.0.9")); });
+        QVERIFY(w.queryMasters());
+        QCOMPARE(listedRows(w), 3);
+        QTest::mouseClick(w.button("cmdLan"), Qt::LeftButton);
+        QCOMPARE(listedRows(w), 3);
+        QTRY_VERIFY_WITH_TIMEOUT(!w.window->queries().isRunning(), LanQuery::WaitMs + 2000);
+        QCOMPARE(w.status(), QStringLiteral("No server answered on the local network; the list is as it was."));
+        QCOMPARE(listedRows(w), 3);
+        QCOMPARE(w.find<QLabel>("lblServers")->text(), QStringLiteral("3 servers found"));
+    }
+
     void theUpdateSiteIsAskedAtStartOnlyWhenWanted()
     {
         HttpResponder site;
