@@ -335,6 +335,10 @@
             <numerusform>%n anderswo hinzugefügte Server seit dem Öffnen dieser Liste bleiben ebenfalls erhalten.</numerusform>
         </translation>
     </message>
+    <message>
+        <source>&quot;%1&quot; is not a server address. Type a host name or an IP address, followed by a colon and a port from 1 to 65535.</source>
+        <translation>„%1“ ist keine Serveradresse. Geben Sie einen Hostnamen oder eine IP-Adresse ein, gefolgt von einem Doppelpunkt und einem Port von 1 bis 65535.</translation>
+    </message>
 </context>
 <context>
     <name>FrmFilters</name>
@@ -775,6 +779,10 @@ Auf einen freien Platz warten und beitreten, sobald einer frei wird?</translatio
     <message>
         <source>The game started, but the list of recently played servers could not be saved.</source>
         <translation>Das Spiel wurde gestartet, aber die Liste der zuletzt gespielten Server konnte nicht gespeichert werden.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a server address. Type a host name or an IP address, followed by a colon and a port from 1 to 65535 when the port is not the game&apos;s.</source>
+        <translation>„%1“ ist keine Serveradresse. Geben Sie einen Hostnamen oder eine IP-Adresse ein, gefolgt von einem Doppelpunkt und einem Port von 1 bis 65535, wenn es nicht der Port des Spiels ist.</translation>
     </message>
 </context>
 <context>

@@ -331,6 +331,10 @@
             <numerusform></numerusform>
         </translation>
     </message>
+    <message>
+        <source>&quot;%1&quot; is not a server address. Type a host name or an IP address, followed by a colon and a port from 1 to 65535.</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>FrmFilters</name>
@@ -769,6 +773,10 @@ Wait for a free slot and join as soon as one opens?</source>
     </message>
     <message>
         <source>The game started, but the list of recently played servers could not be saved.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a server address. Type a host name or an IP address, followed by a colon and a port from 1 to 65535 when the port is not the game&apos;s.</source>
         <translation type="unfinished"></translation>
     </message>
 </context>

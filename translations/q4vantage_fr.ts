@@ -335,6 +335,10 @@
             <numerusform>%n serveurs ajoutés ailleurs depuis l&apos;ouverture de cette liste sont conservés aussi.</numerusform>
         </translation>
     </message>
+    <message>
+        <source>&quot;%1&quot; is not a server address. Type a host name or an IP address, followed by a colon and a port from 1 to 65535.</source>
+        <translation>« %1 » n'est pas une adresse de serveur. Saisissez un nom d'hôte ou une adresse IP, suivi de deux-points et d'un port de 1 à 65535.</translation>
+    </message>
 </context>
 <context>
     <name>FrmFilters</name>
@@ -776,6 +780,10 @@ Attendre une place libre et rejoindre dès qu&apos;une place se libère ?</trans
         <source>The game started, but the list of recently played servers could not be saved.</source>
         <translation>Le jeu a démarré, mais la liste des serveurs joués récemment n&apos;a pas pu être enregistrée.</translation>
     </message>
+    <message>
+        <source>&quot;%1&quot; is not a server address. Type a host name or an IP address, followed by a colon and a port from 1 to 65535 when the port is not the game&apos;s.</source>
+        <translation>« %1 » n'est pas une adresse de serveur. Saisissez un nom d'hôte ou une adresse IP, suivi de deux-points et d'un port de 1 à 65535 si ce n'est pas celui du jeu.</translation>
+    </message>
 </context>
 <context>
     <name>JoinPanel</name>
@@ -1017,7 +1025,7 @@ Attendre une place libre et rejoindre dès qu&apos;une place se libère ?</trans
     </message>
     <message>
         <source>No server answered on the local network; the list is as it was.</source>
-        <translation>Aucun serveur n'a répondu sur le réseau local ; la liste reste telle quelle.</translation>
+        <translation>Aucun serveur n&apos;a répondu sur le réseau local ; la liste reste telle quelle.</translation>
     </message>
 </context>
 <context>

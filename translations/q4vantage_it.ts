@@ -335,6 +335,10 @@ hanno risposto %2 server su %3</translation>
             <numerusform>%n server aggiunti altrove dopo l&apos;apertura di questo elenco vengono mantenuti.</numerusform>
         </translation>
     </message>
+    <message>
+        <source>&quot;%1&quot; is not a server address. Type a host name or an IP address, followed by a colon and a port from 1 to 65535.</source>
+        <translation>"%1" non è un indirizzo di server. Digitare un nome host o un indirizzo IP, seguito da due punti e da una porta da 1 a 65535.</translation>
+    </message>
 </context>
 <context>
     <name>FrmFilters</name>
@@ -776,6 +780,10 @@ Attendere un posto libero ed entrare appena se ne libera uno?</translation>
         <source>The game started, but the list of recently played servers could not be saved.</source>
         <translation>Il gioco è partito, ma non è stato possibile salvare l&apos;elenco dei server giocati di recente.</translation>
     </message>
+    <message>
+        <source>&quot;%1&quot; is not a server address. Type a host name or an IP address, followed by a colon and a port from 1 to 65535 when the port is not the game&apos;s.</source>
+        <translation>"%1" non è un indirizzo di server. Digitare un nome host o un indirizzo IP, seguito da due punti e da una porta da 1 a 65535 se non è quella del gioco.</translation>
+    </message>
 </context>
 <context>
     <name>JoinPanel</name>
@@ -1017,7 +1025,7 @@ Attendere un posto libero ed entrare appena se ne libera uno?</translation>
     </message>
     <message>
         <source>No server answered on the local network; the list is as it was.</source>
-        <translation>Nessun server ha risposto nella rete locale; l'elenco resta com'era.</translation>
+        <translation>Nessun server ha risposto nella rete locale; l&apos;elenco resta com&apos;era.</translation>
     </message>
 </context>
 <context>

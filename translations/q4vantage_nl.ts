@@ -335,6 +335,10 @@
             <numerusform>%n servers die elders zijn toegevoegd sinds deze lijst openging, blijven ook bewaard.</numerusform>
         </translation>
     </message>
+    <message>
+        <source>&quot;%1&quot; is not a server address. Type a host name or an IP address, followed by a colon and a port from 1 to 65535.</source>
+        <translation>"%1" is geen serveradres. Typ een hostnaam of een IP-adres, gevolgd door een dubbele punt en een poort van 1 tot 65535.</translation>
+    </message>
 </context>
 <context>
     <name>FrmFilters</name>
@@ -775,6 +779,10 @@ Wachten op een vrije plek en deelnemen zodra er een vrijkomt?</translation>
     <message>
         <source>The game started, but the list of recently played servers could not be saved.</source>
         <translation>Het spel is gestart, maar de lijst van recent gespeelde servers kon niet worden opgeslagen.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a server address. Type a host name or an IP address, followed by a colon and a port from 1 to 65535 when the port is not the game&apos;s.</source>
+        <translation>"%1" is geen serveradres. Typ een hostnaam of een IP-adres, gevolgd door een dubbele punt en een poort van 1 tot 65535 als het niet de poort van het spel is.</translation>
     </message>
 </context>
 <context>

@@ -335,6 +335,10 @@ responderam %2 de %3 servidores</translation>
             <numerusform>%n servidores adicionados noutro lado desde que esta lista foi aberta também são mantidos.</numerusform>
         </translation>
     </message>
+    <message>
+        <source>&quot;%1&quot; is not a server address. Type a host name or an IP address, followed by a colon and a port from 1 to 65535.</source>
+        <translation>"%1" não é um endereço de servidor. Escreva um nome de anfitrião ou um endereço IP, seguido de dois pontos e de uma porta de 1 a 65535.</translation>
+    </message>
 </context>
 <context>
     <name>FrmFilters</name>
@@ -775,6 +779,10 @@ Esperar por uma vaga e entrar assim que uma abrir?</translation>
     <message>
         <source>The game started, but the list of recently played servers could not be saved.</source>
         <translation>O jogo arrancou, mas não foi possível guardar a lista de servidores jogados recentemente.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a server address. Type a host name or an IP address, followed by a colon and a port from 1 to 65535 when the port is not the game&apos;s.</source>
+        <translation>"%1" não é um endereço de servidor. Escreva um nome de anfitrião ou um endereço IP, seguido de dois pontos e de uma porta de 1 a 65535 quando não for a do jogo.</translation>
     </message>
 </context>
 <context>

@@ -27,12 +27,27 @@ JoinFlow::JoinFlow(SettingsStore& settings, Desktop& desktop, QString favourites
 
 void JoinFlow::joinByAddress()
 {
-    const auto typed =
-        m_desktop.inputText(m_window, tr("Join server by IP Address"),
-                            tr("Please enter the IP address/hostname and port of the server you wish to join"));
-    if (!typed || typed->trimmed().isEmpty())
-        return;
-    join(Target{typed->trimmed(), false, typed->trimmed()});
+    QString offered;
+    for (;;) {
+        const auto typed = m_desktop.inputText(
+            m_window, tr("Join server by IP Address"),
+            tr("Please enter the IP address/hostname and port of the server you wish to join"), offered);
+        if (!typed || typed->trimmed().isEmpty())
+            return;
+        const QString address = typed->trimmed();
+        if (isServerAddress(address)) {
+            join(Target{address, false, address});
+            return;
+        }
+        // Said, and offered again for correction: the game would only
+        // fail to connect.
+        m_desktop.message(m_window, Desktop::Icon::Warning, tr("Join server by IP Address"),
+                          tr("\"%1\" is not a server address. Type a host name or an IP address, followed by a colon "
+                             "and a port from 1 to 65535 when the port is not the game's.")
+                              .arg(address),
+                          QMessageBox::Ok);
+        offered = address;
+    }
 }
 
 QString JoinFlow::passwordFor(const Target& target) const

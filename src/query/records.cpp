@@ -16,6 +16,32 @@ QString canonicalHost(const QString& host)
     return host.toLower();
 }
 
+bool isHostName(QStringView host)
+{
+    if (host.isEmpty() || host.size() > 253 || host.startsWith(QLatin1Char('.')) || host.startsWith(QLatin1Char('-')))
+        return false;
+    for (const QChar c : host) {
+        const bool allowed = (c >= QLatin1Char('a') && c <= QLatin1Char('z')) ||
+                             (c >= QLatin1Char('A') && c <= QLatin1Char('Z')) ||
+                             (c >= QLatin1Char('0') && c <= QLatin1Char('9')) || c == QLatin1Char('.') ||
+                             c == QLatin1Char('-') || c == QLatin1Char('_');
+        if (!allowed)
+            return false;
+    }
+    return true;
+}
+
+bool isServerAddress(QStringView text)
+{
+    text = text.trimmed();
+    const qsizetype colon = text.indexOf(QLatin1Char(':'));
+    if (colon < 0)
+        return isHostName(text);
+    bool ok = false;
+    const int port = text.mid(colon + 1).toInt(&ok);
+    return ok && port >= 1 && port <= 65535 && isHostName(text.left(colon));
+}
+
 void AddressTable::add(const QString& address, int port, const QString& name, const QString& password)
 {
     m_entries.append(AddressEntry{address, port, name, password});

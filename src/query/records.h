@@ -5,6 +5,7 @@
 #include <QList>
 #include <QString>
 #include <QStringList>
+#include <QStringView>
 
 #include <optional>
 
@@ -15,6 +16,13 @@ QString endpointText(const QString& address, int port);
 // ("127.1", "2130706433", "0x7f000001", "127.0.0.01") as its dotted
 // quad, a host name in lower case. Lists name one server in many ways.
 QString canonicalHost(const QString& host);
+
+// A host name or IPv4 address as a server may be named: letters, digits,
+// ".", "-" and "_", not starting with "." or "-".
+bool isHostName(QStringView host);
+// What a user may type to name a server: a host, or host:port with a port
+// from 1 to 65535.
+bool isServerAddress(QStringView text);
 
 // One address the scheduler will query. Name and password are filled only
 // when the table comes from the favourites.

@@ -10,21 +10,6 @@
 
 namespace {
 
-bool isHostName(QStringView host)
-{
-    if (host.isEmpty() || host.size() > 253 || host.startsWith(QLatin1Char('.')) || host.startsWith(QLatin1Char('-')))
-        return false;
-    for (const QChar c : host) {
-        const bool allowed = (c >= QLatin1Char('a') && c <= QLatin1Char('z')) ||
-                             (c >= QLatin1Char('A') && c <= QLatin1Char('Z')) ||
-                             (c >= QLatin1Char('0') && c <= QLatin1Char('9')) || c == QLatin1Char('.') ||
-                             c == QLatin1Char('-') || c == QLatin1Char('_');
-        if (!allowed)
-            return false;
-    }
-    return true;
-}
-
 std::optional<int> portOf(const QJsonValue& value)
 {
     bool ok = true;

@@ -246,7 +246,16 @@ void FrmFavourites::hideEvent(QHideEvent* event)
 
 void FrmFavourites::commitCell(int row, int column, const QString& text)
 {
-    m_model->setCell(row, column, text);
+    // An address the queries and the game cannot use is not taken: it
+    // would be saved, then skipped by every query without a word.
+    if (column == FavouritesModel::Address && !text.trimmed().isEmpty() && !isServerAddress(text)) {
+        showMessage(tr("\"%1\" is not a server address. Type a host name or an IP address, followed by a colon and "
+                       "a port from 1 to 65535.")
+                        .arg(text));
+        return;
+    }
+    showMessage(QString());
+    m_model->setCell(row, column, text.trimmed());
 }
 
 void FrmFavourites::newRow()

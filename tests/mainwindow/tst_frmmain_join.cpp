@@ -229,6 +229,16 @@ private slots:
         j.desktop.inputAnswers.enqueue(QStringLiteral("q4.example.org:28004"));
         j.find<QPushButton>("cmdJoinIP")->click();
         QCOMPARE(j.desktop.starts.last().arguments, (QStringList{"+connect", "q4.example.org:28004"}));
+
+        // Not an address: said, offered again as typed, and nothing starts.
+        const auto starts = j.desktop.starts.size();
+        j.desktop.inputAnswers.enqueue(QStringLiteral("foo bar"));
+        j.desktop.messageAnswers.enqueue(QMessageBox::Ok);
+        j.desktop.inputAnswers.enqueue(std::nullopt);
+        j.find<QPushButton>("cmdJoinIP")->click();
+        QVERIFY(j.desktop.messages.last().text.startsWith(QStringLiteral("\"foo bar\" is not a server address.")));
+        QCOMPARE(j.desktop.inputs.last().initialText, QStringLiteral("foo bar"));
+        QCOMPARE(j.desktop.starts.size(), starts);
     }
 
     void copyCommandsAndAddToFavourites()

@@ -62,6 +62,34 @@ private slots:
         QCOMPARE(store.storedPlayerCount(), 0);
         QCOMPARE(store.add(second), 0);
     }
+
+    void whatNamesAServer_data()
+    {
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<bool>("server");
+        QTest::newRow("host") << "q4.example.org" << true;
+        QTest::newRow("host and port") << " 10.0.0.1:28004 " << true;
+        QTest::newRow("blank inside") << "foo bar" << false;
+        QTest::newRow("port 0") << "host:0" << false;
+        QTest::newRow("port too high") << "host:65536" << false;
+        QTest::newRow("no host") << ":28004" << false;
+        QTest::newRow("no port") << "host:" << false;
+        QTest::newRow("two colons") << "a:1:2" << false;
+        QTest::newRow("leading dot") << ".host" << false;
+    }
+    void whatNamesAServer()
+    {
+        QFETCH(QString, text);
+        QFETCH(bool, server);
+        QCOMPARE(isServerAddress(text), server);
+    }
+
+    void oneSpellingPerHost()
+    {
+        for (const char* spelling : {"127.1", "2130706433", "0x7f000001", "127.0.0.01", "127.0.0.1"})
+            QCOMPARE(canonicalHost(QLatin1String(spelling)), QStringLiteral("127.0.0.1"));
+        QCOMPARE(canonicalHost(QStringLiteral("Q4.Example.ORG")), QStringLiteral("q4.example.org"));
+    }
 };
 
 QTEST_APPLESS_MAIN(TestRecords)

@@ -80,6 +80,26 @@ private slots:
         QCOMPARE(Favourites::readFile(path())->size(), 2);
     }
 
+    void anAddressThatNamesNoServerIsRefused()
+    {
+        FrmFavourites form(*m_settings, m_dir->path());
+        form.show();
+        button(form, "cmdNew")->click();
+        auto* box = form.findChild<QLineEdit*>(QStringLiteral("txtEdit"));
+        form.editCell(0, FavouritesModel::Address);
+        box->setText(QStringLiteral("not an address"));
+        QTest::keyClick(box, Qt::Key_Return);
+        QCOMPARE(form.rows().first().at(FavouritesModel::Address), QString());
+        QVERIFY(form.findChild<QLabel*>(QStringLiteral("lblMessage"))
+                    ->text()
+                    .startsWith(QStringLiteral("\"not an address\" is not a server address.")));
+        form.editCell(0, FavouritesModel::Address);
+        box->setText(QStringLiteral(" q4.example.org:28004 "));
+        QTest::keyClick(box, Qt::Key_Return);
+        QCOMPARE(form.rows().first().at(FavouritesModel::Address), QStringLiteral("q4.example.org:28004"));
+        QVERIFY(form.findChild<QLabel*>(QStringLiteral("lblMessage"))->text().isEmpty());
+    }
+
     void editsReachTheFileOnlyOnApplyOrOk()
     {
         write("1.2.3.4:1\x01\x01Old\r\n");
