@@ -304,25 +304,22 @@ void QueryScheduler::readReplies(int index)
 
 void QueryScheduler::skip(int index)
 {
-    Slot& slot = m_slots[index];
-    if (!slot.busy)
-        return;
-    slot.lookup->abort();
-    const bool refresh = slot.refresh;
-    ++m_skipped;
-    release(index);
-    if (!refresh)
-        pump();
+    giveUp(index, m_skipped);
 }
 
 void QueryScheduler::timeOut(int index)
+{
+    giveUp(index, m_timedOut);
+}
+
+void QueryScheduler::giveUp(int index, int& counter)
 {
     Slot& slot = m_slots[index];
     if (!slot.busy)
         return;
     slot.lookup->abort();
     const bool refresh = slot.refresh;
-    ++m_timedOut;
+    ++counter;
     release(index);
     if (!refresh)
         pump();

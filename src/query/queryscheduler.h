@@ -101,6 +101,8 @@ private:
     void readReplies(int index);
     void timeOut(int index);
     void skip(int index);
+    // The slot's server gets no answer; counter says why.
+    void giveUp(int index, int& counter);
     bool isOwnSocket(const QHostAddress& target, int port) const;
     void pump();
 
