@@ -478,6 +478,10 @@
         <source>%1 is not listed now: &quot;Query Recently Played&quot; asks every server you played on.</source>
         <translation>%1 ist gerade nicht aufgelistet: „Zuletzt gespielte anfragen“ fragt jeden Server ab, auf dem Sie gespielt haben.</translation>
     </message>
+    <message>
+        <source>Check the network connection, or add a master server or a server list that works in Options, on the &quot;Servers&quot; tab.</source>
+        <translation>Prüfen Sie die Netzwerkverbindung, oder fügen Sie in den Optionen auf der Registerkarte „Server“ einen funktionierenden Master-Server oder eine Serverliste hinzu.</translation>
+    </message>
 </context>
 <context>
     <name>FrmOptions</name>

@@ -474,6 +474,10 @@
         <source>%1 is not listed now: &quot;Query Recently Played&quot; asks every server you played on.</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>Check the network connection, or add a master server or a server list that works in Options, on the &quot;Servers&quot; tab.</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>FrmOptions</name>

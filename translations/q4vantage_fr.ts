@@ -337,7 +337,7 @@
     </message>
     <message>
         <source>&quot;%1&quot; is not a server address. Type a host name or an IP address, followed by a colon and a port from 1 to 65535.</source>
-        <translation>« %1 » n'est pas une adresse de serveur. Saisissez un nom d'hôte ou une adresse IP, suivi de deux-points et d'un port de 1 à 65535.</translation>
+        <translation>« %1 » n&apos;est pas une adresse de serveur. Saisissez un nom d&apos;hôte ou une adresse IP, suivi de deux-points et d&apos;un port de 1 à 65535.</translation>
     </message>
 </context>
 <context>
@@ -477,6 +477,10 @@
     <message>
         <source>%1 is not listed now: &quot;Query Recently Played&quot; asks every server you played on.</source>
         <translation>%1 n&apos;est pas dans la liste pour l&apos;instant : « Rechercher Joués récemment » interroge chaque serveur sur lequel vous avez joué.</translation>
+    </message>
+    <message>
+        <source>Check the network connection, or add a master server or a server list that works in Options, on the &quot;Servers&quot; tab.</source>
+        <translation>Vérifiez la connexion réseau, ou ajoutez un serveur maître ou une liste de serveurs qui fonctionne dans les Options, onglet « Serveurs ».</translation>
     </message>
 </context>
 <context>
@@ -782,7 +786,7 @@ Attendre une place libre et rejoindre dès qu&apos;une place se libère ?</trans
     </message>
     <message>
         <source>&quot;%1&quot; is not a server address. Type a host name or an IP address, followed by a colon and a port from 1 to 65535 when the port is not the game&apos;s.</source>
-        <translation>« %1 » n'est pas une adresse de serveur. Saisissez un nom d'hôte ou une adresse IP, suivi de deux-points et d'un port de 1 à 65535 si ce n'est pas celui du jeu.</translation>
+        <translation>« %1 » n&apos;est pas une adresse de serveur. Saisissez un nom d&apos;hôte ou une adresse IP, suivi de deux-points et d&apos;un port de 1 à 65535 si ce n&apos;est pas celui du jeu.</translation>
     </message>
 </context>
 <context>

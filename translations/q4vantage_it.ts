@@ -337,7 +337,7 @@ hanno risposto %2 server su %3</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is not a server address. Type a host name or an IP address, followed by a colon and a port from 1 to 65535.</source>
-        <translation>"%1" non è un indirizzo di server. Digitare un nome host o un indirizzo IP, seguito da due punti e da una porta da 1 a 65535.</translation>
+        <translation>&quot;%1&quot; non è un indirizzo di server. Digitare un nome host o un indirizzo IP, seguito da due punti e da una porta da 1 a 65535.</translation>
     </message>
 </context>
 <context>
@@ -477,6 +477,10 @@ hanno risposto %2 server su %3</translation>
     <message>
         <source>%1 is not listed now: &quot;Query Recently Played&quot; asks every server you played on.</source>
         <translation>%1 non è in elenco ora: «Interroga Giocati di recente» interroga ogni server su cui hai giocato.</translation>
+    </message>
+    <message>
+        <source>Check the network connection, or add a master server or a server list that works in Options, on the &quot;Servers&quot; tab.</source>
+        <translation>Controllare la connessione di rete, oppure aggiungere un master server o un elenco di server funzionante nelle Opzioni, scheda "Server".</translation>
     </message>
 </context>
 <context>
@@ -782,7 +786,7 @@ Attendere un posto libero ed entrare appena se ne libera uno?</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is not a server address. Type a host name or an IP address, followed by a colon and a port from 1 to 65535 when the port is not the game&apos;s.</source>
-        <translation>"%1" non è un indirizzo di server. Digitare un nome host o un indirizzo IP, seguito da due punti e da una porta da 1 a 65535 se non è quella del gioco.</translation>
+        <translation>&quot;%1&quot; non è un indirizzo di server. Digitare un nome host o un indirizzo IP, seguito da due punti e da una porta da 1 a 65535 se non è quella del gioco.</translation>
     </message>
 </context>
 <context>

@@ -337,7 +337,7 @@
     </message>
     <message>
         <source>&quot;%1&quot; is not a server address. Type a host name or an IP address, followed by a colon and a port from 1 to 65535.</source>
-        <translation>"%1" is geen serveradres. Typ een hostnaam of een IP-adres, gevolgd door een dubbele punt en een poort van 1 tot 65535.</translation>
+        <translation>&quot;%1&quot; is geen serveradres. Typ een hostnaam of een IP-adres, gevolgd door een dubbele punt en een poort van 1 tot 65535.</translation>
     </message>
 </context>
 <context>
@@ -477,6 +477,10 @@
     <message>
         <source>%1 is not listed now: &quot;Query Recently Played&quot; asks every server you played on.</source>
         <translation>%1 staat nu niet in de lijst: &apos;Query Recent gespeeld&apos; vraagt elke server op waarop u hebt gespeeld.</translation>
+    </message>
+    <message>
+        <source>Check the network connection, or add a master server or a server list that works in Options, on the &quot;Servers&quot; tab.</source>
+        <translation>Controleer de netwerkverbinding, of voeg in Opties, op het tabblad "Servers", een masterserver of een serverlijst toe die werkt.</translation>
     </message>
 </context>
 <context>
@@ -782,7 +786,7 @@ Wachten op een vrije plek en deelnemen zodra er een vrijkomt?</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is not a server address. Type a host name or an IP address, followed by a colon and a port from 1 to 65535 when the port is not the game&apos;s.</source>
-        <translation>"%1" is geen serveradres. Typ een hostnaam of een IP-adres, gevolgd door een dubbele punt en een poort van 1 tot 65535 als het niet de poort van het spel is.</translation>
+        <translation>&quot;%1&quot; is geen serveradres. Typ een hostnaam of een IP-adres, gevolgd door een dubbele punt en een poort van 1 tot 65535 als het niet de poort van het spel is.</translation>
     </message>
 </context>
 <context>

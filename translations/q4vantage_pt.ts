@@ -337,7 +337,7 @@ responderam %2 de %3 servidores</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is not a server address. Type a host name or an IP address, followed by a colon and a port from 1 to 65535.</source>
-        <translation>"%1" não é um endereço de servidor. Escreva um nome de anfitrião ou um endereço IP, seguido de dois pontos e de uma porta de 1 a 65535.</translation>
+        <translation>&quot;%1&quot; não é um endereço de servidor. Escreva um nome de anfitrião ou um endereço IP, seguido de dois pontos e de uma porta de 1 a 65535.</translation>
     </message>
 </context>
 <context>
@@ -477,6 +477,10 @@ responderam %2 de %3 servidores</translation>
     <message>
         <source>%1 is not listed now: &quot;Query Recently Played&quot; asks every server you played on.</source>
         <translation>%1 não está listado agora: «Query Jogados recentemente» consulta cada servidor em que jogou.</translation>
+    </message>
+    <message>
+        <source>Check the network connection, or add a master server or a server list that works in Options, on the &quot;Servers&quot; tab.</source>
+        <translation>Verifique a ligação à rede, ou adicione um servidor mestre ou uma lista de servidores que funcione nas Opções, no separador "Servidores".</translation>
     </message>
 </context>
 <context>
@@ -782,7 +786,7 @@ Esperar por uma vaga e entrar assim que uma abrir?</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is not a server address. Type a host name or an IP address, followed by a colon and a port from 1 to 65535 when the port is not the game&apos;s.</source>
-        <translation>"%1" não é um endereço de servidor. Escreva um nome de anfitrião ou um endereço IP, seguido de dois pontos e de uma porta de 1 a 65535 quando não for a do jogo.</translation>
+        <translation>&quot;%1&quot; não é um endereço de servidor. Escreva um nome de anfitrião ou um endereço IP, seguido de dois pontos e de uma porta de 1 a 65535 quando não for a do jogo.</translation>
     </message>
 </context>
 <context>

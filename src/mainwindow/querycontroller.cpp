@@ -59,6 +59,7 @@ QueryController::QueryController(SettingsStore& settings, const QString& dataFol
     connect(
         &m_session, &QuerySession::masterTimedOut, this,
         [this] {
+            reportSources();
             emit busyChanged(false);
             emit status(tr("Master Servers Timed Out"), StatusTone::Failed);
             emit progress(0, 1);
@@ -395,7 +396,8 @@ void QueryController::reportSources()
     awaited.removeDuplicates();
     m_failedSources = failed.join(QStringLiteral(", "));
     m_awaitedSources = awaited.join(QStringLiteral(", "));
-    emit sourcesReported(lines.join(QLatin1Char('\n')));
+    m_sourceSummary = lines.join(QLatin1Char('\n'));
+    emit sourcesReported(m_sourceSummary);
 }
 
 bool QueryController::remember(bool finished)

@@ -26,6 +26,8 @@ public:
 
     const QuerySession& session() const { return m_session; }
     bool isRunning() const { return m_session.isRunning(); }
+    // What each source of the last query gave, one line each.
+    const QString& sourceSummary() const { return m_sourceSummary; }
 
     void startMasterQuery();
     void startFavouritesQuery();
@@ -104,6 +106,7 @@ private:
     QString m_sourceNames;
     QString m_failedSources;
     QString m_awaitedSources;
+    QString m_sourceSummary;
     // The servers that answered this query, for the known servers.
     QList<AddressEntry> m_answered;
     // A speed outside the table keeps the pool of the last query.

@@ -173,7 +173,9 @@ private slots:
         const auto& box = w.desktop.messages.first();
         QCOMPARE(box.icon, Desktop::Icon::Critical);
         QCOMPARE(box.buttons, QMessageBox::Retry | QMessageBox::Cancel);
-        QCOMPARE(box.text, QStringLiteral("Master Servers Timed Out"));
+        QCOMPARE(box.text, QStringLiteral("Master Servers Timed Out\n\n127.0.0.1:24300: did not answer\n\nCheck the "
+                                          "network connection, or add a master server or a server list that works in "
+                                          "Options, on the \"Servers\" tab."));
         QCOMPARE(fleet.masterRequests(), 2);
         QCOMPARE(w.status(), QStringLiteral("Master Servers Timed Out"));
         QCOMPARE(w.statusColour(), QColor(255, 0, 0));
