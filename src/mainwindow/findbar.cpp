@@ -7,7 +7,9 @@
 #include "reportview.h"
 #include "rowmarkdelegate.h"
 
+#include <QLineEdit>
 #include <QPushButton>
+#include <QShortcut>
 #include <QToolButton>
 
 FindBar::FindBar(TargetOf target, QWidget* parent)
@@ -28,6 +30,12 @@ FindBar::FindBar(TargetOf target, QWidget* parent)
     connect(m_box, &HistoryComboBox::picked, this, &FindBar::run);
     connect(m_box, &HistoryComboBox::enterPressed, this, &FindBar::findNext);
     connect(m_button, &QPushButton::clicked, this, &FindBar::findNext);
+    // Ctrl+F, as everywhere: the box takes the focus with its text chosen.
+    auto* findKey = new QShortcut(QKeySequence::Find, parent);
+    connect(findKey, &QShortcut::activated, this, [this] {
+        m_box->setFocus(Qt::ShortcutFocusReason);
+        m_box->lineEdit()->selectAll();
+    });
 }
 
 void FindBar::retranslate()

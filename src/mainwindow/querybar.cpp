@@ -8,6 +8,7 @@
 #include <QHBoxLayout>
 #include <QProgressBar>
 #include <QPushButton>
+#include <QShortcut>
 #include <QStackedLayout>
 
 namespace {
@@ -54,6 +55,19 @@ QueryBar::QueryBar(QueryController& queries, QWidget* window)
     prbProgress->setValue(0);
     prbProgress->setTextVisible(false);
 
+    // The keys of every browser, wherever the focus is in the window: F5
+    // queries, Esc stops a query. Each does what its button does, when the
+    // button could be clicked.
+    auto* queryKey = new QShortcut(QKeySequence::Refresh, window);
+    connect(queryKey, &QShortcut::activated, this, [this] {
+        if (cmdGet->isEnabled())
+            cmdGet->click();
+    });
+    auto* stopKey = new QShortcut(QKeySequence(Qt::Key_Escape), window);
+    connect(stopKey, &QShortcut::activated, this, [this] {
+        if (cmdCancel->isEnabled() && cmdCancel->isVisible())
+            cmdCancel->click();
+    });
     connect(cmdGet, &QPushButton::clicked, &queries, &QueryController::startMasterQuery);
     connect(cmdFav, &QPushButton::clicked, &queries, &QueryController::startFavouritesQuery);
     connect(cmdLan, &QPushButton::clicked, &queries, &QueryController::startLanQuery);

@@ -15,6 +15,7 @@
 #include "serverlists.h"
 #include "testwindow.h"
 
+#include <QApplication>
 #include <QCheckBox>
 #include <QClipboard>
 #include <QComboBox>
@@ -158,6 +159,31 @@ private slots:
         QTest::qWait(300);
         QCOMPARE(fleet.infoRequests(), requests);
         QCOMPARE(w.visible("lstServerList")->rowCount(), listed);
+    }
+
+    // The keys work wherever the focus is: F5 queries, Esc stops, Ctrl+F
+    // goes to the find box.
+    void theKeysOfEveryBrowser()
+    {
+        FleetOptions options = fleetOf(40, 24260);
+        options.delayMs = 80;
+        SimFleet fleet(options);
+        QVERIFY(!fleet.start());
+        TestWindow w(24260, StartPort);
+        w.settings().save(u"Speed", QStringLiteral("0"));
+        QVERIFY(w.show());
+        w.focus(w.find<QWidget>("lstServerList"));
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_F5);
+        QVERIFY(w.window->queries().isRunning());
+        QTRY_VERIFY_WITH_TIMEOUT(w.find<QProgressBar>("prbProgress")->value() >= 2, 4000);
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Escape);
+        QCOMPARE(w.status(), QStringLiteral("Cancelled"));
+        QVERIFY(!w.window->queries().isRunning());
+        // Esc with no query running does nothing.
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Escape);
+        QCOMPARE(w.status(), QStringLiteral("Cancelled"));
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_F, Qt::ControlModifier);
+        QCOMPARE(QApplication::focusWidget(), w.find<QWidget>("cmbFind"));
     }
 
     void masterTimeOutOffersRetry()
