@@ -41,7 +41,9 @@ AddressListEditor::AddressListEditor(Desktop& desktop, const char* name, Check c
     connect(m_edit, &QPushButton::clicked, this, &AddressListEditor::edit);
     connect(m_remove, &QPushButton::clicked, this, &AddressListEditor::remove);
     connect(m_list, &QListWidget::itemDoubleClicked, this, &AddressListEditor::edit);
-    connect(m_list, &QListWidget::currentRowChanged, this, &AddressListEditor::updateButtons);
+    // Edit and Remove act on the entry the user sees chosen: a current row
+    // without a selection (the list merely took the focus) is none.
+    connect(m_list, &QListWidget::itemSelectionChanged, this, &AddressListEditor::updateButtons);
     updateButtons();
 }
 
@@ -100,9 +102,15 @@ void AddressListEditor::add()
     m_list->setCurrentRow(m_list->count() - 1);
 }
 
+QListWidgetItem* AddressListEditor::chosen() const
+{
+    const QList<QListWidgetItem*> selected = m_list->selectedItems();
+    return selected.isEmpty() ? nullptr : selected.first();
+}
+
 void AddressListEditor::edit()
 {
-    QListWidgetItem* item = m_list->currentItem();
+    QListWidgetItem* item = chosen();
     if (!item)
         return;
     if (const auto entry = ask(item->text()))
@@ -111,15 +119,16 @@ void AddressListEditor::edit()
 
 void AddressListEditor::remove()
 {
-    delete m_list->takeItem(m_list->currentRow());
+    if (QListWidgetItem* item = chosen())
+        delete m_list->takeItem(m_list->row(item));
     updateButtons();
 }
 
 void AddressListEditor::updateButtons()
 {
-    const bool chosen = m_list->currentRow() >= 0;
-    m_edit->setEnabled(chosen);
-    m_remove->setEnabled(chosen);
+    const bool any = chosen() != nullptr;
+    m_edit->setEnabled(any);
+    m_remove->setEnabled(any);
 }
 
 namespace {

@@ -11,6 +11,7 @@ class Desktop;
 class QCheckBox;
 class QLabel;
 class QListWidget;
+class QListWidgetItem;
 class QPushButton;
 class SettingsStore;
 
@@ -43,6 +44,7 @@ private:
     void edit();
     void remove();
     void updateButtons();
+    QListWidgetItem* chosen() const;
 
     Desktop& m_desktop;
     Check m_check;

@@ -339,7 +339,15 @@ private slots:
         QVERIFY(!m_settings->contains(u"MasterServer"));
         QVERIFY(!m_settings->contains(u"ServerListUrls"));
 
+        // Nothing chosen, nothing to edit or remove, even once the list has
+        // the focus and with it a current row.
+        QApplication::setActiveWindow(masters->window());
+        masters->setFocus(Qt::TabFocusReason);
+        QTRY_VERIFY(masters->hasFocus());
+        QVERIFY(!find<QPushButton>("cmdMastersEdit")->isEnabled());
+        QVERIFY(!find<QPushButton>("cmdMastersRemove")->isEnabled());
         masters->setCurrentRow(1);
+        QVERIFY(find<QPushButton>("cmdMastersRemove")->isEnabled());
         click("cmdMastersRemove");
         QCOMPARE(masters->count(), 1);
 
