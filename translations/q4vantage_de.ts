@@ -417,10 +417,6 @@
         <translation>Quake 4 Vantage</translation>
     </message>
     <message>
-        <source>Master Servers Timed Out</source>
-        <translation>Zeitüberschreitung bei den Master-Servern</translation>
-    </message>
-    <message>
         <source>About Quake 4 Vantage</source>
         <translation>Über Quake 4 Vantage</translation>
     </message>
@@ -477,10 +473,6 @@
     <message>
         <source>%1 is not listed now: &quot;Query Recently Played&quot; asks every server you played on.</source>
         <translation>%1 ist gerade nicht aufgelistet: „Zuletzt gespielte anfragen“ fragt jeden Server ab, auf dem Sie gespielt haben.</translation>
-    </message>
-    <message>
-        <source>Check the network connection, or add a master server or a server list that works in Options, on the &quot;Servers&quot; tab.</source>
-        <translation>Prüfen Sie die Netzwerkverbindung, oder fügen Sie in den Optionen auf der Registerkarte „Server“ einen funktionierenden Master-Server oder eine Serverliste hinzu.</translation>
     </message>
 </context>
 <context>
@@ -1030,6 +1022,10 @@ Auf einen freien Platz warten und beitreten, sobald einer frei wird?</translatio
     <message>
         <source>No server answered on the local network; the list is as it was.</source>
         <translation>Im lokalen Netzwerk hat kein Server geantwortet; die Liste bleibt, wie sie war.</translation>
+    </message>
+    <message>
+        <source>Check the network connection, or add a master server or a server list that works in Options, on the &quot;Servers&quot; tab.</source>
+        <translation>Prüfen Sie die Netzwerkverbindung, oder fügen Sie in den Optionen auf der Registerkarte „Server“ einen funktionierenden Master-Server oder eine Serverliste hinzu.</translation>
     </message>
 </context>
 <context>

@@ -417,10 +417,6 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Master Servers Timed Out</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>About Quake 4 Vantage</source>
         <translation type="unfinished"></translation>
     </message>
@@ -472,10 +468,6 @@
     </message>
     <message>
         <source>%1 is not listed now: &quot;Query Recently Played&quot; asks every server you played on.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Check the network connection, or add a master server or a server list that works in Options, on the &quot;Servers&quot; tab.</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -1021,6 +1013,10 @@ Wait for a free slot and join as soon as one opens?</source>
     </message>
     <message>
         <source>No server answered on the local network; the list is as it was.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Check the network connection, or add a master server or a server list that works in Options, on the &quot;Servers&quot; tab.</source>
         <translation type="unfinished"></translation>
     </message>
 </context>

@@ -417,10 +417,6 @@
         <translation>Quake 4 Vantage</translation>
     </message>
     <message>
-        <source>Master Servers Timed Out</source>
-        <translation>Délai dépassé pour les serveurs principaux</translation>
-    </message>
-    <message>
         <source>About Quake 4 Vantage</source>
         <translation>À propos de Quake 4 Vantage</translation>
     </message>
@@ -477,10 +473,6 @@
     <message>
         <source>%1 is not listed now: &quot;Query Recently Played&quot; asks every server you played on.</source>
         <translation>%1 n&apos;est pas dans la liste pour l&apos;instant : « Rechercher Joués récemment » interroge chaque serveur sur lequel vous avez joué.</translation>
-    </message>
-    <message>
-        <source>Check the network connection, or add a master server or a server list that works in Options, on the &quot;Servers&quot; tab.</source>
-        <translation>Vérifiez la connexion réseau, ou ajoutez un serveur maître ou une liste de serveurs qui fonctionne dans les Options, onglet « Serveurs ».</translation>
     </message>
 </context>
 <context>
@@ -1030,6 +1022,10 @@ Attendre une place libre et rejoindre dès qu&apos;une place se libère ?</trans
     <message>
         <source>No server answered on the local network; the list is as it was.</source>
         <translation>Aucun serveur n&apos;a répondu sur le réseau local ; la liste reste telle quelle.</translation>
+    </message>
+    <message>
+        <source>Check the network connection, or add a master server or a server list that works in Options, on the &quot;Servers&quot; tab.</source>
+        <translation>Vérifiez la connexion réseau, ou ajoutez un serveur maître ou une liste de serveurs qui fonctionne dans les Options, onglet « Serveurs ».</translation>
     </message>
 </context>
 <context>

@@ -417,10 +417,6 @@ hanno risposto %2 server su %3</translation>
         <translation>Quake 4 Vantage</translation>
     </message>
     <message>
-        <source>Master Servers Timed Out</source>
-        <translation>Tempo scaduto per i master server</translation>
-    </message>
-    <message>
         <source>About Quake 4 Vantage</source>
         <translation>Informazioni su Quake 4 Vantage</translation>
     </message>
@@ -477,10 +473,6 @@ hanno risposto %2 server su %3</translation>
     <message>
         <source>%1 is not listed now: &quot;Query Recently Played&quot; asks every server you played on.</source>
         <translation>%1 non è in elenco ora: «Interroga Giocati di recente» interroga ogni server su cui hai giocato.</translation>
-    </message>
-    <message>
-        <source>Check the network connection, or add a master server or a server list that works in Options, on the &quot;Servers&quot; tab.</source>
-        <translation>Controllare la connessione di rete, oppure aggiungere un master server o un elenco di server funzionante nelle Opzioni, scheda "Server".</translation>
     </message>
 </context>
 <context>
@@ -1030,6 +1022,10 @@ Attendere un posto libero ed entrare appena se ne libera uno?</translation>
     <message>
         <source>No server answered on the local network; the list is as it was.</source>
         <translation>Nessun server ha risposto nella rete locale; l&apos;elenco resta com&apos;era.</translation>
+    </message>
+    <message>
+        <source>Check the network connection, or add a master server or a server list that works in Options, on the &quot;Servers&quot; tab.</source>
+        <translation>Controllare la connessione di rete, oppure aggiungere un master server o un elenco di server funzionante nelle Opzioni, scheda &quot;Server&quot;.</translation>
     </message>
 </context>
 <context>

@@ -417,10 +417,6 @@
         <translation>Quake 4 Vantage</translation>
     </message>
     <message>
-        <source>Master Servers Timed Out</source>
-        <translation>Time-out bij de masterservers</translation>
-    </message>
-    <message>
         <source>About Quake 4 Vantage</source>
         <translation>Over Quake 4 Vantage</translation>
     </message>
@@ -477,10 +473,6 @@
     <message>
         <source>%1 is not listed now: &quot;Query Recently Played&quot; asks every server you played on.</source>
         <translation>%1 staat nu niet in de lijst: &apos;Query Recent gespeeld&apos; vraagt elke server op waarop u hebt gespeeld.</translation>
-    </message>
-    <message>
-        <source>Check the network connection, or add a master server or a server list that works in Options, on the &quot;Servers&quot; tab.</source>
-        <translation>Controleer de netwerkverbinding, of voeg in Opties, op het tabblad "Servers", een masterserver of een serverlijst toe die werkt.</translation>
     </message>
 </context>
 <context>
@@ -1030,6 +1022,10 @@ Wachten op een vrije plek en deelnemen zodra er een vrijkomt?</translation>
     <message>
         <source>No server answered on the local network; the list is as it was.</source>
         <translation>Geen server antwoordde op het lokale netwerk; de lijst blijft zoals ze was.</translation>
+    </message>
+    <message>
+        <source>Check the network connection, or add a master server or a server list that works in Options, on the &quot;Servers&quot; tab.</source>
+        <translation>Controleer de netwerkverbinding, of voeg in Opties, op het tabblad &quot;Servers&quot;, een masterserver of een serverlijst toe die werkt.</translation>
     </message>
 </context>
 <context>

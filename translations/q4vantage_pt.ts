@@ -417,10 +417,6 @@ responderam %2 de %3 servidores</translation>
         <translation>Quake 4 Vantage</translation>
     </message>
     <message>
-        <source>Master Servers Timed Out</source>
-        <translation>Tempo esgotado nos servidores mestre</translation>
-    </message>
-    <message>
         <source>About Quake 4 Vantage</source>
         <translation>Sobre o Quake 4 Vantage</translation>
     </message>
@@ -477,10 +473,6 @@ responderam %2 de %3 servidores</translation>
     <message>
         <source>%1 is not listed now: &quot;Query Recently Played&quot; asks every server you played on.</source>
         <translation>%1 não está listado agora: «Query Jogados recentemente» consulta cada servidor em que jogou.</translation>
-    </message>
-    <message>
-        <source>Check the network connection, or add a master server or a server list that works in Options, on the &quot;Servers&quot; tab.</source>
-        <translation>Verifique a ligação à rede, ou adicione um servidor mestre ou uma lista de servidores que funcione nas Opções, no separador "Servidores".</translation>
     </message>
 </context>
 <context>
@@ -1030,6 +1022,10 @@ Esperar por uma vaga e entrar assim que uma abrir?</translation>
     <message>
         <source>No server answered on the local network; the list is as it was.</source>
         <translation>Nenhum servidor respondeu na rede local; a lista fica como estava.</translation>
+    </message>
+    <message>
+        <source>Check the network connection, or add a master server or a server list that works in Options, on the &quot;Servers&quot; tab.</source>
+        <translation>Verifique a ligação à rede, ou adicione um servidor mestre ou uma lista de servidores que funcione nas Opções, no separador &quot;Servidores&quot;.</translation>
     </message>
 </context>
 <context>

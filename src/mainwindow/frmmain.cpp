@@ -218,14 +218,7 @@ void FrmMain::connectQueries()
     });
     connect(m_queries, &QueryController::masterTimedOut, this, [this] {
         updateCounters();
-        // What each source said (a name not found, no answer), and where
-        // to turn when none works.
-        QString text = tr("Master Servers Timed Out");
-        if (!m_queries->sourceSummary().isEmpty())
-            text += QStringLiteral("\n\n") + m_queries->sourceSummary();
-        text += QStringLiteral("\n\n") + tr("Check the network connection, or add a master server or a server list "
-                                            "that works in Options, on the \"Servers\" tab.");
-        if (m_desktop.message(this, Desktop::Icon::Critical, tr("Quake 4 Vantage"), text,
+        if (m_desktop.message(this, Desktop::Icon::Critical, tr("Quake 4 Vantage"), m_queries->timedOutText(),
                               QMessageBox::Retry | QMessageBox::Cancel) == QMessageBox::Retry)
             m_queries->startMasterQuery();
     });

@@ -269,6 +269,16 @@ void QueryController::cancel()
         sayNotSaved();
 }
 
+QString QueryController::timedOutText() const
+{
+    QString text = tr("Master Servers Timed Out");
+    if (!m_sourceSummary.isEmpty())
+        text += QStringLiteral("\n\n") + m_sourceSummary;
+    return text + QStringLiteral("\n\n") +
+           tr("Check the network connection, or add a master server or a server list that works in Options, on the "
+              "\"Servers\" tab.");
+}
+
 void QueryController::sayNotSaved()
 {
     emit status(

@@ -28,6 +28,9 @@ public:
     bool isRunning() const { return m_session.isRunning(); }
     // What each source of the last query gave, one line each.
     const QString& sourceSummary() const { return m_sourceSummary; }
+    // The box of "Master Servers Timed Out": what each source said (a name
+    // not found, no answer) and where to turn when none works.
+    QString timedOutText() const;
 
     void startMasterQuery();
     void startFavouritesQuery();
