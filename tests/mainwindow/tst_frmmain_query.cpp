@@ -159,18 +159,9 @@ private slots:
         QTest::qWait(300);
         QCOMPARE(fleet.infoRequests(), requests);
         QCOMPARE(w.visible("lstServerList")->rowCount(), listed);
-    }
 
-    // The keys work wherever the focus is: F5 queries, Esc stops, Ctrl+F
-    // goes to the find box.
-    void theKeysOfEveryBrowser()
-    {
-        FleetOptions options = fleetOf(40, 24260);
-        options.delayMs = 80;
-        SimFleet fleet(options);
-        QVERIFY(!fleet.start());
-        TestWindow w(24260, StartPort);
-        w.settings().save(u"Speed", QStringLiteral("0"));
+        // The same with the keys, wherever the focus is: F5 queries, Esc
+        // stops (and does nothing when no query runs), Ctrl+F goes to find.
         QVERIFY(w.show());
         w.focus(w.find<QWidget>("lstServerList"));
         QTest::keyClick(QApplication::focusWidget(), Qt::Key_F5);
@@ -179,7 +170,6 @@ private slots:
         QTest::keyClick(QApplication::focusWidget(), Qt::Key_Escape);
         QCOMPARE(w.status(), QStringLiteral("Cancelled"));
         QVERIFY(!w.window->queries().isRunning());
-        // Esc with no query running does nothing.
         QTest::keyClick(QApplication::focusWidget(), Qt::Key_Escape);
         QCOMPARE(w.status(), QStringLiteral("Cancelled"));
         QTest::keyClick(QApplication::focusWidget(), Qt::Key_F, Qt::ControlModifier);
