@@ -5,12 +5,12 @@
 // long until the window lists the first and the last live server, and until
 // the query is done, measured in the window itself.
 
-#include "frmmain.h"
 #include "httpresponder.h"
-#include "language.h"
+#include "mainwindow/frmmain.h"
+#include "presentation/language.h"
 #include "scripteddesktop.h"
-#include "settingsstore.h"
 #include "simfleet.h"
+#include "userdata/settingsstore.h"
 
 #include <QAbstractItemView>
 #include <QApplication>

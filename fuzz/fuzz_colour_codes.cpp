@@ -2,8 +2,8 @@
 // The two colour-code grammars (server names count carets, player names
 // do not): what a label shows is what the list shows (SOH aside), one
 // colour per character.
-#include "colourcodes.h"
 #include "fuzzinput.h"
+#include "presentation/colourcodes.h"
 
 #include <cstdio>
 

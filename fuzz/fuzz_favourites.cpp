@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 // favourites.dat as any program or person may have left it, and the lines
 // written for whatever names a server sends.
-#include "favourites.h"
 #include "fuzzinput.h"
+#include "userdata/favourites.h"
 
 #include <cstdio>
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 // filters.dat as found, and the lines written for any typed filter.
-#include "filters.h"
 #include "fuzzinput.h"
+#include "userdata/filters.h"
 
 #include <cstdio>
 

@@ -2,7 +2,7 @@
 // A game server's infoResponse, whatever a server (or anyone forging one)
 // sends: parsed without a crash, and its parts stay consistent.
 #include "fuzzinput.h"
-#include "infoprotocol.h"
+#include "query/infoprotocol.h"
 
 #include <cstdio>
 

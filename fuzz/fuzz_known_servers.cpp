@@ -3,7 +3,7 @@
 // is read writes back to the same list, and an update never keeps more
 // than the cap or a server that should be forgotten.
 #include "fuzzinput.h"
-#include "knownservers.h"
+#include "userdata/knownservers.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size)
 {

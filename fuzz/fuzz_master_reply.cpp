@@ -3,7 +3,7 @@
 // bytes as a socket would deliver them, gathered, cut into records and
 // turned into the address table.
 #include "fuzzinput.h"
-#include "masterprotocol.h"
+#include "query/masterprotocol.h"
 
 #include <cstdio>
 

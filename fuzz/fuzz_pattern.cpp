@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 // The filters' wildcard match with any text and any pattern (split at the
 // first zero byte): no crash, no run-away time on many stars.
-#include "filters.h"
 #include "fuzzinput.h"
+#include "userdata/filters.h"
 
 #include <cstdio>
 

@@ -3,7 +3,7 @@
 // is read writes back to the same list, holds each server once, and a join
 // recorded on top keeps it within the limit.
 #include "fuzzinput.h"
-#include "playhistory.h"
+#include "userdata/playhistory.h"
 
 #include <QSet>
 

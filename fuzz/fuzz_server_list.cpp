@@ -3,7 +3,7 @@
 // or text of any bytes. What is read is always a usable address, never more
 // than the cap, and reads the same again when written as text.
 #include "fuzzinput.h"
-#include "serverlistreader.h"
+#include "query/serverlistreader.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size)
 {

@@ -2,8 +2,8 @@
 // Values of the settings file: lenient numbers, flags, truths and the
 // remembered entries of the drop-down boxes.
 #include "fuzzinput.h"
-#include "masteraddress.h"
-#include "settingscodec.h"
+#include "query/masteraddress.h"
+#include "userdata/settingscodec.h"
 
 #include <cstdio>
 

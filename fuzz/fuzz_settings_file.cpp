@@ -2,8 +2,8 @@
 // The settings file as any editor (or a crash of another program) may have
 // left it: every key of the table reads without a crash.
 #include "fuzzinput.h"
-#include "settingskeys.h"
-#include "settingsstore.h"
+#include "userdata/settingskeys.h"
+#include "userdata/settingsstore.h"
 
 #include <QFile>
 #include <QTemporaryDir>

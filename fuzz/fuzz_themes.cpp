@@ -3,7 +3,7 @@
 // reads back the same (themes without a name aside, which are not written,
 // and line breaks in names, which become blanks).
 #include "fuzzinput.h"
-#include "themefile.h"
+#include "presentation/themefile.h"
 
 #include <cstdio>
 

@@ -2,7 +2,7 @@
 // The update site's version file as any server may send it. The reading
 // never fails, and a version is never newer than itself.
 #include "fuzzinput.h"
-#include "updateversion.h"
+#include "update/updateversion.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size)
 {

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
-#include "desktop.h"
-#include "folders.h"
-#include "frmmain.h"
-#include "language.h"
-#include "settingsstore.h"
-#include "singleinstance.h"
+#include "mainwindow/frmmain.h"
+#include "platform/desktop.h"
+#include "platform/folders.h"
+#include "platform/singleinstance.h"
+#include "presentation/language.h"
+#include "userdata/settingsstore.h"
 
 #include <QApplication>
 #include <QCommandLineParser>

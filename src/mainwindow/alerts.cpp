@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
-#include "alerts.h"
+#include "mainwindow/alerts.h"
 
 #include <QSet>
 

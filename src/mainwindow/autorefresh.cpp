@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
-#include "autorefresh.h"
+#include "mainwindow/autorefresh.h"
 
-#include "desktop.h"
-#include "favourites.h"
-#include "querycontroller.h"
-#include "serverlists.h"
-#include "settingsstore.h"
+#include "mainwindow/querycontroller.h"
+#include "mainwindow/serverlists.h"
+#include "platform/desktop.h"
+#include "userdata/favourites.h"
+#include "userdata/settingsstore.h"
 
 #include <QDateTime>
 #include <QLocale>

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #pragma once
 
-#include "alerts.h"
-#include "statustone.h"
+#include "mainwindow/alerts.h"
+#include "widgets/statustone.h"
 
 #include <QObject>
 

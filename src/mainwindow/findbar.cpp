@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
-#include "findbar.h"
+#include "mainwindow/findbar.h"
 
-#include "find.h"
-#include "historycombobox.h"
-#include "reportmodel.h"
-#include "reportview.h"
-#include "rowmarkdelegate.h"
+#include "mainwindow/find.h"
+#include "mainwindow/rowmarkdelegate.h"
+#include "widgets/historycombobox.h"
+#include "widgets/reportmodel.h"
+#include "widgets/reportview.h"
 
 #include <QLineEdit>
 #include <QPushButton>

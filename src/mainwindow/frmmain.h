@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #pragma once
 
-#include "columnlayout.h"
-#include "statustone.h"
+#include "widgets/columnlayout.h"
+#include "widgets/statustone.h"
 
 #include <QPointer>
 #include <QWidget>

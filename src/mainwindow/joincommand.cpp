@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
-#include "joincommand.h"
+#include "mainwindow/joincommand.h"
 
 #include <QFileInfo>
 

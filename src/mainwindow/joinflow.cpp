@@ -1,13 +1,13 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
-#include "joinflow.h"
+#include "mainwindow/joinflow.h"
 
-#include "desktop.h"
-#include "favourites.h"
-#include "historycombobox.h"
-#include "joincommand.h"
-#include "playhistory.h"
-#include "serverlistreader.h"
-#include "settingsstore.h"
+#include "mainwindow/joincommand.h"
+#include "platform/desktop.h"
+#include "query/serverlistreader.h"
+#include "userdata/favourites.h"
+#include "userdata/playhistory.h"
+#include "userdata/settingsstore.h"
+#include "widgets/historycombobox.h"
 
 #include <QDir>
 #include <QFileInfo>

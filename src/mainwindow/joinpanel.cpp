@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
-#include "joinpanel.h"
+#include "mainwindow/joinpanel.h"
 
-#include "colourcodes.h"
-#include "historycombobox.h"
-#include "joinflow.h"
-#include "multicolorlabel.h"
-#include "namedcontrol.h"
+#include "mainwindow/joinflow.h"
+#include "presentation/colourcodes.h"
+#include "presentation/multicolorlabel.h"
+#include "widgets/historycombobox.h"
+#include "widgets/namedcontrol.h"
 
 #include <QGridLayout>
 #include <QLabel>

@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
-#include "listmenu.h"
+#include "mainwindow/listmenu.h"
 
-#include "copycommands.h"
-#include "favourites.h"
-#include "listpane.h"
-#include "reportview.h"
-#include "serverlists.h"
-#include "settingsstore.h"
+#include "mainwindow/listpane.h"
+#include "mainwindow/serverlists.h"
+#include "userdata/favourites.h"
+#include "userdata/settingsstore.h"
+#include "widgets/copycommands.h"
+#include "widgets/reportview.h"
 
 #include <QClipboard>
 #include <QGuiApplication>

@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
-#include "listpane.h"
+#include "mainwindow/listpane.h"
 
-#include "reportmodel.h"
-#include "reportview.h"
-#include "rowmarkdelegate.h"
-#include "settingscodec.h"
-#include "settingsstore.h"
-#include "visiblelists.h"
+#include "mainwindow/rowmarkdelegate.h"
+#include "mainwindow/visiblelist.h"
+#include "userdata/settingscodec.h"
+#include "userdata/settingsstore.h"
+#include "widgets/reportmodel.h"
+#include "widgets/reportview.h"
 
 #include <QHeaderView>
 

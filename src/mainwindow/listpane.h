@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #pragma once
 
-#include "columnlayout.h"
-#include "settingskeys.h"
+#include "userdata/settingskeys.h"
+#include "widgets/columnlayout.h"
 
 #include <QObject>
 

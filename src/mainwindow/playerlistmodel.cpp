@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
-#include "playerlistmodel.h"
+#include "mainwindow/playerlistmodel.h"
 
-#include "colourcodes.h"
-#include "serverlistmodel.h"
+#include "mainwindow/serverlistmodel.h"
+#include "presentation/colourcodes.h"
 
 PlayerListModel::PlayerListModel(const ServerListModel& servers, QObject* parent)
     : ReportModel(Columns, parent)

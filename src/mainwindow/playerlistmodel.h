@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #pragma once
 
-#include "friends.h"
-#include "reportmodel.h"
-#include "visiblelists.h"
+#include "mainwindow/visiblelist.h"
+#include "userdata/friends.h"
+#include "widgets/reportmodel.h"
 
 class ServerListModel;
 

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
-#include "querybar.h"
+#include "mainwindow/querybar.h"
 
-#include "querycontroller.h"
-#include "statusline.h"
+#include "mainwindow/querycontroller.h"
+#include "widgets/statusline.h"
 
 #include <QFrame>
 #include <QHBoxLayout>

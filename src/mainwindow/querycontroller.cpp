@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
-#include "querycontroller.h"
+#include "mainwindow/querycontroller.h"
 
-#include "favourites.h"
-#include "httpproxy.h"
-#include "knownservers.h"
-#include "playhistory.h"
-#include "serverlistreader.h"
-#include "settingsstore.h"
+#include "query/httpproxy.h"
+#include "query/serverlistreader.h"
+#include "userdata/favourites.h"
+#include "userdata/knownservers.h"
+#include "userdata/playhistory.h"
+#include "userdata/settingsstore.h"
 
 #include <QDateTime>
 #include <QDir>

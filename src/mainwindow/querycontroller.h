@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #pragma once
 
-#include "querysession.h"
-#include "records.h"
-#include "statustone.h"
+#include "query/querysession.h"
+#include "query/records.h"
+#include "widgets/statustone.h"
 
 #include <QObject>
 #include <QTimer>

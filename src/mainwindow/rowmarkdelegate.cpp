@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
-#include "rowmarkdelegate.h"
+#include "mainwindow/rowmarkdelegate.h"
 
-#include "reportmodel.h"
+#include "widgets/reportmodel.h"
 
 #include <QHash>
 #include <QPainter>

@@ -1,11 +1,12 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
-#include "serverdetails.h"
+#include "mainwindow/serverdetails.h"
 
-#include "copycommands.h"
-#include "records.h"
-#include "reportview.h"
-#include "serverpanes.h"
-#include "settingsstore.h"
+#include "mainwindow/serverplayersmodel.h"
+#include "mainwindow/serverrulesmodel.h"
+#include "query/records.h"
+#include "userdata/settingsstore.h"
+#include "widgets/copycommands.h"
+#include "widgets/reportview.h"
 
 #include <QHeaderView>
 #include <QMenu>

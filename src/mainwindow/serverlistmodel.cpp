@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
-#include "serverlistmodel.h"
+#include "mainwindow/serverlistmodel.h"
 
-#include "colourcodes.h"
+#include "presentation/colourcodes.h"
 
 #include <QDateTime>
 #include <QLocale>

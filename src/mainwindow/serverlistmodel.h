@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #pragma once
 
-#include "records.h"
-#include "reportmodel.h"
-#include "visiblelists.h"
+#include "mainwindow/visiblelist.h"
+#include "query/records.h"
+#include "widgets/reportmodel.h"
 
 #include <functional>
 

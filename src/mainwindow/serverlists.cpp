@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
-#include "serverlists.h"
+#include "mainwindow/serverlists.h"
 
 ServerLists::ServerLists(QObject* parent)
     : QObject(parent)

@@ -1,14 +1,15 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #pragma once
 
-#include "alerts.h"
-#include "filters.h"
-#include "friends.h"
-#include "listpane.h"
-#include "playerlistmodel.h"
-#include "records.h"
-#include "serverlistmodel.h"
-#include "visiblelists.h"
+#include "mainwindow/alerts.h"
+#include "mainwindow/listpane.h"
+#include "mainwindow/playerlistmodel.h"
+#include "mainwindow/serverlistmodel.h"
+#include "mainwindow/servervisibility.h"
+#include "mainwindow/visiblelist.h"
+#include "query/records.h"
+#include "userdata/filters.h"
+#include "userdata/friends.h"
 
 #include <QObject>
 #include <QSet>

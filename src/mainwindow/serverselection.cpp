@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
-#include "serverselection.h"
+#include "mainwindow/serverselection.h"
 
-#include "colourcodes.h"
-#include "multicolorlabel.h"
-#include "serverdetails.h"
-#include "serverlists.h"
+#include "mainwindow/serverdetails.h"
+#include "mainwindow/serverlists.h"
+#include "presentation/colourcodes.h"
+#include "presentation/multicolorlabel.h"
 
 #include <QLabel>
 

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
-#include "windowstate.h"
+#include "mainwindow/windowstate.h"
 
-#include "columnlayout.h"
-#include "historycombobox.h"
-#include "reportview.h"
-#include "settingsstore.h"
+#include "userdata/settingsstore.h"
+#include "widgets/columnlayout.h"
+#include "widgets/historycombobox.h"
+#include "widgets/reportview.h"
 
 #include <QSplitter>
 #include <QTabBar>

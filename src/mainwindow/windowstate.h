@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #pragma once
 
-#include "settingskeys.h"
+#include "userdata/settingskeys.h"
 
 #include <QList>
 #include <QObject>

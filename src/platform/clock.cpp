@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
-#include "clock.h"
+#include "platform/clock.h"
 
 #include <QDateTime>
 #include <QTimer>

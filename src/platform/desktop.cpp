@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
-#include "desktop.h"
+#include "platform/desktop.h"
 
 #include <QColorDialog>
 #include <QDesktopServices>

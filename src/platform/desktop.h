@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #pragma once
 
-#include "clock.h"
+#include "platform/clock.h"
 
 #include <QColor>
 #include <QMessageBox>

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
-#include "folders.h"
+#include "platform/folders.h"
 
 #include <QCoreApplication>
 #include <QDir>

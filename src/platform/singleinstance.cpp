@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
-#include "singleinstance.h"
+#include "platform/singleinstance.h"
 
 #include <QCryptographicHash>
 #include <QLocalServer>

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
-#include "colourswatch.h"
+#include "presentation/colourswatch.h"
 
-#include "themeservice.h"
+#include "presentation/themeservice.h"
 
 #include <QPainter>
 #include <QStyleOptionButton>

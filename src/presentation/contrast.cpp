@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
-#include "contrast.h"
+#include "presentation/contrast.h"
 
 #include <algorithm>
 #include <cmath>

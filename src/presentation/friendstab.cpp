@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
-#include "friendstab.h"
+#include "presentation/friendstab.h"
 
-#include "friends.h"
-#include "namedcontrol.h"
-#include "serverstab.h"
-#include "settingskeys.h"
-#include "settingsstore.h"
+#include "presentation/serverstab.h"
+#include "userdata/friends.h"
+#include "userdata/settingskeys.h"
+#include "userdata/settingsstore.h"
+#include "widgets/namedcontrol.h"
 
 #include <QCheckBox>
 #include <QComboBox>

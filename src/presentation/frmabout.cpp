@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
-#include "frmabout.h"
+#include "presentation/frmabout.h"
 
-#include "desktop.h"
+#include "platform/desktop.h"
 
 #include <QEvent>
 #include <QHBoxLayout>

@@ -1,17 +1,17 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
-#include "frmoptions.h"
+#include "presentation/frmoptions.h"
 
-#include "colourswatch.h"
-#include "desktop.h"
-#include "friendstab.h"
-#include "knownservers.h"
-#include "language.h"
-#include "namedcontrol.h"
-#include "serverstab.h"
-#include "settingskeys.h"
-#include "settingsstore.h"
-#include "startportrule.h"
-#include "themeservice.h"
+#include "platform/desktop.h"
+#include "presentation/colourswatch.h"
+#include "presentation/friendstab.h"
+#include "presentation/language.h"
+#include "presentation/serverstab.h"
+#include "presentation/startportrule.h"
+#include "presentation/themeservice.h"
+#include "userdata/knownservers.h"
+#include "userdata/settingskeys.h"
+#include "userdata/settingsstore.h"
+#include "widgets/namedcontrol.h"
 
 #include <QCheckBox>
 #include <QComboBox>

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
-#include "multicolorlabel.h"
+#include "presentation/multicolorlabel.h"
 
-#include "contrast.h"
+#include "presentation/contrast.h"
 
 #include <QEvent>
 #include <QPainter>

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #pragma once
 
-#include "colourcodes.h"
+#include "presentation/colourcodes.h"
 
 #include <QColor>
 #include <QList>

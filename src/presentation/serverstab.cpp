@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
-#include "serverstab.h"
+#include "presentation/serverstab.h"
 
-#include "desktop.h"
-#include "knownservers.h"
-#include "masteraddress.h"
-#include "namedcontrol.h"
-#include "serverlistreader.h"
-#include "settingsstore.h"
+#include "platform/desktop.h"
+#include "query/masteraddress.h"
+#include "query/serverlistreader.h"
+#include "userdata/knownservers.h"
+#include "userdata/settingsstore.h"
+#include "widgets/namedcontrol.h"
 
 #include <QCheckBox>
 #include <QGridLayout>

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
-#include "startportrule.h"
+#include "presentation/startportrule.h"
 
-#include "lenientnumber.h"
-#include "queryspeed.h"
+#include "query/lenientnumber.h"
+#include "query/queryspeed.h"
 
 namespace StartPortRule {
 

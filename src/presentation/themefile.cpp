@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
-#include "themefile.h"
+#include "presentation/themefile.h"
 
-#include "datafield.h"
-#include "lenientnumber.h"
+#include "query/lenientnumber.h"
+#include "userdata/datafield.h"
 
 #include <QDir>
 #include <QFile>

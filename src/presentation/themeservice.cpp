@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
-#include "themeservice.h"
+#include "presentation/themeservice.h"
 
 #include <QApplication>
 #include <QStyle>

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #pragma once
 
-#include "themefile.h"
+#include "presentation/themefile.h"
 
 #include <QColor>
 #include <QObject>

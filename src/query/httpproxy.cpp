@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
-#include "httpproxy.h"
+#include "query/httpproxy.h"
 
 #include <QUrl>
 

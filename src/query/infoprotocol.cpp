@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
-#include "infoprotocol.h"
+#include "query/infoprotocol.h"
 
-#include "lenientnumber.h"
+#include "query/lenientnumber.h"
 
 #include <QtEndian>
 

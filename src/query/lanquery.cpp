@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
-#include "lanquery.h"
+#include "query/lanquery.h"
 
-#include "infoprotocol.h"
+#include "query/infoprotocol.h"
 
 #include <QNetworkDatagram>
 #include <QNetworkInterface>

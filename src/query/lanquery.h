@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #pragma once
 
-#include "queryerror.h"
-#include "records.h"
+#include "query/queryerror.h"
+#include "query/records.h"
 
 #include <QElapsedTimer>
 #include <QHostAddress>

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
-#include "lenientnumber.h"
+#include "query/lenientnumber.h"
 
 #include <limits>
 

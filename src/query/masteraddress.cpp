@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
-#include "masteraddress.h"
+#include "query/masteraddress.h"
 
 #include <QRegularExpression>
 

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
-#include "masterquery.h"
+#include "query/masterquery.h"
 
-#include "hostlookup.h"
-#include "masterprotocol.h"
+#include "query/hostlookup.h"
+#include "query/masterprotocol.h"
 
 #include <QNetworkDatagram>
 #include <QNetworkProxy>

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
-#include "queryerror.h"
+#include "query/queryerror.h"
 
-#include "masterprotocol.h"
+#include "query/masterprotocol.h"
 
 #include <QCoreApplication>
 

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
-#include "queryscheduler.h"
+#include "query/queryscheduler.h"
 
-#include "hostlookup.h"
-#include "infoprotocol.h"
+#include "query/hostlookup.h"
+#include "query/infoprotocol.h"
 
 #include <QNetworkDatagram>
 #include <QNetworkInterface>

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #pragma once
 
-#include "hostlookup.h"
-#include "queryerror.h"
-#include "queryspeed.h"
-#include "records.h"
+#include "query/hostlookup.h"
+#include "query/queryerror.h"
+#include "query/queryspeed.h"
+#include "query/records.h"
 
 #include <QElapsedTimer>
 #include <QHostAddress>

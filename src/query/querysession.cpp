@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
-#include "querysession.h"
+#include "query/querysession.h"
 
 QuerySession::QuerySession(QObject* parent)
     : QObject(parent)

@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #pragma once
 
-#include "lanquery.h"
-#include "masteraddress.h"
-#include "queryerror.h"
-#include "queryscheduler.h"
-#include "records.h"
-#include "serversources.h"
+#include "query/lanquery.h"
+#include "query/masteraddress.h"
+#include "query/queryerror.h"
+#include "query/queryscheduler.h"
+#include "query/records.h"
+#include "query/serversources.h"
 
 #include <QElapsedTimer>
 #include <QObject>

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
-#include "serverlistfetch.h"
+#include "query/serverlistfetch.h"
 
 #include <QCoreApplication>
 #include <QNetworkAccessManager>

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #pragma once
 
-#include "serverlistreader.h"
+#include "query/serverlistreader.h"
 
 #include <QNetworkReply>
 #include <QObject>

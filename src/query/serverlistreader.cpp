@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
-#include "serverlistreader.h"
+#include "query/serverlistreader.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>

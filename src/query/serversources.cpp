@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
-#include "serversources.h"
+#include "query/serversources.h"
 
-#include "masterquery.h"
-#include "serverlistfetch.h"
+#include "query/masterquery.h"
+#include "query/serverlistfetch.h"
 
 #include <QNetworkAccessManager>
 

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #pragma once
 
-#include "masteraddress.h"
-#include "queryerror.h"
-#include "records.h"
+#include "query/masteraddress.h"
+#include "query/queryerror.h"
+#include "query/records.h"
 
 #include <QHash>
 #include <QList>

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
-#include "frmdownload.h"
+#include "update/frmdownload.h"
 
-#include "desktop.h"
-#include "namedcontrol.h"
-#include "updatetransfer.h"
-#include "updateversion.h"
+#include "platform/desktop.h"
+#include "update/downloader.h"
+#include "update/updateversion.h"
+#include "widgets/namedcontrol.h"
 
 #include <QEvent>
 #include <QLabel>

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #pragma once
 
-#include "updatetransfer.h"
+#include "update/downloader.h"
 
 #include <QDialog>
 #include <QNetworkProxy>

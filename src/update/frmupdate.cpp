@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
-#include "frmupdate.h"
+#include "update/frmupdate.h"
 
-#include "namedcontrol.h"
-#include "settingsstore.h"
-#include "updateversion.h"
+#include "update/updateversion.h"
+#include "userdata/settingsstore.h"
+#include "widgets/namedcontrol.h"
 
 #include <QCheckBox>
 #include <QEvent>

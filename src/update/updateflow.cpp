@@ -1,13 +1,14 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
-#include "updateflow.h"
+#include "update/updateflow.h"
 
-#include "desktop.h"
-#include "frmdownload.h"
-#include "frmupdate.h"
-#include "httpproxy.h"
-#include "settingsstore.h"
-#include "updatetransfer.h"
-#include "updateversion.h"
+#include "platform/desktop.h"
+#include "query/httpproxy.h"
+#include "update/frmdownload.h"
+#include "update/frmupdate.h"
+#include "update/installertrust.h"
+#include "update/updatecheck.h"
+#include "update/updateversion.h"
+#include "userdata/settingsstore.h"
 
 #include <QDir>
 

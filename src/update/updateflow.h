@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #pragma once
 
-#include "updatetransfer.h"
+#include "update/installertrust.h"
+#include "update/updatecheck.h"
 
 #include <QObject>
 #include <QPointer>

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
-#include "updateversion.h"
+#include "update/updateversion.h"
 
 #include <QVersionNumber>
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
-#include "datafield.h"
+#include "userdata/datafield.h"
 
 #include <QFile>
 #include <QSaveFile>

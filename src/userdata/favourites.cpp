@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
-#include "favourites.h"
+#include "userdata/favourites.h"
 
-#include "datafield.h"
+#include "userdata/datafield.h"
 
 #include <QDir>
 #include <QFile>

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
-#include "filters.h"
+#include "userdata/filters.h"
 
-#include "datafield.h"
+#include "userdata/datafield.h"
 
 #include <QDir>
 #include <QFile>

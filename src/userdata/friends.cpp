@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
-#include "friends.h"
+#include "userdata/friends.h"
 
-#include "filters.h"
+#include "userdata/filters.h"
 
 namespace Friends {
 

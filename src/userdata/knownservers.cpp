@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
-#include "knownservers.h"
+#include "userdata/knownservers.h"
 
-#include "datafield.h"
-#include "serverlistreader.h"
+#include "query/serverlistreader.h"
+#include "userdata/datafield.h"
 
 #include <QDir>
 #include <QFile>

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
-#include "playhistory.h"
+#include "userdata/playhistory.h"
 
-#include "datafield.h"
-#include "serverlistreader.h"
+#include "query/serverlistreader.h"
+#include "userdata/datafield.h"
 
 #include <QDir>
 #include <QSet>

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #pragma once
 
-#include "records.h"
+#include "query/records.h"
 
 #include <QByteArray>
 #include <QList>

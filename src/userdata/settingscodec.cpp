@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
-#include "settingscodec.h"
+#include "userdata/settingscodec.h"
 
-#include "lenientnumber.h"
+#include "query/lenientnumber.h"
 
 #include <limits>
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
-#include "settingsstore.h"
+#include "userdata/settingsstore.h"
 
-#include "settingscodec.h"
+#include "userdata/settingscodec.h"
 
 #include <QFile>
 #include <QLockFile>

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
-#include "alerts.h"
-#include "records.h"
-#include "slotwait.h"
+#include "mainwindow/alerts.h"
+#include "mainwindow/slotwaiter.h"
+#include "query/records.h"
 
 #include <QTest>
 

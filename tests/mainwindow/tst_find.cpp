@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
-#include "find.h"
+#include "mainwindow/find.h"
 
 #include <QStringList>
 #include <QTest>

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
-#include "frmabout.h"
-#include "frmoptions.h"
-#include "historycombobox.h"
+#include "presentation/frmabout.h"
+#include "presentation/frmoptions.h"
 #include "testwindow.h"
+#include "widgets/historycombobox.h"
 
 #include <QAction>
 #include <QComboBox>

@@ -1,16 +1,16 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
-#include "autorefresh.h"
-#include "favourites.h"
+#include "editors/frmhistory.h"
 #include "fleet.h"
-#include "frmhistory.h"
-#include "playerlistmodel.h"
-#include "playhistory.h"
-#include "querycontroller.h"
-#include "reportmodel.h"
-#include "serverlistmodel.h"
-#include "serverlists.h"
-#include "slotwait.h"
+#include "mainwindow/autorefresh.h"
+#include "mainwindow/playerlistmodel.h"
+#include "mainwindow/querycontroller.h"
+#include "mainwindow/serverlistmodel.h"
+#include "mainwindow/serverlists.h"
+#include "mainwindow/slotwaiter.h"
 #include "testwindow.h"
+#include "userdata/favourites.h"
+#include "userdata/playhistory.h"
+#include "widgets/reportmodel.h"
 
 #include <QAction>
 #include <QMenu>

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "fleet.h"
-#include "serverlistmodel.h"
+#include "mainwindow/serverlistmodel.h"
 #include "testwindow.h"
 
 #include <QAction>

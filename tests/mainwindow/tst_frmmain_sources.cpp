@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "fleet.h"
 #include "httpresponder.h"
-#include "knownservers.h"
-#include "lanquery.h"
-#include "querycontroller.h"
+#include "mainwindow/querycontroller.h"
+#include "query/lanquery.h"
 #include "testwindow.h"
-#include "updateflow.h"
+#include "update/updateflow.h"
+#include "userdata/knownservers.h"
 
 #include <QDateTime>
 #include <QDir>

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
-#include "desktop.h"
-#include "joincommand.h"
+#include "mainwindow/joincommand.h"
+#include "platform/desktop.h"
 
 #include <QDir>
 #include <QFile>

@@ -1,8 +1,10 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
-#include "playerlistmodel.h"
-#include "serverlistmodel.h"
-#include "serverpanes.h"
-#include "visiblelists.h"
+#include "mainwindow/playerlistmodel.h"
+#include "mainwindow/serverlistmodel.h"
+#include "mainwindow/serverplayersmodel.h"
+#include "mainwindow/serverrulesmodel.h"
+#include "mainwindow/servervisibility.h"
+#include "mainwindow/visiblelist.h"
 
 #include <QAbstractItemModelTester>
 #include <QTest>

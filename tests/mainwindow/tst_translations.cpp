@@ -1,16 +1,16 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
-#include "frmabout.h"
-#include "frmdownload.h"
-#include "frmfavourites.h"
-#include "frmfilters.h"
-#include "frmhistory.h"
-#include "frmmain.h"
-#include "frmoptions.h"
-#include "frmupdate.h"
-#include "language.h"
+#include "editors/frmfavourites.h"
+#include "editors/frmfilters.h"
+#include "editors/frmhistory.h"
+#include "mainwindow/frmmain.h"
+#include "presentation/frmabout.h"
+#include "presentation/frmoptions.h"
+#include "presentation/language.h"
+#include "presentation/themeservice.h"
 #include "scripteddesktop.h"
-#include "settingsstore.h"
-#include "themeservice.h"
+#include "update/frmdownload.h"
+#include "update/frmupdate.h"
+#include "userdata/settingsstore.h"
 
 #include <QAbstractButton>
 #include <QComboBox>

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
-#include "clock.h"
 #include "manualclock.h"
+#include "platform/clock.h"
 
 #include <QDateTime>
 #include <QSignalSpy>

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
-#include "colourcodes.h"
+#include "presentation/colourcodes.h"
 
 #include <QTest>
 

@@ -1,13 +1,13 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
-#include "colourswatch.h"
-#include "frmoptions.h"
-#include "knownservers.h"
-#include "language.h"
-#include "masteraddress.h"
+#include "presentation/colourswatch.h"
+#include "presentation/frmoptions.h"
+#include "presentation/language.h"
+#include "presentation/startportrule.h"
+#include "presentation/themeservice.h"
+#include "query/masteraddress.h"
 #include "scripteddesktop.h"
-#include "settingsstore.h"
-#include "startportrule.h"
-#include "themeservice.h"
+#include "userdata/knownservers.h"
+#include "userdata/settingsstore.h"
 
 #include <QApplication>
 #include <QCheckBox>

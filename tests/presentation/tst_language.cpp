@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
-#include "language.h"
+#include "presentation/language.h"
 
 #include <QCoreApplication>
 #include <QTest>

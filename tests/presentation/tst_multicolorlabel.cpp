@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
-#include "contrast.h"
-#include "multicolorlabel.h"
+#include "presentation/contrast.h"
+#include "presentation/multicolorlabel.h"
 
 #include <QImage>
 #include <QSignalSpy>

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
-#include "themefile.h"
+#include "presentation/themefile.h"
 
 #include <QDir>
 #include <QTemporaryDir>

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
-#include "hostlookup.h"
+#include "query/hostlookup.h"
 
 #include <QSignalSpy>
 #include <QTest>

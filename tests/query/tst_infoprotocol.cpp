@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
-#include "infoprotocol.h"
+#include "query/infoprotocol.h"
 
 #include <QFile>
 #include <QTest>

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
-#include "masterprotocol.h"
+#include "query/masterprotocol.h"
 
 #include <QTest>
 

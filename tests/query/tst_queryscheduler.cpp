@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "fleet.h"
-#include "infoprotocol.h"
-#include "queryscheduler.h"
+#include "query/infoprotocol.h"
+#include "query/queryscheduler.h"
 
 #include <QElapsedTimer>
 #include <QSignalSpy>

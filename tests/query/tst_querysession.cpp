@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "fleet.h"
-#include "hostlookup.h"
-#include "masterprotocol.h"
-#include "masterquery.h"
-#include "querysession.h"
+#include "query/hostlookup.h"
+#include "query/masterprotocol.h"
+#include "query/masterquery.h"
+#include "query/querysession.h"
 
 #include <QElapsedTimer>
 #include <QNetworkDatagram>

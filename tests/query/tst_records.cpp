@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
-#include "records.h"
+#include "query/records.h"
 
 #include <QTest>
 

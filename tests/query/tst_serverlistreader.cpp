@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
-#include "masteraddress.h"
-#include "serverlistreader.h"
+#include "query/masteraddress.h"
+#include "query/serverlistreader.h"
 
 #include <QTest>
 

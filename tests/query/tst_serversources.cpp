@@ -1,13 +1,13 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "fleet.h"
-#include "httpproxy.h"
 #include "httpresponder.h"
-#include "lanquery.h"
-#include "masterquery.h"
 #include "peakmemory.h"
-#include "querysession.h"
-#include "serverlistfetch.h"
-#include "serversources.h"
+#include "query/httpproxy.h"
+#include "query/lanquery.h"
+#include "query/masterquery.h"
+#include "query/querysession.h"
+#include "query/serverlistfetch.h"
+#include "query/serversources.h"
 
 #include <QElapsedTimer>
 #include <QSet>

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #pragma once
 
-#include "desktop.h"
 #include "manualclock.h"
+#include "platform/desktop.h"
 
 #include <QList>
 #include <QQueue>

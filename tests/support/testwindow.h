@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #pragma once
 
-#include "frmmain.h"
-#include "language.h"
-#include "reportview.h"
+#include "mainwindow/frmmain.h"
+#include "presentation/language.h"
 #include "scripteddesktop.h"
-#include "settingsstore.h"
-#include "statusline.h"
+#include "userdata/settingsstore.h"
+#include "widgets/reportview.h"
+#include "widgets/statusline.h"
 
 #include <QApplication>
 #include <QHeaderView>

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "httpresponder.h"
-#include "knownservers.h"
-#include "lanquery.h"
+#include "query/lanquery.h"
 #include "queryreport.h"
 #include "simfleet.h"
+#include "userdata/knownservers.h"
 
 #include <QElapsedTimer>
 #include <QFile>

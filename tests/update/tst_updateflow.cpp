@@ -1,13 +1,14 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
-#include "frmdownload.h"
-#include "frmupdate.h"
 #include "httpresponder.h"
 #include "peakmemory.h"
 #include "scripteddesktop.h"
-#include "settingsstore.h"
-#include "updateflow.h"
-#include "updatetransfer.h"
-#include "updateversion.h"
+#include "update/downloader.h"
+#include "update/frmdownload.h"
+#include "update/frmupdate.h"
+#include "update/updatecheck.h"
+#include "update/updateflow.h"
+#include "update/updateversion.h"
+#include "userdata/settingsstore.h"
 
 #include <QCheckBox>
 #include <QDir>

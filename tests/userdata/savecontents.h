@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #pragma once
 
-#include "favourites.h"
-#include "filters.h"
-#include "settingsstore.h"
-#include "themefile.h"
+#include "presentation/themefile.h"
+#include "userdata/favourites.h"
+#include "userdata/filters.h"
+#include "userdata/settingsstore.h"
 
 #include <QFile>
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
-#include "copytext.h"
+#include "userdata/copytext.h"
 
 #include <QTest>
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
-#include "favourites.h"
+#include "userdata/favourites.h"
 
 #include <QElapsedTimer>
 #include <QFile>

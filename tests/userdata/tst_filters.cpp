@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
-#include "filters.h"
+#include "userdata/filters.h"
 
 #include <QFile>
 #include <QTemporaryDir>

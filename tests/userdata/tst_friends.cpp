@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
-#include "friends.h"
+#include "userdata/friends.h"
 
 #include <QTest>
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
-#include "knownservers.h"
+#include "userdata/knownservers.h"
 
 #include <QFile>
 #include <QTemporaryDir>

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
-#include "playhistory.h"
+#include "userdata/playhistory.h"
 
 #include <QFile>
 #include <QTemporaryDir>

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
-#include "settingscodec.h"
+#include "userdata/settingscodec.h"
 
 #include <QTest>
 

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
-#include "settingskeys.h"
-#include "settingsstore.h"
+#include "userdata/settingskeys.h"
+#include "userdata/settingsstore.h"
 
 #include <QDateTime>
 #include <QElapsedTimer>

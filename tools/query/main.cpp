@@ -1,14 +1,14 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
-#include "favourites.h"
-#include "httpproxy.h"
-#include "knownservers.h"
-#include "lanquery.h"
-#include "masteraddress.h"
+#include "query/httpproxy.h"
+#include "query/lanquery.h"
+#include "query/masteraddress.h"
+#include "query/querysession.h"
+#include "query/serverlistreader.h"
 #include "queryreport.h"
-#include "querysession.h"
-#include "serverlistreader.h"
-#include "settingskeys.h"
-#include "settingsstore.h"
+#include "userdata/favourites.h"
+#include "userdata/knownservers.h"
+#include "userdata/settingskeys.h"
+#include "userdata/settingsstore.h"
 
 #include <QCommandLineParser>
 #include <QCoreApplication>

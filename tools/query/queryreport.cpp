@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "queryreport.h"
 
-#include "colourcodes.h"
+#include "presentation/colourcodes.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>

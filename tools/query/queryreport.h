@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #pragma once
 
-#include "records.h"
-#include "serversources.h"
+#include "query/records.h"
+#include "query/serversources.h"
 
 #include <QByteArray>
 #include <QList>

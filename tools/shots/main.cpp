@@ -7,18 +7,18 @@
 //   q4vantage-shots OUTPUT_FOLDER [LANGUAGE_INDEX...]
 // Run it on a real display server (scripts/screenshots.sh uses Xvfb) to
 // see the fonts and style a user sees.
-#include "autorefresh.h"
-#include "desktop.h"
-#include "frmdownload.h"
-#include "frmmain.h"
-#include "frmupdate.h"
-#include "language.h"
-#include "playhistory.h"
-#include "querycontroller.h"
-#include "reportview.h"
-#include "settingsstore.h"
+#include "mainwindow/autorefresh.h"
+#include "mainwindow/frmmain.h"
+#include "mainwindow/querycontroller.h"
+#include "platform/desktop.h"
+#include "presentation/language.h"
 #include "simfleet.h"
-#include "updatetransfer.h"
+#include "update/downloader.h"
+#include "update/frmdownload.h"
+#include "update/frmupdate.h"
+#include "userdata/playhistory.h"
+#include "userdata/settingsstore.h"
+#include "widgets/reportview.h"
 
 #include <QApplication>
 #include <QDialog>

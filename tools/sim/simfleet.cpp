@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "simfleet.h"
 
-#include "systemlimits.h"
+#include "platform/systemlimits.h"
 
 #include <QNetworkDatagram>
 #include <QNetworkProxy>

@@ -1,0 +1,116 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+#include "widgets/reportview.h"
+
+#include <QContextMenuEvent>
+#include <QHeaderView>
+#include <QKeyEvent>
+#include <QMetaMethod>
+#include <QMouseEvent>
+
+ReportView::ReportView(QAbstractItemModel* model, const QList<int>& designWidths, QWidget* parent)
+    : QTableView(parent)
+{
+    setModel(model);
+    setShowGrid(false);
+    setWordWrap(false);
+    setCornerButtonEnabled(false);
+    setTabKeyNavigation(false);
+    setSelectionBehavior(QAbstractItemView::SelectRows);
+    setSelectionMode(QAbstractItemView::SingleSelection);
+    setEditTriggers(QAbstractItemView::NoEditTriggers);
+    setHorizontalScrollMode(QAbstractItemView::ScrollPerPixel);
+
+    QHeaderView* rows = verticalHeader();
+    rows->hide();
+    rows->setSectionResizeMode(QHeaderView::Fixed);
+    rows->setDefaultSectionSize(fontMetrics().height() + 4);
+
+    QHeaderView* columnsHeader = horizontalHeader();
+    columnsHeader->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+    columnsHeader->setHighlightSections(false);
+    // Every column keeps its own stored width, the last one included.
+    columnsHeader->setStretchLastSection(false);
+    columnsHeader->setSectionsClickable(true);
+    columnsHeader->setSectionsMovable(true);
+    for (int column = 0; column < designWidths.size(); ++column)
+        columnsHeader->resizeSection(column, designWidths.at(column));
+
+    connect(this, &QAbstractItemView::doubleClicked, this, [this](const QModelIndex& index) {
+        if (m_lastButton == Qt::LeftButton)
+            emit rowDoubleClicked(index);
+    });
+}
+
+int ReportView::selectedRow() const
+{
+    const QModelIndex current = currentIndex();
+    return current.isValid() && selectionModel()->isRowSelected(current.row(), {}) ? current.row() : -1;
+}
+
+void ReportView::mousePressEvent(QMouseEvent* event)
+{
+    m_lastButton =
+        event->button() == Qt::LeftButton || event->button() == Qt::RightButton ? event->button() : Qt::NoButton;
+    m_pressedColumn = horizontalHeader()->logicalIndexAt(event->position().toPoint().x());
+    emit pressed(event->button());
+    QTableView::mousePressEvent(event);
+}
+
+void ReportView::mouseReleaseEvent(QMouseEvent* event)
+{
+    if (event->button() == Qt::RightButton && m_lastButton == Qt::RightButton) {
+        const QPoint at = event->position().toPoint();
+        const QModelIndex index = indexAt(at);
+        if (index.isValid())
+            setCurrentIndex(index);
+        emit menuRequested(index, viewport()->mapToGlobal(at));
+    }
+    QTableView::mouseReleaseEvent(event);
+}
+
+void ReportView::keyPressEvent(QKeyEvent* event)
+{
+    const Qt::KeyboardModifiers modifiers = event->modifiers() & ~Qt::KeypadModifier;
+    const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+    // Only a key pressed on the list itself (an editor inside it passes its
+    // Enter on), and only where a double click does something: elsewhere
+    // Enter keeps its usual meaning (a dialog's default button).
+    static const QMetaMethod doubleClickSignal = QMetaMethod::fromSignal(&ReportView::rowDoubleClicked);
+    const bool own = hasFocus() && isSignalConnected(doubleClickSignal);
+    if (enter && own && modifiers == Qt::NoModifier && selectedRow() >= 0) {
+        m_lastButton = Qt::LeftButton;
+        emit rowDoubleClicked(currentIndex());
+        event->accept();
+        return;
+    }
+    // Shift+F10 opens menus in most desktops; Qt turns only the menu key
+    // into a context menu event.
+    if (event->key() == Qt::Key_F10 && modifiers == Qt::ShiftModifier && hasFocus()) {
+        requestMenuOnSelection();
+        event->accept();
+        return;
+    }
+    QTableView::keyPressEvent(event);
+}
+
+void ReportView::contextMenuEvent(QContextMenuEvent* event)
+{
+    // A right click is answered on its release (see above); this is the
+    // menu key.
+    if (event->reason() == QContextMenuEvent::Mouse) {
+        QTableView::contextMenuEvent(event);
+        return;
+    }
+    requestMenuOnSelection();
+    event->accept();
+}
+
+void ReportView::requestMenuOnSelection()
+{
+    const QModelIndex index = selectedRow() >= 0 ? currentIndex() : QModelIndex();
+    if (index.isValid())
+        m_pressedColumn = index.column();
+    const QRect row = visualRect(index);
+    const QPoint at = index.isValid() ? QPoint(row.left(), row.bottom()) : QPoint(0, 0);
+    emit menuRequested(index, viewport()->mapToGlobal(at));
+}
