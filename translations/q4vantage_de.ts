@@ -966,66 +966,20 @@ Auf einen freien Platz warten und beitreten, sobald einer frei wird?</translatio
 %1</translation>
     </message>
     <message>
-        <source>Querying %1 Servers...</source>
-        <translation>Frage %1 Server ab...</translation>
-    </message>
-    <message>
         <source>No local network to search: no network interface can broadcast.</source>
         <translation>Kein lokales Netzwerk zum Durchsuchen: keine Netzwerkschnittstelle kann senden (Broadcast).</translation>
-    </message>
-    <message>
-        <source>No list from %1</source>
-        <translation>Keine Liste von %1</translation>
     </message>
     <message>
         <source>Searching the local network...</source>
         <translation>Lokales Netzwerk wird durchsucht...</translation>
     </message>
     <message>
-        <source>%1: %2</source>
-        <translation>%1: %2</translation>
-    </message>
-    <message numerus="yes">
-        <source>%1: %n servers</source>
-        <translation>
-            <numerusform>%1: %n Server</numerusform>
-            <numerusform>%1: %n Server</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>(%n entries skipped)</source>
-        <translation>
-            <numerusform>(%n Eintrag übersprungen)</numerusform>
-            <numerusform>(%n Einträge übersprungen)</numerusform>
-        </translation>
-    </message>
-    <message>
-        <source>(list cut at %1)</source>
-        <translation>(Liste nach %1 abgeschnitten)</translation>
-    </message>
-    <message>
         <source>No servers played yet: the servers you join are kept in &quot;Recently Played&quot;.</source>
         <translation>Noch keine Server gespielt: Die Server, denen Sie beitreten, stehen unter „Zuletzt gespielt“.</translation>
     </message>
     <message>
-        <source>Waiting for %1</source>
-        <translation>Warte auf %1</translation>
-    </message>
-    <message>
-        <source>%1: no answer yet</source>
-        <translation>%1: noch keine Antwort</translation>
-    </message>
-    <message>
-        <source>The servers that answered could not be remembered in %1.</source>
-        <translation>Die Server, die geantwortet haben, konnten nicht in %1 gespeichert werden.</translation>
-    </message>
-    <message>
         <source>No server answered on the local network; the list is as it was.</source>
         <translation>Im lokalen Netzwerk hat kein Server geantwortet; die Liste bleibt, wie sie war.</translation>
-    </message>
-    <message>
-        <source>Check the network connection, or add a master server or a server list that works in Options, on the &quot;Servers&quot; tab.</source>
-        <translation>Prüfen Sie die Netzwerkverbindung, oder fügen Sie in den Optionen auf der Registerkarte „Server“ einen funktionierenden Master-Server oder eine Serverliste hinzu.</translation>
     </message>
 </context>
 <context>
@@ -1074,6 +1028,13 @@ Auf einen freien Platz warten und beitreten, sobald einer frei wird?</translatio
     <message>
         <source>No answer to the last refresh; last seen at %1</source>
         <translation>Keine Antwort auf die letzte Aktualisierung; zuletzt gesehen um %1</translation>
+    </message>
+</context>
+<context>
+    <name>ServerMemory</name>
+    <message>
+        <source>The servers that answered could not be remembered in %1.</source>
+        <translation>Die Server, die geantwortet haben, konnten nicht in %1 gespeichert werden.</translation>
     </message>
 </context>
 <context>
@@ -1179,6 +1140,55 @@ Auf einen freien Platz warten und beitreten, sobald einer frei wird?</translatio
     <message>
         <source>%1 is full (%2): waiting for a free slot...</source>
         <translation>%1 ist voll (%2): warte auf einen freien Platz...</translation>
+    </message>
+</context>
+<context>
+    <name>SourceStatus</name>
+    <message>
+        <source>%1: no answer yet</source>
+        <translation>%1: noch keine Antwort</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1: %n servers</source>
+        <translation>
+            <numerusform>%1: %n Server</numerusform>
+            <numerusform>%1: %n Server</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>(%n entries skipped)</source>
+        <translation>
+            <numerusform>(%n Eintrag übersprungen)</numerusform>
+            <numerusform>(%n Einträge übersprungen)</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>(list cut at %1)</source>
+        <translation>(Liste nach %1 abgeschnitten)</translation>
+    </message>
+    <message>
+        <source>Querying %1 Servers...</source>
+        <translation>Frage %1 Server ab...</translation>
+    </message>
+    <message>
+        <source>Waiting for %1</source>
+        <translation>Warte auf %1</translation>
+    </message>
+    <message>
+        <source>No list from %1</source>
+        <translation>Keine Liste von %1</translation>
+    </message>
+    <message>
+        <source>Master Servers Timed Out</source>
+        <translation>Zeitüberschreitung bei den Master-Servern</translation>
+    </message>
+    <message>
+        <source>Check the network connection, or add a master server or a server list that works in Options, on the &quot;Servers&quot; tab.</source>
+        <translation>Prüfen Sie die Netzwerkverbindung, oder fügen Sie in den Optionen auf der Registerkarte „Server“ einen funktionierenden Master-Server oder eine Serverliste hinzu.</translation>
     </message>
 </context>
 <context>

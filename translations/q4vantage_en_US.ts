@@ -958,15 +958,7 @@ Wait for a free slot and join as soon as one opens?</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Querying %1 Servers...</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>No local network to search: no network interface can broadcast.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>No list from %1</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -974,49 +966,11 @@ Wait for a free slot and join as soon as one opens?</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>%1: %2</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message numerus="yes">
-        <source>%1: %n servers</source>
-        <translation>
-            <numerusform>%1: %n server</numerusform>
-            <numerusform>%1: %n servers</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>(%n entries skipped)</source>
-        <translation>
-            <numerusform>(%n entry skipped)</numerusform>
-            <numerusform>(%n entries skipped)</numerusform>
-        </translation>
-    </message>
-    <message>
-        <source>(list cut at %1)</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>No servers played yet: the servers you join are kept in &quot;Recently Played&quot;.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Waiting for %1</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>%1: no answer yet</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>The servers that answered could not be remembered in %1.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>No server answered on the local network; the list is as it was.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Check the network connection, or add a master server or a server list that works in Options, on the &quot;Servers&quot; tab.</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -1065,6 +1019,13 @@ Wait for a free slot and join as soon as one opens?</source>
     <name>ServerListModel</name>
     <message>
         <source>No answer to the last refresh; last seen at %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>ServerMemory</name>
+    <message>
+        <source>The servers that answered could not be remembered in %1.</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -1170,6 +1131,55 @@ Wait for a free slot and join as soon as one opens?</source>
     </message>
     <message>
         <source>%1 is full (%2): waiting for a free slot...</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>SourceStatus</name>
+    <message>
+        <source>%1: no answer yet</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>%1: %n servers</source>
+        <translation type="unfinished">
+            <numerusform>%1: %n server</numerusform>
+            <numerusform>%1: %n servers</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>(%n entries skipped)</source>
+        <translation type="unfinished">
+            <numerusform>(%n entry skipped)</numerusform>
+            <numerusform>(%n entries skipped)</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>(list cut at %1)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Querying %1 Servers...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Waiting for %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No list from %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Master Servers Timed Out</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Check the network connection, or add a master server or a server list that works in Options, on the &quot;Servers&quot; tab.</source>
         <translation type="unfinished"></translation>
     </message>
 </context>

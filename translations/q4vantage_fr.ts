@@ -966,66 +966,20 @@ Attendre une place libre et rejoindre dès qu&apos;une place se libère ?</trans
 %1</translation>
     </message>
     <message>
-        <source>Querying %1 Servers...</source>
-        <translation>Recherche sur %1 serveurs...</translation>
-    </message>
-    <message>
         <source>No local network to search: no network interface can broadcast.</source>
         <translation>Aucun réseau local à parcourir : aucune interface réseau ne peut diffuser.</translation>
-    </message>
-    <message>
-        <source>No list from %1</source>
-        <translation>Aucune liste de %1</translation>
     </message>
     <message>
         <source>Searching the local network...</source>
         <translation>Recherche sur le réseau local...</translation>
     </message>
     <message>
-        <source>%1: %2</source>
-        <translation>%1 : %2</translation>
-    </message>
-    <message numerus="yes">
-        <source>%1: %n servers</source>
-        <translation>
-            <numerusform>%1 : %n serveur</numerusform>
-            <numerusform>%1 : %n serveurs</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>(%n entries skipped)</source>
-        <translation>
-            <numerusform>(%n entrée ignorée)</numerusform>
-            <numerusform>(%n entrées ignorées)</numerusform>
-        </translation>
-    </message>
-    <message>
-        <source>(list cut at %1)</source>
-        <translation>(liste coupée à %1)</translation>
-    </message>
-    <message>
         <source>No servers played yet: the servers you join are kept in &quot;Recently Played&quot;.</source>
         <translation>Aucun serveur joué pour l&apos;instant : les serveurs que vous rejoignez sont gardés dans « Joués récemment ».</translation>
     </message>
     <message>
-        <source>Waiting for %1</source>
-        <translation>En attente de %1</translation>
-    </message>
-    <message>
-        <source>%1: no answer yet</source>
-        <translation>%1 : pas encore de réponse</translation>
-    </message>
-    <message>
-        <source>The servers that answered could not be remembered in %1.</source>
-        <translation>Les serveurs qui ont répondu n&apos;ont pas pu être enregistrés dans %1.</translation>
-    </message>
-    <message>
         <source>No server answered on the local network; the list is as it was.</source>
         <translation>Aucun serveur n&apos;a répondu sur le réseau local ; la liste reste telle quelle.</translation>
-    </message>
-    <message>
-        <source>Check the network connection, or add a master server or a server list that works in Options, on the &quot;Servers&quot; tab.</source>
-        <translation>Vérifiez la connexion réseau, ou ajoutez un serveur maître ou une liste de serveurs qui fonctionne dans les Options, onglet « Serveurs ».</translation>
     </message>
 </context>
 <context>
@@ -1074,6 +1028,13 @@ Attendre une place libre et rejoindre dès qu&apos;une place se libère ?</trans
     <message>
         <source>No answer to the last refresh; last seen at %1</source>
         <translation>Aucune réponse à la dernière actualisation ; vu pour la dernière fois à %1</translation>
+    </message>
+</context>
+<context>
+    <name>ServerMemory</name>
+    <message>
+        <source>The servers that answered could not be remembered in %1.</source>
+        <translation>Les serveurs qui ont répondu n&apos;ont pas pu être enregistrés dans %1.</translation>
     </message>
 </context>
 <context>
@@ -1179,6 +1140,55 @@ Attendre une place libre et rejoindre dès qu&apos;une place se libère ?</trans
     <message>
         <source>%1 is full (%2): waiting for a free slot...</source>
         <translation>%1 est plein (%2) : attente d&apos;une place libre...</translation>
+    </message>
+</context>
+<context>
+    <name>SourceStatus</name>
+    <message>
+        <source>%1: no answer yet</source>
+        <translation>%1 : pas encore de réponse</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1 : %2</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1: %n servers</source>
+        <translation>
+            <numerusform>%1 : %n serveur</numerusform>
+            <numerusform>%1 : %n serveurs</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>(%n entries skipped)</source>
+        <translation>
+            <numerusform>(%n entrée ignorée)</numerusform>
+            <numerusform>(%n entrées ignorées)</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>(list cut at %1)</source>
+        <translation>(liste coupée à %1)</translation>
+    </message>
+    <message>
+        <source>Querying %1 Servers...</source>
+        <translation>Recherche sur %1 serveurs...</translation>
+    </message>
+    <message>
+        <source>Waiting for %1</source>
+        <translation>En attente de %1</translation>
+    </message>
+    <message>
+        <source>No list from %1</source>
+        <translation>Aucune liste de %1</translation>
+    </message>
+    <message>
+        <source>Master Servers Timed Out</source>
+        <translation>Délai dépassé pour les serveurs principaux</translation>
+    </message>
+    <message>
+        <source>Check the network connection, or add a master server or a server list that works in Options, on the &quot;Servers&quot; tab.</source>
+        <translation>Vérifiez la connexion réseau, ou ajoutez un serveur maître ou une liste de serveurs qui fonctionne dans les Options, onglet « Serveurs ».</translation>
     </message>
 </context>
 <context>

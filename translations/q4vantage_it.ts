@@ -966,66 +966,20 @@ Attendere un posto libero ed entrare appena se ne libera uno?</translation>
 %1</translation>
     </message>
     <message>
-        <source>Querying %1 Servers...</source>
-        <translation>Interrogazione di %1 server...</translation>
-    </message>
-    <message>
         <source>No local network to search: no network interface can broadcast.</source>
         <translation>Nessuna rete locale da cercare: nessuna interfaccia di rete può trasmettere in broadcast.</translation>
-    </message>
-    <message>
-        <source>No list from %1</source>
-        <translation>Nessuna lista da %1</translation>
     </message>
     <message>
         <source>Searching the local network...</source>
         <translation>Ricerca nella rete locale...</translation>
     </message>
     <message>
-        <source>%1: %2</source>
-        <translation>%1: %2</translation>
-    </message>
-    <message numerus="yes">
-        <source>%1: %n servers</source>
-        <translation>
-            <numerusform>%1: %n server</numerusform>
-            <numerusform>%1: %n server</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>(%n entries skipped)</source>
-        <translation>
-            <numerusform>(%n voce saltata)</numerusform>
-            <numerusform>(%n voci saltate)</numerusform>
-        </translation>
-    </message>
-    <message>
-        <source>(list cut at %1)</source>
-        <translation>(lista tagliata a %1)</translation>
-    </message>
-    <message>
         <source>No servers played yet: the servers you join are kept in &quot;Recently Played&quot;.</source>
         <translation>Nessun server giocato finora: i server a cui ti unisci restano in «Giocati di recente».</translation>
     </message>
     <message>
-        <source>Waiting for %1</source>
-        <translation>In attesa di %1</translation>
-    </message>
-    <message>
-        <source>%1: no answer yet</source>
-        <translation>%1: nessuna risposta finora</translation>
-    </message>
-    <message>
-        <source>The servers that answered could not be remembered in %1.</source>
-        <translation>I server che hanno risposto non sono stati memorizzati in %1.</translation>
-    </message>
-    <message>
         <source>No server answered on the local network; the list is as it was.</source>
         <translation>Nessun server ha risposto nella rete locale; l&apos;elenco resta com&apos;era.</translation>
-    </message>
-    <message>
-        <source>Check the network connection, or add a master server or a server list that works in Options, on the &quot;Servers&quot; tab.</source>
-        <translation>Controllare la connessione di rete, oppure aggiungere un master server o un elenco di server funzionante nelle Opzioni, scheda &quot;Server&quot;.</translation>
     </message>
 </context>
 <context>
@@ -1074,6 +1028,13 @@ Attendere un posto libero ed entrare appena se ne libera uno?</translation>
     <message>
         <source>No answer to the last refresh; last seen at %1</source>
         <translation>Nessuna risposta all&apos;ultimo aggiornamento; visto l&apos;ultima volta alle %1</translation>
+    </message>
+</context>
+<context>
+    <name>ServerMemory</name>
+    <message>
+        <source>The servers that answered could not be remembered in %1.</source>
+        <translation>I server che hanno risposto non sono stati memorizzati in %1.</translation>
     </message>
 </context>
 <context>
@@ -1179,6 +1140,55 @@ Attendere un posto libero ed entrare appena se ne libera uno?</translation>
     <message>
         <source>%1 is full (%2): waiting for a free slot...</source>
         <translation>%1 è pieno (%2): in attesa di un posto libero...</translation>
+    </message>
+</context>
+<context>
+    <name>SourceStatus</name>
+    <message>
+        <source>%1: no answer yet</source>
+        <translation>%1: nessuna risposta finora</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1: %n servers</source>
+        <translation>
+            <numerusform>%1: %n server</numerusform>
+            <numerusform>%1: %n server</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>(%n entries skipped)</source>
+        <translation>
+            <numerusform>(%n voce saltata)</numerusform>
+            <numerusform>(%n voci saltate)</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>(list cut at %1)</source>
+        <translation>(lista tagliata a %1)</translation>
+    </message>
+    <message>
+        <source>Querying %1 Servers...</source>
+        <translation>Interrogazione di %1 server...</translation>
+    </message>
+    <message>
+        <source>Waiting for %1</source>
+        <translation>In attesa di %1</translation>
+    </message>
+    <message>
+        <source>No list from %1</source>
+        <translation>Nessuna lista da %1</translation>
+    </message>
+    <message>
+        <source>Master Servers Timed Out</source>
+        <translation>Tempo scaduto per i master server</translation>
+    </message>
+    <message>
+        <source>Check the network connection, or add a master server or a server list that works in Options, on the &quot;Servers&quot; tab.</source>
+        <translation>Controllare la connessione di rete, oppure aggiungere un master server o un elenco di server funzionante nelle Opzioni, scheda &quot;Server&quot;.</translation>
     </message>
 </context>
 <context>

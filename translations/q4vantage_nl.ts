@@ -966,66 +966,20 @@ Wachten op een vrije plek en deelnemen zodra er een vrijkomt?</translation>
 %1</translation>
     </message>
     <message>
-        <source>Querying %1 Servers...</source>
-        <translation>%1 servers worden bevraagd...</translation>
-    </message>
-    <message>
         <source>No local network to search: no network interface can broadcast.</source>
         <translation>Geen lokaal netwerk om te doorzoeken: geen netwerkinterface kan broadcasten.</translation>
-    </message>
-    <message>
-        <source>No list from %1</source>
-        <translation>Geen lijst van %1</translation>
     </message>
     <message>
         <source>Searching the local network...</source>
         <translation>Lokaal netwerk wordt doorzocht...</translation>
     </message>
     <message>
-        <source>%1: %2</source>
-        <translation>%1: %2</translation>
-    </message>
-    <message numerus="yes">
-        <source>%1: %n servers</source>
-        <translation>
-            <numerusform>%1: %n server</numerusform>
-            <numerusform>%1: %n servers</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>(%n entries skipped)</source>
-        <translation>
-            <numerusform>(%n regel overgeslagen)</numerusform>
-            <numerusform>(%n regels overgeslagen)</numerusform>
-        </translation>
-    </message>
-    <message>
-        <source>(list cut at %1)</source>
-        <translation>(lijst afgekapt op %1)</translation>
-    </message>
-    <message>
         <source>No servers played yet: the servers you join are kept in &quot;Recently Played&quot;.</source>
         <translation>Nog geen servers gespeeld: de servers waaraan u deelneemt, staan onder &apos;Recent gespeeld&apos;.</translation>
     </message>
     <message>
-        <source>Waiting for %1</source>
-        <translation>Wachten op %1</translation>
-    </message>
-    <message>
-        <source>%1: no answer yet</source>
-        <translation>%1: nog geen antwoord</translation>
-    </message>
-    <message>
-        <source>The servers that answered could not be remembered in %1.</source>
-        <translation>De servers die antwoordden konden niet worden onthouden in %1.</translation>
-    </message>
-    <message>
         <source>No server answered on the local network; the list is as it was.</source>
         <translation>Geen server antwoordde op het lokale netwerk; de lijst blijft zoals ze was.</translation>
-    </message>
-    <message>
-        <source>Check the network connection, or add a master server or a server list that works in Options, on the &quot;Servers&quot; tab.</source>
-        <translation>Controleer de netwerkverbinding, of voeg in Opties, op het tabblad &quot;Servers&quot;, een masterserver of een serverlijst toe die werkt.</translation>
     </message>
 </context>
 <context>
@@ -1074,6 +1028,13 @@ Wachten op een vrije plek en deelnemen zodra er een vrijkomt?</translation>
     <message>
         <source>No answer to the last refresh; last seen at %1</source>
         <translation>Geen antwoord op de laatste vernieuwing; laatst gezien om %1</translation>
+    </message>
+</context>
+<context>
+    <name>ServerMemory</name>
+    <message>
+        <source>The servers that answered could not be remembered in %1.</source>
+        <translation>De servers die antwoordden konden niet worden onthouden in %1.</translation>
     </message>
 </context>
 <context>
@@ -1179,6 +1140,55 @@ Wachten op een vrije plek en deelnemen zodra er een vrijkomt?</translation>
     <message>
         <source>%1 is full (%2): waiting for a free slot...</source>
         <translation>%1 is vol (%2): wachten op een vrije plek...</translation>
+    </message>
+</context>
+<context>
+    <name>SourceStatus</name>
+    <message>
+        <source>%1: no answer yet</source>
+        <translation>%1: nog geen antwoord</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1: %n servers</source>
+        <translation>
+            <numerusform>%1: %n server</numerusform>
+            <numerusform>%1: %n servers</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>(%n entries skipped)</source>
+        <translation>
+            <numerusform>(%n regel overgeslagen)</numerusform>
+            <numerusform>(%n regels overgeslagen)</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>(list cut at %1)</source>
+        <translation>(lijst afgekapt op %1)</translation>
+    </message>
+    <message>
+        <source>Querying %1 Servers...</source>
+        <translation>%1 servers worden bevraagd...</translation>
+    </message>
+    <message>
+        <source>Waiting for %1</source>
+        <translation>Wachten op %1</translation>
+    </message>
+    <message>
+        <source>No list from %1</source>
+        <translation>Geen lijst van %1</translation>
+    </message>
+    <message>
+        <source>Master Servers Timed Out</source>
+        <translation>Time-out bij de masterservers</translation>
+    </message>
+    <message>
+        <source>Check the network connection, or add a master server or a server list that works in Options, on the &quot;Servers&quot; tab.</source>
+        <translation>Controleer de netwerkverbinding, of voeg in Opties, op het tabblad &quot;Servers&quot;, een masterserver of een serverlijst toe die werkt.</translation>
     </message>
 </context>
 <context>

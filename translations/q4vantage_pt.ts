@@ -966,66 +966,20 @@ Esperar por uma vaga e entrar assim que uma abrir?</translation>
 %1</translation>
     </message>
     <message>
-        <source>Querying %1 Servers...</source>
-        <translation>A consultar %1 servidores...</translation>
-    </message>
-    <message>
         <source>No local network to search: no network interface can broadcast.</source>
         <translation>Nenhuma rede local para procurar: nenhuma interface de rede pode fazer broadcast.</translation>
-    </message>
-    <message>
-        <source>No list from %1</source>
-        <translation>Nenhuma lista de %1</translation>
     </message>
     <message>
         <source>Searching the local network...</source>
         <translation>A procurar na rede local...</translation>
     </message>
     <message>
-        <source>%1: %2</source>
-        <translation>%1: %2</translation>
-    </message>
-    <message numerus="yes">
-        <source>%1: %n servers</source>
-        <translation>
-            <numerusform>%1: %n servidor</numerusform>
-            <numerusform>%1: %n servidores</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>(%n entries skipped)</source>
-        <translation>
-            <numerusform>(%n entrada ignorada)</numerusform>
-            <numerusform>(%n entradas ignoradas)</numerusform>
-        </translation>
-    </message>
-    <message>
-        <source>(list cut at %1)</source>
-        <translation>(lista cortada em %1)</translation>
-    </message>
-    <message>
         <source>No servers played yet: the servers you join are kept in &quot;Recently Played&quot;.</source>
         <translation>Ainda não jogou em nenhum servidor: os servidores em que entra ficam em «Jogados recentemente».</translation>
     </message>
     <message>
-        <source>Waiting for %1</source>
-        <translation>À espera de %1</translation>
-    </message>
-    <message>
-        <source>%1: no answer yet</source>
-        <translation>%1: ainda sem resposta</translation>
-    </message>
-    <message>
-        <source>The servers that answered could not be remembered in %1.</source>
-        <translation>Os servidores que responderam não puderam ser memorizados em %1.</translation>
-    </message>
-    <message>
         <source>No server answered on the local network; the list is as it was.</source>
         <translation>Nenhum servidor respondeu na rede local; a lista fica como estava.</translation>
-    </message>
-    <message>
-        <source>Check the network connection, or add a master server or a server list that works in Options, on the &quot;Servers&quot; tab.</source>
-        <translation>Verifique a ligação à rede, ou adicione um servidor mestre ou uma lista de servidores que funcione nas Opções, no separador &quot;Servidores&quot;.</translation>
     </message>
 </context>
 <context>
@@ -1074,6 +1028,13 @@ Esperar por uma vaga e entrar assim que uma abrir?</translation>
     <message>
         <source>No answer to the last refresh; last seen at %1</source>
         <translation>Sem resposta à última atualização; visto pela última vez às %1</translation>
+    </message>
+</context>
+<context>
+    <name>ServerMemory</name>
+    <message>
+        <source>The servers that answered could not be remembered in %1.</source>
+        <translation>Os servidores que responderam não puderam ser memorizados em %1.</translation>
     </message>
 </context>
 <context>
@@ -1179,6 +1140,55 @@ Esperar por uma vaga e entrar assim que uma abrir?</translation>
     <message>
         <source>%1 is full (%2): waiting for a free slot...</source>
         <translation>%1 está cheio (%2): à espera de uma vaga...</translation>
+    </message>
+</context>
+<context>
+    <name>SourceStatus</name>
+    <message>
+        <source>%1: no answer yet</source>
+        <translation>%1: ainda sem resposta</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1: %n servers</source>
+        <translation>
+            <numerusform>%1: %n servidor</numerusform>
+            <numerusform>%1: %n servidores</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>(%n entries skipped)</source>
+        <translation>
+            <numerusform>(%n entrada ignorada)</numerusform>
+            <numerusform>(%n entradas ignoradas)</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>(list cut at %1)</source>
+        <translation>(lista cortada em %1)</translation>
+    </message>
+    <message>
+        <source>Querying %1 Servers...</source>
+        <translation>A consultar %1 servidores...</translation>
+    </message>
+    <message>
+        <source>Waiting for %1</source>
+        <translation>À espera de %1</translation>
+    </message>
+    <message>
+        <source>No list from %1</source>
+        <translation>Nenhuma lista de %1</translation>
+    </message>
+    <message>
+        <source>Master Servers Timed Out</source>
+        <translation>Tempo esgotado nos servidores mestre</translation>
+    </message>
+    <message>
+        <source>Check the network connection, or add a master server or a server list that works in Options, on the &quot;Servers&quot; tab.</source>
+        <translation>Verifique a ligação à rede, ou adicione um servidor mestre ou uma lista de servidores que funcione nas Opções, no separador &quot;Servidores&quot;.</translation>
     </message>
 </context>
 <context>

@@ -133,7 +133,7 @@ void FrmMain::createControls()
     m_frmFilters = new FrmFilters(m_settings, m_dataFolder, this);
     m_frmFilters->setObjectName(QStringLiteral("frmFilters"));
     m_lists->setRules(m_frmFilters->filters(), m_frmFilters->builtIn());
-    m_queries = new QueryController(m_settings, m_dataFolder, this);
+    m_queries = new QueryController(m_settings, m_dataFolder, m_desktop.clock(), this);
 
     rzrPSI = new QSplitter(Qt::Vertical, this);
     rzrPSI->setObjectName(QStringLiteral("rzrPSI"));

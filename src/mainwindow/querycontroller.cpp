@@ -8,41 +8,40 @@
 #include "userdata/playhistory.h"
 #include "userdata/settingsstore.h"
 
-#include <QDateTime>
-#include <QDir>
-#include <QSet>
-
-QueryController::QueryController(SettingsStore& settings, const QString& dataFolder, QObject* parent)
+QueryController::QueryController(SettingsStore& settings, const QString& dataFolder, const Clock& clock,
+                                 QObject* parent)
     : QObject(parent)
     , m_settings(settings)
     , m_favouritesPath(Favourites::filePath(dataFolder))
-    , m_knownPath(KnownServers::filePath(dataFolder))
     , m_historyPath(PlayHistory::filePath(dataFolder))
+    , m_memory(KnownServers::filePath(dataFolder), clock)
+    , m_round(m_session, m_batcher, m_memory)
 {
-    m_flushTimer.setSingleShot(true);
-    m_flushTimer.setInterval(40);
-    connect(&m_flushTimer, &QTimer::timeout, this, &QueryController::flush);
+    connect(&m_batcher, &AnswerBatcher::due, this, &QueryController::flush);
+    connect(&m_round, &RefreshRound::updated, this, &QueryController::updated);
+    connect(&m_round, &RefreshRound::ended, this, &QueryController::roundEnded);
+    connect(&m_round, &RefreshRound::status, this, &QueryController::status);
     connect(&m_session, &QuerySession::phaseChanged, this, &QueryController::showPhase);
     connect(&m_session, &QuerySession::requestSent, this, [this](int sent, int total) {
-        if (!m_quiet)
+        if (!m_round.isActive())
             emit progress(sent, std::max(total, 1));
     });
     connect(&m_session, &QuerySession::serverAnswered, this, &QueryController::queue);
     // Sources keep giving addresses while the first servers answer.
     connect(&m_session, &QuerySession::addressesAdded, this, [this] {
-        if (!m_quiet)
+        if (!m_round.isActive())
             showQuerying();
     });
     connect(&m_session, &QuerySession::sourcesChanged, this, [this] {
-        if (m_quiet)
+        if (m_round.isActive())
             return;
         reportSources();
         if (m_session.phase() == QuerySession::Phase::Querying)
             showQuerying();
     });
     connect(&m_session, &QuerySession::finished, this, [this] {
-        if (m_quiet) {
-            finishRound();
+        if (m_round.isActive()) {
+            m_round.finish();
             return;
         }
         const bool saved = remember(true);
@@ -86,12 +85,10 @@ bool QueryController::begin(ListsGo listsGo)
 {
     if (!preparePool())
         return false;
-    m_flushTimer.stop();
-    m_pending.clear();
-    m_answered.clear();
+    m_batcher.clear();
+    m_memory.clear();
     m_sourceNames.clear();
-    m_failedSources.clear();
-    m_awaitedSources.clear();
+    m_sources = SourceStatus();
     emit sourcesReported(QString());
     emit busyChanged(true);
     m_clearWithFirstAnswer = listsGo == ListsGo::WithFirstAnswer;
@@ -104,7 +101,7 @@ bool QueryController::begin(ListsGo listsGo)
 
 void QueryController::startMasterQuery()
 {
-    endRound();
+    m_round.end();
     if (m_session.isRunning())
         return;
     const MasterList masters = parseMasterList(m_settings.value(Keys::MasterServer));
@@ -119,7 +116,7 @@ void QueryController::startMasterQuery()
     plan.listUrls = ServerListReader::parseUrls(m_settings.value(Keys::ServerListUrls));
     plan.proxy = httpProxy(m_settings.value(Keys::Proxy), m_settings.value(Keys::ProxyAddress));
     if (m_settings.value(Keys::QueryKnownServers))
-        plan.known = KnownServers::toAddressTable(KnownServers::readFile(m_knownPath));
+        plan.known = KnownServers::toAddressTable(KnownServers::readFile(m_memory.filePath()));
     if (!begin())
         return;
     QStringList names;
@@ -135,7 +132,7 @@ void QueryController::startMasterQuery()
 
 void QueryController::startFavouritesQuery()
 {
-    endRound();
+    m_round.end();
     if (m_session.isRunning())
         return;
     const auto favourites = Favourites::readFile(m_favouritesPath);
@@ -152,7 +149,7 @@ void QueryController::startFavouritesQuery()
 
 void QueryController::startHistoryQuery()
 {
-    endRound();
+    m_round.end();
     if (m_session.isRunning())
         return;
     const PlayHistory::List history = PlayHistory::readFile(m_historyPath);
@@ -172,17 +169,7 @@ bool QueryController::startRefreshRound(const AddressTable& table)
 {
     if (m_session.isRunning() || table.isEmpty() || !preparePool())
         return false;
-    m_flushTimer.stop();
-    m_pending.clear();
-    m_answered.clear();
-    m_quiet = true;
-    if (const auto error = m_session.startAddresses(table)) {
-        m_quiet = false;
-        // Said, but the lists stay: the next round tries again.
-        emit status(error->message(), StatusTone::Failed);
-        return false;
-    }
-    return true;
+    return m_round.start(table);
 }
 
 void QueryController::requery(const QString& address, int port)
@@ -193,43 +180,9 @@ void QueryController::requery(const QString& address, int port)
         emit status(error->message(), StatusTone::Failed);
 }
 
-void QueryController::endRound()
-{
-    if (!m_quiet)
-        return;
-    m_quiet = false;
-    m_session.cancel();
-    // The rows already updated stay; the rest keep their last answer.
-    const QList<ServerRecord> batch = std::exchange(m_pending, {});
-    m_flushTimer.stop();
-    if (!batch.isEmpty())
-        emit updated(batch);
-    // The user's own query follows and says whether it could remember.
-    (void)remember(false);
-}
-
-void QueryController::finishRound()
-{
-    m_quiet = false;
-    flushTo(true);
-    QSet<QString> answered;
-    for (const AddressEntry& entry : std::as_const(m_answered))
-        answered.insert(entry.endpointText());
-    QStringList silent;
-    for (const AddressEntry& entry : m_session.addresses().entries()) {
-        if (!answered.contains(entry.endpointText()))
-            silent.append(entry.endpointText());
-    }
-    // A silent round costs no known server a miss: rounds come often.
-    const bool saved = remember(false);
-    emit roundEnded(m_session.addresses().count(), silent);
-    if (!saved)
-        sayNotSaved();
-}
-
 void QueryController::startLanQuery()
 {
-    endRound();
+    m_round.end();
     if (m_session.isRunning())
         return;
     QList<QHostAddress> targets;
@@ -259,8 +212,8 @@ void QueryController::refresh(const ServerRecord& server)
 
 void QueryController::cancel()
 {
-    if (m_quiet) {
-        endRound();
+    if (m_round.isActive()) {
+        m_round.end();
         return;
     }
     const bool saved = !m_session.isRunning() || remember(false);
@@ -269,26 +222,14 @@ void QueryController::cancel()
         sayNotSaved();
 }
 
-QString QueryController::timedOutText() const
-{
-    QString text = tr("Master Servers Timed Out");
-    if (!m_sourceSummary.isEmpty())
-        text += QStringLiteral("\n\n") + m_sourceSummary;
-    return text + QStringLiteral("\n\n") +
-           tr("Check the network connection, or add a master server or a server list that works in Options, on the "
-              "\"Servers\" tab.");
-}
-
 void QueryController::sayNotSaved()
 {
-    emit status(
-        tr("The servers that answered could not be remembered in %1.").arg(QDir::toNativeSeparators(m_knownPath)),
-        StatusTone::Failed);
+    emit status(m_memory.notSavedText(), StatusTone::Failed);
 }
 
 void QueryController::showPhase(QuerySession::Phase phase)
 {
-    if (m_quiet)
+    if (m_round.isActive())
         return;
     switch (phase) {
     case QuerySession::Phase::Requesting:
@@ -319,13 +260,7 @@ void QueryController::showPhase(QuerySession::Phase phase)
 
 void QueryController::showQuerying()
 {
-    // The second line names the sources still awaited, then those that
-    // gave nothing; the tooltip says what each one gave.
-    const QString text = tr("Querying %1 Servers...").arg(m_session.addresses().count());
-    const QString more = !m_awaitedSources.isEmpty()  ? tr("Waiting for %1").arg(m_awaitedSources)
-                         : !m_failedSources.isEmpty() ? tr("No list from %1").arg(m_failedSources)
-                                                      : QString();
-    emit status(more.isEmpty() ? text : text + QLatin1Char('\n') + more, StatusTone::Querying);
+    emit status(m_sources.queryingText(m_session.addresses().count()), StatusTone::Querying);
 }
 
 void QueryController::queue(const ServerRecord& server, bool refresh)
@@ -334,26 +269,22 @@ void QueryController::queue(const ServerRecord& server, bool refresh)
         emit refreshed(server);
         return;
     }
-    m_pending.append(server);
-    m_answered.append(AddressEntry{server.address, server.port, server.name, {}});
-    if (!m_flushTimer.isActive())
-        m_flushTimer.start();
+    m_batcher.add(server);
+    m_memory.note(server);
 }
 
 void QueryController::flush()
 {
-    flushTo(m_quiet);
-}
-
-void QueryController::flushTo(bool inPlace)
-{
-    m_flushTimer.stop();
-    if (m_pending.isEmpty())
+    const QList<ServerRecord> batch = m_batcher.take();
+    if (batch.isEmpty())
         return;
-    const QList<ServerRecord> batch = std::exchange(m_pending, {});
-    if (!inPlace && std::exchange(m_clearWithFirstAnswer, false))
+    if (m_round.isActive()) {
+        emit updated(batch);
+        return;
+    }
+    if (std::exchange(m_clearWithFirstAnswer, false))
         emit started();
-    inPlace ? emit updated(batch) : emit answers(batch);
+    emit answers(batch);
 }
 
 void QueryController::stop(const QString& text, StatusTone tone)
@@ -379,45 +310,11 @@ void QueryController::fail(const QueryError& error)
 
 void QueryController::reportSources()
 {
-    QStringList lines;
-    QStringList failed;
-    QStringList awaited;
-    for (const SourceReport& report : m_session.sourceReports()) {
-        // The status line names a list by its host; the tooltip in full.
-        const QString shortName = report.kind == SourceReport::Kind::List ? QUrl(report.name).host() : report.name;
-        if (!report.settled) {
-            awaited.append(shortName);
-            lines.append(tr("%1: no answer yet").arg(report.name));
-            continue;
-        }
-        if (report.failed()) {
-            failed.append(shortName);
-            lines.append(tr("%1: %2").arg(report.name, report.error));
-            continue;
-        }
-        QString line = tr("%1: %n servers", nullptr, report.addresses).arg(report.name);
-        if (report.skipped > 0)
-            line += QLatin1Char(' ') + tr("(%n entries skipped)", nullptr, report.skipped);
-        if (report.truncated)
-            line += QLatin1Char(' ') + tr("(list cut at %1)").arg(ServerListReader::MaxAddresses);
-        lines.append(line);
-    }
-    failed.removeDuplicates();
-    awaited.removeDuplicates();
-    m_failedSources = failed.join(QStringLiteral(", "));
-    m_awaitedSources = awaited.join(QStringLiteral(", "));
-    m_sourceSummary = lines.join(QLatin1Char('\n'));
-    emit sourcesReported(m_sourceSummary);
+    m_sources = SourceStatus::of(m_session.sourceReports());
+    emit sourcesReported(m_sources.summary);
 }
 
 bool QueryController::remember(bool finished)
 {
-    // Only answers are news; a LAN search asks no list of addresses.
-    if (m_answered.isEmpty() && (!finished || m_session.addresses().isEmpty()))
-        return true;
-    const KnownServers::List known = KnownServers::readFile(m_knownPath);
-    const KnownServers::List updated =
-        KnownServers::update(known, m_session.addresses(), m_answered, QDateTime::currentSecsSinceEpoch(), finished);
-    m_answered.clear();
-    return updated == known || KnownServers::writeFile(m_knownPath, updated);
+    return m_memory.remember(m_session.addresses(), finished);
 }

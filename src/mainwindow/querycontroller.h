@@ -1,36 +1,40 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #pragma once
 
+#include "mainwindow/answerbatcher.h"
+#include "mainwindow/refreshround.h"
+#include "mainwindow/servermemory.h"
+#include "mainwindow/sourcestatus.h"
 #include "query/querysession.h"
 #include "query/records.h"
 #include "widgets/statustone.h"
 
 #include <QObject>
-#include <QTimer>
 
+class Clock;
 class SettingsStore;
 
 // Runs the queries of the window: the query of every server source (the
 // masters, the published lists and the servers known from earlier), the
 // favourites query, the LAN query and the refresh of one selected server.
 // It reads the speed, start port and sources from the settings at each
-// start, batches the answers (the lists take rows in batches, not one per
-// datagram), remembers every server that answered, and says in signals
-// what the window shows.
+// start, hands the answers on in batches (AnswerBatcher), has every server
+// that answered remembered (ServerMemory), runs the quiet refresh rounds
+// (RefreshRound) and says in signals what the window shows.
 class QueryController final : public QObject {
     Q_OBJECT
     Q_DISABLE_COPY_MOVE(QueryController)
 
 public:
-    QueryController(SettingsStore& settings, const QString& dataFolder, QObject* parent = nullptr);
+    QueryController(SettingsStore& settings, const QString& dataFolder, const Clock& clock, QObject* parent = nullptr);
 
     const QuerySession& session() const { return m_session; }
     bool isRunning() const { return m_session.isRunning(); }
     // What each source of the last query gave, one line each.
-    const QString& sourceSummary() const { return m_sourceSummary; }
+    const QString& sourceSummary() const { return m_sources.summary; }
     // The box of "Master Servers Timed Out": what each source said (a name
     // not found, no answer) and where to turn when none works.
-    QString timedOutText() const;
+    QString timedOutText() const { return m_sources.timedOutText(); }
 
     void startMasterQuery();
     void startFavouritesQuery();
@@ -42,7 +46,7 @@ public:
     // stay as they are. A query the user starts ends the round first.
     // False when a query runs.
     bool startRefreshRound(const AddressTable& table);
-    bool isRefreshing() const { return m_quiet; }
+    bool isRefreshing() const { return m_round.isActive(); }
     // One request to one server, whatever the refresh setting says (the
     // wait for a free slot); nothing while a query runs.
     void requery(const QString& address, int port);
@@ -87,33 +91,23 @@ private:
     void showQuerying();
     void queue(const ServerRecord& server, bool refresh);
     void flush();
-    void flushTo(bool inPlace);
     void stop(const QString& text, StatusTone tone);
     void fail(const QueryError& error);
     void reportSources();
-    // False when servers.dat could not be written.
+    // Writes servers.dat; false when it could not.
     bool remember(bool finished);
     void sayNotSaved();
-    // The user starts a query while a refresh round runs: the round ends
-    // quietly and what it heard is kept.
-    void endRound();
-    void finishRound();
-    bool m_quiet = false;
     bool m_clearWithFirstAnswer = false;
 
     SettingsStore& m_settings;
     QString m_favouritesPath;
-    QString m_knownPath;
     QString m_historyPath;
     QuerySession m_session;
+    AnswerBatcher m_batcher;
+    ServerMemory m_memory;
+    RefreshRound m_round;
     QString m_sourceNames;
-    QString m_failedSources;
-    QString m_awaitedSources;
-    QString m_sourceSummary;
-    // The servers that answered this query, for the known servers.
-    QList<AddressEntry> m_answered;
+    SourceStatus m_sources;
     // A speed outside the table keeps the pool of the last query.
     int m_lastSocketIndex = QuerySpeed::DefaultLastSocketIndex;
-    QList<ServerRecord> m_pending;
-    QTimer m_flushTimer;
 };

@@ -1,0 +1,56 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+#include "mainwindow/sourcestatus.h"
+
+#include "query/serverlistreader.h"
+
+#include <QUrl>
+
+SourceStatus SourceStatus::of(const QList<SourceReport>& reports)
+{
+    QStringList lines;
+    QStringList failed;
+    QStringList awaited;
+    for (const SourceReport& report : reports) {
+        // The status line names a list by its host; the tooltip in full.
+        const QString shortName = report.kind == SourceReport::Kind::List ? QUrl(report.name).host() : report.name;
+        if (!report.settled) {
+            awaited.append(shortName);
+            lines.append(tr("%1: no answer yet").arg(report.name));
+            continue;
+        }
+        if (report.failed()) {
+            failed.append(shortName);
+            lines.append(tr("%1: %2").arg(report.name, report.error));
+            continue;
+        }
+        QString line = tr("%1: %n servers", nullptr, report.addresses).arg(report.name);
+        if (report.skipped > 0)
+            line += QLatin1Char(' ') + tr("(%n entries skipped)", nullptr, report.skipped);
+        if (report.truncated)
+            line += QLatin1Char(' ') + tr("(list cut at %1)").arg(ServerListReader::MaxAddresses);
+        lines.append(line);
+    }
+    failed.removeDuplicates();
+    awaited.removeDuplicates();
+    return SourceStatus{lines.join(QLatin1Char('\n')), failed.join(QStringLiteral(", ")),
+                        awaited.join(QStringLiteral(", "))};
+}
+
+QString SourceStatus::queryingText(int count) const
+{
+    const QString text = tr("Querying %1 Servers...").arg(count);
+    const QString more = !awaited.isEmpty()  ? tr("Waiting for %1").arg(awaited)
+                         : !failed.isEmpty() ? tr("No list from %1").arg(failed)
+                                             : QString();
+    return more.isEmpty() ? text : text + QLatin1Char('\n') + more;
+}
+
+QString SourceStatus::timedOutText() const
+{
+    QString text = tr("Master Servers Timed Out");
+    if (!summary.isEmpty())
+        text += QStringLiteral("\n\n") + summary;
+    return text + QStringLiteral("\n\n") +
+           tr("Check the network connection, or add a master server or a server list that works in Options, on the "
+              "\"Servers\" tab.");
+}
