@@ -64,6 +64,29 @@
     </message>
 </context>
 <context>
+    <name>DialogBar</name>
+    <message>
+        <source>%1 is not listed now: &quot;Query Recently Played&quot; asks every server you played on.</source>
+        <translation>%1 ist gerade nicht aufgelistet: „Zuletzt gespielte anfragen“ fragt jeden Server ab, auf dem Sie gespielt haben.</translation>
+    </message>
+    <message>
+        <source>Favourites</source>
+        <translation>Favoriten</translation>
+    </message>
+    <message>
+        <source>Filters</source>
+        <translation>Filter</translation>
+    </message>
+    <message>
+        <source>Options</source>
+        <translation>Optionen</translation>
+    </message>
+    <message>
+        <source>Recently Played</source>
+        <translation>Zuletzt gespielt</translation>
+    </message>
+</context>
+<context>
     <name>Downloader</name>
     <message>
         <source>The site sent an empty file.</source>
@@ -421,26 +444,6 @@
         <translation>Über Quake 4 Vantage</translation>
     </message>
     <message>
-        <source>Players</source>
-        <translation>Spieler</translation>
-    </message>
-    <message>
-        <source>Servers</source>
-        <translation>Server</translation>
-    </message>
-    <message>
-        <source>Favourites</source>
-        <translation>Favoriten</translation>
-    </message>
-    <message>
-        <source>Filters</source>
-        <translation>Filter</translation>
-    </message>
-    <message>
-        <source>Options</source>
-        <translation>Optionen</translation>
-    </message>
-    <message>
         <source>Exit</source>
         <translation>Beenden</translation>
     </message>
@@ -457,22 +460,6 @@
             <numerusform>%n Spieler gefunden</numerusform>
             <numerusform>%n Spieler gefunden</numerusform>
         </translation>
-    </message>
-    <message>
-        <source>Recently Played</source>
-        <translation>Zuletzt gespielt</translation>
-    </message>
-    <message>
-        <source>Stop Waiting</source>
-        <translation>Warten beenden</translation>
-    </message>
-    <message>
-        <source>Stopped waiting for a free slot.</source>
-        <translation>Warten auf einen freien Platz beendet.</translation>
-    </message>
-    <message>
-        <source>%1 is not listed now: &quot;Query Recently Played&quot; asks every server you played on.</source>
-        <translation>%1 ist gerade nicht aufgelistet: „Zuletzt gespielte anfragen“ fragt jeden Server ab, auf dem Sie gespielt haben.</translation>
     </message>
 </context>
 <context>
@@ -803,6 +790,10 @@ Auf einen freien Platz warten und beitreten, sobald einer frei wird?</translatio
         <source>Password:</source>
         <translation>Passwort:</translation>
     </message>
+    <message>
+        <source>Stop Waiting</source>
+        <translation>Warten beenden</translation>
+    </message>
 </context>
 <context>
     <name>ListColumns</name>
@@ -903,6 +894,17 @@ Auf einen freien Platz warten und beitreten, sobald einer frei wird?</translatio
     </message>
 </context>
 <context>
+    <name>ListTabs</name>
+    <message>
+        <source>Players</source>
+        <translation>Spieler</translation>
+    </message>
+    <message>
+        <source>Servers</source>
+        <translation>Server</translation>
+    </message>
+</context>
+<context>
     <name>QueryBar</name>
     <message>
         <source>Cancel Query</source>
@@ -923,6 +925,10 @@ Auf einen freien Platz warten und beitreten, sobald einer frei wird?</translatio
     <message>
         <source>Find the servers of your local network</source>
         <translation>Die Server Ihres lokalen Netzwerks finden</translation>
+    </message>
+    <message>
+        <source>Quake 4 Vantage</source>
+        <translation>Quake 4 Vantage</translation>
     </message>
 </context>
 <context>
@@ -1140,6 +1146,10 @@ Auf einen freien Platz warten und beitreten, sobald einer frei wird?</translatio
     <message>
         <source>%1 is full (%2): waiting for a free slot...</source>
         <translation>%1 ist voll (%2): warte auf einen freien Platz...</translation>
+    </message>
+    <message>
+        <source>Stopped waiting for a free slot.</source>
+        <translation>Warten auf einen freien Platz beendet.</translation>
     </message>
 </context>
 <context>

@@ -63,6 +63,29 @@
     </message>
 </context>
 <context>
+    <name>DialogBar</name>
+    <message>
+        <source>%1 is not listed now: &quot;Query Recently Played&quot; asks every server you played on.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Favourites</source>
+        <translation>Favorites</translation>
+    </message>
+    <message>
+        <source>Filters</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Options</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Recently Played</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>Downloader</name>
     <message>
         <source>The site sent an empty file.</source>
@@ -298,7 +321,7 @@
     </message>
     <message>
         <source>Favourites</source>
-        <translation type="unfinished">Favorites</translation>
+        <translation>Favorites</translation>
     </message>
     <message>
         <source>OK</source>
@@ -409,31 +432,11 @@
 <context>
     <name>FrmMain</name>
     <message>
-        <source>Favourites</source>
-        <translation>Favorites</translation>
-    </message>
-    <message>
         <source>Quake 4 Vantage</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
         <source>About Quake 4 Vantage</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Players</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Servers</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Filters</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Options</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -453,22 +456,6 @@
             <numerusform></numerusform>
             <numerusform></numerusform>
         </translation>
-    </message>
-    <message>
-        <source>Recently Played</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Stop Waiting</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Stopped waiting for a free slot.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>%1 is not listed now: &quot;Query Recently Played&quot; asks every server you played on.</source>
-        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -798,6 +785,10 @@ Wait for a free slot and join as soon as one opens?</source>
         <source>Password:</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>Stop Waiting</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>ListColumns</name>
@@ -898,6 +889,17 @@ Wait for a free slot and join as soon as one opens?</source>
     </message>
 </context>
 <context>
+    <name>ListTabs</name>
+    <message>
+        <source>Players</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Servers</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>QueryBar</name>
     <message>
         <source>Query Favourites</source>
@@ -917,6 +919,10 @@ Wait for a free slot and join as soon as one opens?</source>
     </message>
     <message>
         <source>Find the servers of your local network</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Quake 4 Vantage</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -1133,6 +1139,10 @@ Wait for a free slot and join as soon as one opens?</source>
         <source>%1 is full (%2): waiting for a free slot...</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>Stopped waiting for a free slot.</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>SourceStatus</name>
@@ -1146,14 +1156,14 @@ Wait for a free slot and join as soon as one opens?</source>
     </message>
     <message numerus="yes">
         <source>%1: %n servers</source>
-        <translation type="unfinished">
+        <translation>
             <numerusform>%1: %n server</numerusform>
             <numerusform>%1: %n servers</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>(%n entries skipped)</source>
-        <translation type="unfinished">
+        <translation>
             <numerusform>(%n entry skipped)</numerusform>
             <numerusform>(%n entries skipped)</numerusform>
         </translation>

@@ -64,6 +64,29 @@
     </message>
 </context>
 <context>
+    <name>DialogBar</name>
+    <message>
+        <source>%1 is not listed now: &quot;Query Recently Played&quot; asks every server you played on.</source>
+        <translation>%1 n&apos;est pas dans la liste pour l&apos;instant : « Rechercher Joués récemment » interroge chaque serveur sur lequel vous avez joué.</translation>
+    </message>
+    <message>
+        <source>Favourites</source>
+        <translation>Favoris</translation>
+    </message>
+    <message>
+        <source>Filters</source>
+        <translation>Filtres</translation>
+    </message>
+    <message>
+        <source>Options</source>
+        <translation>Options</translation>
+    </message>
+    <message>
+        <source>Recently Played</source>
+        <translation>Joués récemment</translation>
+    </message>
+</context>
+<context>
     <name>Downloader</name>
     <message>
         <source>The site sent an empty file.</source>
@@ -421,26 +444,6 @@
         <translation>À propos de Quake 4 Vantage</translation>
     </message>
     <message>
-        <source>Players</source>
-        <translation>Joueurs</translation>
-    </message>
-    <message>
-        <source>Servers</source>
-        <translation>Serveurs</translation>
-    </message>
-    <message>
-        <source>Favourites</source>
-        <translation>Favoris</translation>
-    </message>
-    <message>
-        <source>Filters</source>
-        <translation>Filtres</translation>
-    </message>
-    <message>
-        <source>Options</source>
-        <translation>Options</translation>
-    </message>
-    <message>
         <source>Exit</source>
         <translation>Quitter</translation>
     </message>
@@ -457,22 +460,6 @@
             <numerusform>%n joueur trouvé</numerusform>
             <numerusform>%n joueurs trouvés</numerusform>
         </translation>
-    </message>
-    <message>
-        <source>Recently Played</source>
-        <translation>Joués récemment</translation>
-    </message>
-    <message>
-        <source>Stop Waiting</source>
-        <translation>Arrêter d&apos;attendre</translation>
-    </message>
-    <message>
-        <source>Stopped waiting for a free slot.</source>
-        <translation>Attente d&apos;une place libre arrêtée.</translation>
-    </message>
-    <message>
-        <source>%1 is not listed now: &quot;Query Recently Played&quot; asks every server you played on.</source>
-        <translation>%1 n&apos;est pas dans la liste pour l&apos;instant : « Rechercher Joués récemment » interroge chaque serveur sur lequel vous avez joué.</translation>
     </message>
 </context>
 <context>
@@ -803,6 +790,10 @@ Attendre une place libre et rejoindre dès qu&apos;une place se libère ?</trans
         <source>Password:</source>
         <translation>Mot de passe :</translation>
     </message>
+    <message>
+        <source>Stop Waiting</source>
+        <translation>Arrêter d&apos;attendre</translation>
+    </message>
 </context>
 <context>
     <name>ListColumns</name>
@@ -903,6 +894,17 @@ Attendre une place libre et rejoindre dès qu&apos;une place se libère ?</trans
     </message>
 </context>
 <context>
+    <name>ListTabs</name>
+    <message>
+        <source>Players</source>
+        <translation>Joueurs</translation>
+    </message>
+    <message>
+        <source>Servers</source>
+        <translation>Serveurs</translation>
+    </message>
+</context>
+<context>
     <name>QueryBar</name>
     <message>
         <source>Cancel Query</source>
@@ -923,6 +925,10 @@ Attendre une place libre et rejoindre dès qu&apos;une place se libère ?</trans
     <message>
         <source>Find the servers of your local network</source>
         <translation>Trouver les serveurs de votre réseau local</translation>
+    </message>
+    <message>
+        <source>Quake 4 Vantage</source>
+        <translation>Quake 4 Vantage</translation>
     </message>
 </context>
 <context>
@@ -1140,6 +1146,10 @@ Attendre une place libre et rejoindre dès qu&apos;une place se libère ?</trans
     <message>
         <source>%1 is full (%2): waiting for a free slot...</source>
         <translation>%1 est plein (%2) : attente d&apos;une place libre...</translation>
+    </message>
+    <message>
+        <source>Stopped waiting for a free slot.</source>
+        <translation>Attente d&apos;une place libre arrêtée.</translation>
     </message>
 </context>
 <context>

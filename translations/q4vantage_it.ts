@@ -64,6 +64,29 @@ hanno risposto %2 server su %3</translation>
     </message>
 </context>
 <context>
+    <name>DialogBar</name>
+    <message>
+        <source>%1 is not listed now: &quot;Query Recently Played&quot; asks every server you played on.</source>
+        <translation>%1 non è in elenco ora: «Interroga Giocati di recente» interroga ogni server su cui hai giocato.</translation>
+    </message>
+    <message>
+        <source>Favourites</source>
+        <translation>Preferiti</translation>
+    </message>
+    <message>
+        <source>Filters</source>
+        <translation>Filtri</translation>
+    </message>
+    <message>
+        <source>Options</source>
+        <translation>Opzioni</translation>
+    </message>
+    <message>
+        <source>Recently Played</source>
+        <translation>Giocati di recente</translation>
+    </message>
+</context>
+<context>
     <name>Downloader</name>
     <message>
         <source>The site sent an empty file.</source>
@@ -421,26 +444,6 @@ hanno risposto %2 server su %3</translation>
         <translation>Informazioni su Quake 4 Vantage</translation>
     </message>
     <message>
-        <source>Players</source>
-        <translation>Giocatori</translation>
-    </message>
-    <message>
-        <source>Servers</source>
-        <translation>Server</translation>
-    </message>
-    <message>
-        <source>Favourites</source>
-        <translation>Preferiti</translation>
-    </message>
-    <message>
-        <source>Filters</source>
-        <translation>Filtri</translation>
-    </message>
-    <message>
-        <source>Options</source>
-        <translation>Opzioni</translation>
-    </message>
-    <message>
         <source>Exit</source>
         <translation>Esci</translation>
     </message>
@@ -457,22 +460,6 @@ hanno risposto %2 server su %3</translation>
             <numerusform>%n giocatore trovato</numerusform>
             <numerusform>%n giocatori trovati</numerusform>
         </translation>
-    </message>
-    <message>
-        <source>Recently Played</source>
-        <translation>Giocati di recente</translation>
-    </message>
-    <message>
-        <source>Stop Waiting</source>
-        <translation>Smetti di attendere</translation>
-    </message>
-    <message>
-        <source>Stopped waiting for a free slot.</source>
-        <translation>Attesa di un posto libero interrotta.</translation>
-    </message>
-    <message>
-        <source>%1 is not listed now: &quot;Query Recently Played&quot; asks every server you played on.</source>
-        <translation>%1 non è in elenco ora: «Interroga Giocati di recente» interroga ogni server su cui hai giocato.</translation>
     </message>
 </context>
 <context>
@@ -803,6 +790,10 @@ Attendere un posto libero ed entrare appena se ne libera uno?</translation>
         <source>Password:</source>
         <translation>Password:</translation>
     </message>
+    <message>
+        <source>Stop Waiting</source>
+        <translation>Smetti di attendere</translation>
+    </message>
 </context>
 <context>
     <name>ListColumns</name>
@@ -903,6 +894,17 @@ Attendere un posto libero ed entrare appena se ne libera uno?</translation>
     </message>
 </context>
 <context>
+    <name>ListTabs</name>
+    <message>
+        <source>Players</source>
+        <translation>Giocatori</translation>
+    </message>
+    <message>
+        <source>Servers</source>
+        <translation>Server</translation>
+    </message>
+</context>
+<context>
     <name>QueryBar</name>
     <message>
         <source>Cancel Query</source>
@@ -923,6 +925,10 @@ Attendere un posto libero ed entrare appena se ne libera uno?</translation>
     <message>
         <source>Find the servers of your local network</source>
         <translation>Trova i server della tua rete locale</translation>
+    </message>
+    <message>
+        <source>Quake 4 Vantage</source>
+        <translation>Quake 4 Vantage</translation>
     </message>
 </context>
 <context>
@@ -1140,6 +1146,10 @@ Attendere un posto libero ed entrare appena se ne libera uno?</translation>
     <message>
         <source>%1 is full (%2): waiting for a free slot...</source>
         <translation>%1 è pieno (%2): in attesa di un posto libero...</translation>
+    </message>
+    <message>
+        <source>Stopped waiting for a free slot.</source>
+        <translation>Attesa di un posto libero interrotta.</translation>
     </message>
 </context>
 <context>

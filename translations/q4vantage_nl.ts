@@ -64,6 +64,29 @@
     </message>
 </context>
 <context>
+    <name>DialogBar</name>
+    <message>
+        <source>%1 is not listed now: &quot;Query Recently Played&quot; asks every server you played on.</source>
+        <translation>%1 staat nu niet in de lijst: &apos;Query Recent gespeeld&apos; vraagt elke server op waarop u hebt gespeeld.</translation>
+    </message>
+    <message>
+        <source>Favourites</source>
+        <translation>Favorieten</translation>
+    </message>
+    <message>
+        <source>Filters</source>
+        <translation>Filters</translation>
+    </message>
+    <message>
+        <source>Options</source>
+        <translation>Opties</translation>
+    </message>
+    <message>
+        <source>Recently Played</source>
+        <translation>Recent gespeeld</translation>
+    </message>
+</context>
+<context>
     <name>Downloader</name>
     <message>
         <source>The site sent an empty file.</source>
@@ -421,26 +444,6 @@
         <translation>Over Quake 4 Vantage</translation>
     </message>
     <message>
-        <source>Players</source>
-        <translation>Spelers</translation>
-    </message>
-    <message>
-        <source>Servers</source>
-        <translation>Servers</translation>
-    </message>
-    <message>
-        <source>Favourites</source>
-        <translation>Favorieten</translation>
-    </message>
-    <message>
-        <source>Filters</source>
-        <translation>Filters</translation>
-    </message>
-    <message>
-        <source>Options</source>
-        <translation>Opties</translation>
-    </message>
-    <message>
         <source>Exit</source>
         <translation>Afsluiten</translation>
     </message>
@@ -457,22 +460,6 @@
             <numerusform>%n speler gevonden</numerusform>
             <numerusform>%n spelers gevonden</numerusform>
         </translation>
-    </message>
-    <message>
-        <source>Recently Played</source>
-        <translation>Recent gespeeld</translation>
-    </message>
-    <message>
-        <source>Stop Waiting</source>
-        <translation>Stop met wachten</translation>
-    </message>
-    <message>
-        <source>Stopped waiting for a free slot.</source>
-        <translation>Wachten op een vrije plek gestopt.</translation>
-    </message>
-    <message>
-        <source>%1 is not listed now: &quot;Query Recently Played&quot; asks every server you played on.</source>
-        <translation>%1 staat nu niet in de lijst: &apos;Query Recent gespeeld&apos; vraagt elke server op waarop u hebt gespeeld.</translation>
     </message>
 </context>
 <context>
@@ -803,6 +790,10 @@ Wachten op een vrije plek en deelnemen zodra er een vrijkomt?</translation>
         <source>Password:</source>
         <translation>Wachtwoord:</translation>
     </message>
+    <message>
+        <source>Stop Waiting</source>
+        <translation>Stop met wachten</translation>
+    </message>
 </context>
 <context>
     <name>ListColumns</name>
@@ -903,6 +894,17 @@ Wachten op een vrije plek en deelnemen zodra er een vrijkomt?</translation>
     </message>
 </context>
 <context>
+    <name>ListTabs</name>
+    <message>
+        <source>Players</source>
+        <translation>Spelers</translation>
+    </message>
+    <message>
+        <source>Servers</source>
+        <translation>Servers</translation>
+    </message>
+</context>
+<context>
     <name>QueryBar</name>
     <message>
         <source>Cancel Query</source>
@@ -923,6 +925,10 @@ Wachten op een vrije plek en deelnemen zodra er een vrijkomt?</translation>
     <message>
         <source>Find the servers of your local network</source>
         <translation>De servers van uw lokale netwerk vinden</translation>
+    </message>
+    <message>
+        <source>Quake 4 Vantage</source>
+        <translation>Quake 4 Vantage</translation>
     </message>
 </context>
 <context>
@@ -1140,6 +1146,10 @@ Wachten op een vrije plek en deelnemen zodra er een vrijkomt?</translation>
     <message>
         <source>%1 is full (%2): waiting for a free slot...</source>
         <translation>%1 is vol (%2): wachten op een vrije plek...</translation>
+    </message>
+    <message>
+        <source>Stopped waiting for a free slot.</source>
+        <translation>Wachten op een vrije plek gestopt.</translation>
     </message>
 </context>
 <context>

@@ -64,6 +64,29 @@ responderam %2 de %3 servidores</translation>
     </message>
 </context>
 <context>
+    <name>DialogBar</name>
+    <message>
+        <source>%1 is not listed now: &quot;Query Recently Played&quot; asks every server you played on.</source>
+        <translation>%1 não está listado agora: «Query Jogados recentemente» consulta cada servidor em que jogou.</translation>
+    </message>
+    <message>
+        <source>Favourites</source>
+        <translation>Favoritos</translation>
+    </message>
+    <message>
+        <source>Filters</source>
+        <translation>Filtros</translation>
+    </message>
+    <message>
+        <source>Options</source>
+        <translation>Opções</translation>
+    </message>
+    <message>
+        <source>Recently Played</source>
+        <translation>Jogados recentemente</translation>
+    </message>
+</context>
+<context>
     <name>Downloader</name>
     <message>
         <source>The site sent an empty file.</source>
@@ -421,26 +444,6 @@ responderam %2 de %3 servidores</translation>
         <translation>Sobre o Quake 4 Vantage</translation>
     </message>
     <message>
-        <source>Players</source>
-        <translation>Jogadores</translation>
-    </message>
-    <message>
-        <source>Servers</source>
-        <translation>Servidores</translation>
-    </message>
-    <message>
-        <source>Favourites</source>
-        <translation>Favoritos</translation>
-    </message>
-    <message>
-        <source>Filters</source>
-        <translation>Filtros</translation>
-    </message>
-    <message>
-        <source>Options</source>
-        <translation>Opções</translation>
-    </message>
-    <message>
         <source>Exit</source>
         <translation>Sair</translation>
     </message>
@@ -457,22 +460,6 @@ responderam %2 de %3 servidores</translation>
             <numerusform>%n jogador encontrado</numerusform>
             <numerusform>%n jogadores encontrados</numerusform>
         </translation>
-    </message>
-    <message>
-        <source>Recently Played</source>
-        <translation>Jogados recentemente</translation>
-    </message>
-    <message>
-        <source>Stop Waiting</source>
-        <translation>Parar de esperar</translation>
-    </message>
-    <message>
-        <source>Stopped waiting for a free slot.</source>
-        <translation>Deixou de esperar por uma vaga.</translation>
-    </message>
-    <message>
-        <source>%1 is not listed now: &quot;Query Recently Played&quot; asks every server you played on.</source>
-        <translation>%1 não está listado agora: «Query Jogados recentemente» consulta cada servidor em que jogou.</translation>
     </message>
 </context>
 <context>
@@ -803,6 +790,10 @@ Esperar por uma vaga e entrar assim que uma abrir?</translation>
         <source>Password:</source>
         <translation>Senha:</translation>
     </message>
+    <message>
+        <source>Stop Waiting</source>
+        <translation>Parar de esperar</translation>
+    </message>
 </context>
 <context>
     <name>ListColumns</name>
@@ -903,6 +894,17 @@ Esperar por uma vaga e entrar assim que uma abrir?</translation>
     </message>
 </context>
 <context>
+    <name>ListTabs</name>
+    <message>
+        <source>Players</source>
+        <translation>Jogadores</translation>
+    </message>
+    <message>
+        <source>Servers</source>
+        <translation>Servidores</translation>
+    </message>
+</context>
+<context>
     <name>QueryBar</name>
     <message>
         <source>Cancel Query</source>
@@ -923,6 +925,10 @@ Esperar por uma vaga e entrar assim que uma abrir?</translation>
     <message>
         <source>Find the servers of your local network</source>
         <translation>Encontrar os servidores da sua rede local</translation>
+    </message>
+    <message>
+        <source>Quake 4 Vantage</source>
+        <translation>Quake 4 Vantage</translation>
     </message>
 </context>
 <context>
@@ -1140,6 +1146,10 @@ Esperar por uma vaga e entrar assim que uma abrir?</translation>
     <message>
         <source>%1 is full (%2): waiting for a free slot...</source>
         <translation>%1 está cheio (%2): à espera de uma vaga...</translation>
+    </message>
+    <message>
+        <source>Stopped waiting for a free slot.</source>
+        <translation>Deixou de esperar por uma vaga.</translation>
     </message>
 </context>
 <context>

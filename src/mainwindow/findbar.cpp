@@ -7,18 +7,24 @@
 #include "widgets/reportmodel.h"
 #include "widgets/reportview.h"
 
+#include <QHBoxLayout>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QShortcut>
 #include <QToolButton>
 
 FindBar::FindBar(TargetOf target, QWidget* parent)
-    : QObject(parent)
+    : QWidget(parent)
     , m_target(std::move(target))
-    , m_box(new HistoryComboBox(parent))
-    , m_button(new QPushButton(parent))
-    , m_friendButton(new QToolButton(parent))
+    , m_box(new HistoryComboBox(this))
+    , m_button(new QPushButton(this))
+    , m_friendButton(new QToolButton(this))
 {
+    auto* row = new QHBoxLayout(this);
+    row->setContentsMargins(0, 0, 0, 0);
+    row->addWidget(m_box, 1);
+    row->addWidget(m_button);
+    row->addWidget(m_friendButton);
     m_friendButton->setObjectName(QStringLiteral("cmdFindFriend"));
     m_friendButton->setAutoRaise(true);
     connect(m_friendButton, &QPushButton::clicked, this, &FindBar::findFriend);
@@ -31,7 +37,7 @@ FindBar::FindBar(TargetOf target, QWidget* parent)
     connect(m_box, &HistoryComboBox::enterPressed, this, &FindBar::findNext);
     connect(m_button, &QPushButton::clicked, this, &FindBar::findNext);
     // Ctrl+F, as everywhere: the box takes the focus with its text chosen.
-    auto* findKey = new QShortcut(QKeySequence::Find, parent);
+    auto* findKey = new QShortcut(QKeySequence::Find, this);
     connect(findKey, &QShortcut::activated, this, [this] {
         m_box->setFocus(Qt::ShortcutFocusReason);
         m_box->lineEdit()->selectAll();

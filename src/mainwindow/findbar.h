@@ -3,8 +3,8 @@
 
 #include "widgets/statustone.h"
 
-#include <QObject>
 #include <QPalette>
+#include <QWidget>
 
 #include <functional>
 
@@ -16,7 +16,7 @@ class ReportView;
 // The find box and its button: finds a name in the list on show, as the
 // user types (from the top) and with Find or Enter (after the selected
 // row, wrapping round).
-class FindBar final : public QObject {
+class FindBar final : public QWidget {
     Q_OBJECT
     Q_DISABLE_COPY_MOVE(FindBar)
 
@@ -28,7 +28,7 @@ public:
     };
     using TargetOf = std::function<Target()>;
 
-    FindBar(TargetOf target, QWidget* parent);
+    explicit FindBar(TargetOf target, QWidget* parent = nullptr);
 
     HistoryComboBox* box() const { return m_box; }
     QPushButton* button() const { return m_button; }

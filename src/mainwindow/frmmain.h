@@ -1,57 +1,44 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #pragma once
 
+#include "mainwindow/listtabs.h"
 #include "widgets/columnlayout.h"
 #include "widgets/statustone.h"
 
-#include <QPointer>
 #include <QWidget>
 
 class AutoRefresh;
 class Desktop;
-class FrmHistory;
-class SlotWaiter;
+class DialogBar;
 class FindBar;
-class FrmFilters;
-class HistoryComboBox;
 class JoinPanel;
-class QueryBar;
-class FrmOptions;
 class Language;
-class ThemeService;
-class UpdateFlow;
-class ListPane;
-class MulticolorLabel;
-class QAction;
-class QFrame;
-class QLabel;
-class QMenu;
-class QProgressBar;
-class QPushButton;
-class QSplitter;
-class QTabBar;
 class ListMenu;
+class ListPane;
+class QLabel;
+class QPushButton;
+class QueryBar;
 class QueryController;
-class ReportView;
 class ServerDetails;
 class ServerLists;
 class ServerSelection;
 class SettingsStore;
-class StatusLine;
+class SlotWaiter;
+class ThemeService;
+class UpdateFlow;
 class WindowState;
 struct ServerRecord;
 
 // The main window: the lists, the panes of the selected server, the query
-// and join controls. It builds the controls and wires the classes that do
-// the work: the query controller, the list panes, find, joining and the
-// window state.
+// and join controls. It creates the components (each lays itself out),
+// connects them and places them; the work is theirs.
 class FrmMain final : public QWidget {
     Q_OBJECT
     Q_DISABLE_COPY_MOVE(FrmMain)
 
 public:
-    static constexpr int PlayersTab = 0;
-    static constexpr int ServersTab = 1;
+    static constexpr int PlayersTab = ListTabs::PlayersTab;
+    static constexpr int ServersTab = ListTabs::ServersTab;
     static constexpr QSize MinimumSize{500, 545};
     static constexpr QSize DesignSize{760, 570};
 
@@ -71,10 +58,6 @@ public:
     UpdateFlow& updates() const { return *m_updates; }
     AutoRefresh& autoRefresh() const { return *m_autoRefresh; }
     SlotWaiter& slotWaiter() const { return *m_waiter; }
-    // "Recently Played", as cmdRecent opens it.
-    FrmHistory* openHistory();
-    // The options dialog, as cmdOptions opens it.
-    FrmOptions* openOptions();
 
     // Rebuild the visible lists from the hidden full lists under the
     // filters (after every change in the filters editor).
@@ -89,23 +72,19 @@ protected:
     void resizeEvent(QResizeEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
     void changeEvent(QEvent* event) override;
-    bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
     void createControls();
-    void createMenu();
     void connectQueries();
     void connectLists();
+    void connectJoin();
     void layOutControls();
     void retranslateUi();
-    void showView(int tab);
-    void setBusy(bool busy);
+    void showView(bool players);
     void setStatus(const QString& text, StatusTone tone);
     void updateCounters();
     void addAnswers(const QList<ServerRecord>& batch);
-    void applyRefresh(const ServerRecord& server);
     void applyUpdates(const QList<ServerRecord>& batch);
-    void connectExtras();
     void showServer(const QModelIndex& index);
     void showPlayer(const QModelIndex& index);
     void showMenu(ListPane& pane, const QModelIndex& index, const QPoint& at);
@@ -122,6 +101,7 @@ private:
 
     ServerLists* m_lists = nullptr;
     QueryController* m_queries = nullptr;
+    ListTabs* m_tabs = nullptr;
     ListPane* m_serverPane = nullptr;
     ListPane* m_playerPane = nullptr;
     ServerDetails* m_details = nullptr;
@@ -133,21 +113,13 @@ private:
     ListMenu* m_menu = nullptr;
     ThemeService* m_themes = nullptr;
     UpdateFlow* m_updates = nullptr;
-    FrmFilters* m_frmFilters = nullptr;
+    DialogBar* m_dialogs = nullptr;
     AutoRefresh* m_autoRefresh = nullptr;
     SlotWaiter* m_waiter = nullptr;
-    QPointer<FrmHistory> m_history;
 
     QLabel* lblAbout = nullptr;
-    QTabBar* tabSelect = nullptr;
-    QSplitter* rzrPSI = nullptr;
 
     QLabel* lblPlayers = nullptr;
     QLabel* lblServers = nullptr;
-    QPushButton* cmdOrganise = nullptr;
-    QPushButton* cmdFilters = nullptr;
-    QPushButton* cmdOptions = nullptr;
-    QPushButton* cmdRecent = nullptr;
-    QPushButton* cmdStopWaiting = nullptr;
     QPushButton* cmdExit = nullptr;
 };

@@ -2,6 +2,7 @@
 #include "mainwindow/joinflow.h"
 
 #include "mainwindow/joincommand.h"
+#include "mainwindow/slotwaiter.h"
 #include "platform/desktop.h"
 #include "query/serverlistreader.h"
 #include "userdata/favourites.h"
@@ -11,6 +12,11 @@
 
 #include <QDir>
 #include <QFileInfo>
+
+JoinFlow::Target JoinFlow::Target::of(const ServerRecord& server, const QString& plainName)
+{
+    return Target{server.endpointText(), server.isPassworded(), plainName, !SlotWait::hasFreeSlot(server)};
+}
 
 JoinFlow::JoinFlow(SettingsStore& settings, Desktop& desktop, QString favouritesPath, QString historyPath,
                    const HistoryComboBox& playerName, const HistoryComboBox& password, QWidget* window)

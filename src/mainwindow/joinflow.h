@@ -5,6 +5,8 @@
 
 #include <QObject>
 
+struct ServerRecord;
+
 class Desktop;
 class HistoryComboBox;
 class SettingsStore;
@@ -23,6 +25,9 @@ public:
         QString serverName;
         // Every place taken when the list last heard from it.
         bool full = false;
+
+        // A listed server, joined by the name the lists show.
+        static Target of(const ServerRecord& server, const QString& plainName);
     };
 
     // The boxes give the player name and the password; window parents the

@@ -2,6 +2,8 @@
 #include "mainwindow/joinpanel.h"
 
 #include "mainwindow/joinflow.h"
+#include "mainwindow/slotwaiter.h"
+#include "platform/desktop.h"
 #include "presentation/colourcodes.h"
 #include "presentation/multicolorlabel.h"
 #include "widgets/historycombobox.h"
@@ -12,7 +14,7 @@
 #include <QPushButton>
 
 JoinPanel::JoinPanel(SettingsStore& settings, Desktop& desktop, const QString& favouritesPath,
-                     const QString& historyPath, QWidget* window)
+                     const QString& historyPath, ListedServer listed, QWidget* window)
     : QFrame(window)
 {
     setObjectName(QStringLiteral("fraJoin"));
@@ -30,6 +32,9 @@ JoinPanel::JoinPanel(SettingsStore& settings, Desktop& desktop, const QString& f
     cmdJoin->setAutoDefault(false);
     cmdJoinIP->setAutoDefault(false);
     m_flow = new JoinFlow(settings, desktop, favouritesPath, historyPath, *cmbPlayerName, *cmbPassword, window);
+    m_waiter = new SlotWaiter(desktop.clock(), this);
+    cmdStopWaiting = makeControl<QPushButton>(window, "cmdStopWaiting");
+    cmdStopWaiting->hide();
 
     auto* layout = new QGridLayout(this);
     layout->setContentsMargins(6, 6, 6, 6);
@@ -54,6 +59,20 @@ JoinPanel::JoinPanel(SettingsStore& settings, Desktop& desktop, const QString& f
         emit joinRequested();
     });
     connect(cmdJoinIP, &QPushButton::clicked, m_flow, &JoinFlow::joinByAddress);
+
+    connect(m_flow, &JoinFlow::joining, m_waiter, &SlotWaiter::cancel);
+    connect(m_flow, &JoinFlow::waitRequested, this,
+            [this, listed = std::move(listed)](const JoinFlow::Target& target, const QString& password) {
+                // Only a listed server can be asked again; one gone meanwhile
+                // is joined at once, as the documented join would.
+                if (const ServerRecord* server = listed(target.address))
+                    m_waiter->begin(target, password, *server);
+                else
+                    m_flow->start(target, password);
+            });
+    connect(m_waiter, &SlotWaiter::joinNow, m_flow, &JoinFlow::start);
+    connect(m_waiter, &SlotWaiter::waitingChanged, cmdStopWaiting, &QWidget::setVisible);
+    connect(cmdStopWaiting, &QPushButton::clicked, m_waiter, &SlotWaiter::stop);
 }
 
 void JoinPanel::ShowPlayerName(const QString& name)
@@ -66,6 +85,7 @@ void JoinPanel::retranslate()
 {
     cmdJoin->setText(tr("Join"));
     cmdJoinIP->setText(tr("Join IP"));
+    cmdStopWaiting->setText(tr("Stop Waiting"));
     lblPlayerName->setText(tr("Name:"));
     lblPassword->setText(tr("Password:"));
 }

@@ -3,6 +3,8 @@
 
 #include <QFrame>
 
+#include <functional>
+
 class Desktop;
 class HistoryComboBox;
 class JoinFlow;
@@ -10,22 +12,31 @@ class MulticolorLabel;
 class QLabel;
 class QPushButton;
 class SettingsStore;
+class SlotWaiter;
+struct ServerRecord;
 
 // The join controls: player name and password boxes (each remembers what
 // the user confirms), Join and Join IP, and the selected player's name in
 // colour. Join asks the window for the selected server; Join IP asks the
-// user for an address.
+// user for an address. A full server may be waited for: the panel owns the
+// wait, and "Stop Waiting" (placed by the window) ends it.
 class JoinPanel final : public QFrame {
     Q_OBJECT
     Q_DISABLE_COPY_MOVE(JoinPanel)
 
 public:
+    // The listed server of an "address:port", or none.
+    using ListedServer = std::function<const ServerRecord*(const QString& address)>;
+
     JoinPanel(SettingsStore& settings, Desktop& desktop, const QString& favouritesPath, const QString& historyPath,
-              QWidget* window);
+              ListedServer listed, QWidget* window);
 
     HistoryComboBox* playerName() const { return cmbPlayerName; }
     HistoryComboBox* password() const { return cmbPassword; }
     JoinFlow& flow() const { return *m_flow; }
+    SlotWaiter& waiter() const { return *m_waiter; }
+    // Shown only while a wait runs.
+    QPushButton* stopWaitingButton() const { return cmdStopWaiting; }
 
     void ShowPlayerName(const QString& name);
     void retranslate();
@@ -43,5 +54,7 @@ private:
     MulticolorLabel* mclPName = nullptr;
     QPushButton* cmdJoin = nullptr;
     QPushButton* cmdJoinIP = nullptr;
+    QPushButton* cmdStopWaiting = nullptr;
     JoinFlow* m_flow = nullptr;
+    SlotWaiter* m_waiter = nullptr;
 };

@@ -9,17 +9,22 @@
 #include "widgets/reportview.h"
 
 #include <QHeaderView>
+#include <QVBoxLayout>
 
 ListPane::ListPane(SettingsStore& settings, Keys::ListKeys keys, const ReportModel& model, VisibleList& list, Rows rows,
                    const QString& objectName, QWidget* parent)
-    : QObject(parent)
+    : QWidget(parent)
     , m_settings(settings)
     , m_keys(keys)
     , m_list(list)
     , m_rows(std::move(rows))
-    , m_view(new ReportView(&list, model.designWidths(), parent))
+    , m_view(new ReportView(&list, model.designWidths(), this))
 {
     m_view->setObjectName(objectName);
+    auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->addWidget(m_view);
+    setFocusProxy(m_view);
     m_view->setItemDelegate(new RowMarkDelegate(m_view));
     connect(m_view, &QAbstractItemView::clicked, this, &ListPane::rowClicked);
     connect(m_view, &ReportView::menuRequested, this, [this](const QModelIndex& index, const QPoint& globalPos) {
@@ -63,6 +68,19 @@ int ListPane::selectedServer() const
 {
     const int row = m_view->selectedRow();
     return row < 0 ? -1 : serverAt(m_list.index(row, 0));
+}
+
+QModelIndex ListPane::select(int server)
+{
+    for (int row = 0; server >= 0 && row < m_list.rowCount(); ++row) {
+        const QModelIndex first = m_list.index(row, 0);
+        if (serverAt(first) != server)
+            continue;
+        m_view->setCurrentIndex(first);
+        m_view->scrollTo(first);
+        return first;
+    }
+    return {};
 }
 
 std::function<QString(int row)> ListPane::visibleNames() const

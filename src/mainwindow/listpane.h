@@ -4,7 +4,7 @@
 #include "userdata/settingskeys.h"
 #include "widgets/columnlayout.h"
 
-#include <QObject>
+#include <QWidget>
 
 #include <functional>
 
@@ -17,7 +17,7 @@ class VisibleList;
 // list, and the sort the user chose by clicking a column. While a query
 // runs, rows are appended as they come; the list is sorted again only
 // when rebuilt.
-class ListPane final : public QObject {
+class ListPane final : public QWidget {
     Q_OBJECT
     Q_DISABLE_COPY_MOVE(ListPane)
 
@@ -30,7 +30,7 @@ public:
     };
 
     ListPane(SettingsStore& settings, Keys::ListKeys keys, const ReportModel& model, VisibleList& list, Rows rows,
-             const QString& objectName, QWidget* parent);
+             const QString& objectName, QWidget* parent = nullptr);
 
     ReportView* view() const { return m_view; }
     VisibleList& list() const { return m_list; }
@@ -48,6 +48,9 @@ public:
     int serverAt(const QModelIndex& index) const;
     int currentServer() const;
     int selectedServer() const;
+    // Makes the visible row of that server current and scrolls to it; an
+    // invalid index when the server is not shown.
+    QModelIndex select(int server);
     // The plain name of each visible row, in the order shown now.
     std::function<QString(int row)> visibleNames() const;
 

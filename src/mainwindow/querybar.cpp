@@ -2,6 +2,7 @@
 #include "mainwindow/querybar.h"
 
 #include "mainwindow/querycontroller.h"
+#include "platform/desktop.h"
 #include "widgets/statusline.h"
 
 #include <QFrame>
@@ -10,6 +11,7 @@
 #include <QPushButton>
 #include <QShortcut>
 #include <QStackedLayout>
+#include <QVBoxLayout>
 
 namespace {
 
@@ -23,11 +25,11 @@ QPushButton* makeButton(QWidget* parent, const char* objectName)
 
 } // namespace
 
-QueryBar::QueryBar(QueryController& queries, QWidget* window)
-    : QObject(window)
-    , fraQuery(new QFrame(window))
-    , lblStatus(new StatusLine(window))
-    , prbProgress(new QProgressBar(window))
+QueryBar::QueryBar(QueryController& queries, Desktop& desktop, QWidget* parent)
+    : QWidget(parent)
+    , fraQuery(new QFrame(this))
+    , lblStatus(new StatusLine(this))
+    , prbProgress(new QProgressBar(this))
 {
     fraQuery->setObjectName(QStringLiteral("fraQuery"));
     cmdGet = makeButton(fraQuery, "cmdGet");
@@ -55,15 +57,25 @@ QueryBar::QueryBar(QueryController& queries, QWidget* window)
     prbProgress->setValue(0);
     prbProgress->setTextVisible(false);
 
+    m_statusRow = new QHBoxLayout;
+    m_statusRow->addWidget(lblStatus, 3);
+    m_statusRow->addWidget(prbProgress, 2);
+    m_buttonRow = new QHBoxLayout;
+    m_buttonRow->addWidget(fraQuery, 1);
+    auto* rows = new QVBoxLayout(this);
+    rows->setContentsMargins(0, 0, 0, 0);
+    rows->addLayout(m_statusRow);
+    rows->addLayout(m_buttonRow);
+
     // The keys of every browser, wherever the focus is in the window: F5
     // queries, Esc stops a query. Each does what its button does, when the
     // button could be clicked.
-    auto* queryKey = new QShortcut(QKeySequence::Refresh, window);
+    auto* queryKey = new QShortcut(QKeySequence::Refresh, this);
     connect(queryKey, &QShortcut::activated, this, [this] {
         if (cmdGet->isEnabled())
             cmdGet->click();
     });
-    auto* stopKey = new QShortcut(QKeySequence(Qt::Key_Escape), window);
+    auto* stopKey = new QShortcut(QKeySequence(Qt::Key_Escape), this);
     connect(stopKey, &QShortcut::activated, this, [this] {
         if (cmdCancel->isEnabled() && cmdCancel->isVisible())
             cmdCancel->click();
@@ -79,6 +91,21 @@ QueryBar::QueryBar(QueryController& queries, QWidget* window)
         prbProgress->setMaximum(maximum);
         prbProgress->setValue(value);
     });
+    connect(&queries, &QueryController::masterTimedOut, this, [this, &queries, &desktop] {
+        if (desktop.message(window(), Desktop::Icon::Critical, tr("Quake 4 Vantage"), queries.timedOutText(),
+                            QMessageBox::Retry | QMessageBox::Cancel) == QMessageBox::Retry)
+            queries.startMasterQuery();
+    });
+}
+
+void QueryBar::addToStatusRow(QWidget* control)
+{
+    m_statusRow->addWidget(control);
+}
+
+void QueryBar::addToButtonRow(QWidget* control)
+{
+    m_buttonRow->addWidget(control);
 }
 
 void QueryBar::setStatus(const QString& text, StatusTone tone)

@@ -3,9 +3,11 @@
 
 #include "widgets/statustone.h"
 
-#include <QObject>
+#include <QWidget>
 
+class Desktop;
 class QFrame;
+class QHBoxLayout;
 class QProgressBar;
 class QPushButton;
 class QStackedLayout;
@@ -15,17 +17,19 @@ class StatusLine;
 // What the user sees of the queries: "Query Masters", "Query Favourites",
 // "Query LAN" and "Cancel Query", the status line (its tooltip says what
 // each source gave) and the progress bar, all driven by the query
-// controller.
-class QueryBar final : public QObject {
+// controller; and, when every source failed, the box that offers Retry.
+// Two rows: the status line and the progress bar above, the buttons below.
+class QueryBar final : public QWidget {
     Q_OBJECT
     Q_DISABLE_COPY_MOVE(QueryBar)
 
 public:
-    QueryBar(QueryController& queries, QWidget* window);
+    QueryBar(QueryController& queries, Desktop& desktop, QWidget* parent = nullptr);
 
-    QFrame* buttons() const { return fraQuery; }
     StatusLine* statusLine() const { return lblStatus; }
-    QProgressBar* progressBar() const { return prbProgress; }
+    // Controls of the window that go at the end of a row.
+    void addToStatusRow(QWidget* control);
+    void addToButtonRow(QWidget* control);
 
     void setStatus(const QString& text, StatusTone tone);
     void retranslate();
@@ -39,6 +43,8 @@ private:
     QPushButton* cmdLan = nullptr;
     QPushButton* cmdCancel = nullptr;
     QStackedLayout* m_swap = nullptr;
+    QHBoxLayout* m_statusRow = nullptr;
+    QHBoxLayout* m_buttonRow = nullptr;
     StatusLine* lblStatus = nullptr;
     QProgressBar* prbProgress = nullptr;
 };

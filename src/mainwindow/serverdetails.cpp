@@ -14,24 +14,23 @@
 #include <QSplitter>
 
 ServerDetails::ServerDetails(SettingsStore& settings, QWidget* parent)
-    : QObject(parent)
+    : QSplitter(Qt::Horizontal, parent)
     , m_settings(settings)
-    , m_splitter(new QSplitter(Qt::Horizontal, parent))
     , m_playersModel(new ServerPlayersModel(this))
     , m_rulesModel(new ServerRulesModel(this))
 {
-    m_splitter->setObjectName(QStringLiteral("rzrSPSI"));
-    m_splitter->setChildrenCollapsible(false);
-    m_players = new ReportView(m_playersModel, m_playersModel->designWidths(), m_splitter);
+    setObjectName(QStringLiteral("rzrSPSI"));
+    setChildrenCollapsible(false);
+    m_players = new ReportView(m_playersModel, m_playersModel->designWidths(), this);
     m_players->setObjectName(QStringLiteral("lvwPlayers"));
-    m_rules = new ReportView(m_rulesModel, m_rulesModel->designWidths(), m_splitter);
+    m_rules = new ReportView(m_rulesModel, m_rulesModel->designWidths(), this);
     m_rules->setObjectName(QStringLiteral("lvwServerInfo"));
-    m_splitter->addWidget(m_players);
-    m_splitter->addWidget(m_rules);
+    addWidget(m_players);
+    addWidget(m_rules);
     // The stored size is that of the first pane; it keeps it when the
     // window grows or shrinks.
-    m_splitter->setStretchFactor(0, 0);
-    m_splitter->setStretchFactor(1, 1);
+    setStretchFactor(0, 0);
+    setStretchFactor(1, 1);
 
     m_playersPane.view = m_players;
     m_playersPane.keys = Keys::ServerPlayers;
@@ -53,7 +52,7 @@ int ServerDetails::playersPaneWidth() const
 
 void ServerDetails::setUp(Pane& pane, const QString& menuName, const QString& suffix)
 {
-    pane.menu = new QMenu(m_splitter);
+    pane.menu = new QMenu(this);
     pane.menu->setObjectName(menuName);
     const ReportView* view = pane.view;
     const QStringView prefix = pane.keys.columns;
@@ -71,7 +70,7 @@ void ServerDetails::setUp(Pane& pane, const QString& menuName, const QString& su
             [this, &pane](int column) { sortClicked(pane, column); });
 }
 
-void ServerDetails::show(const ServerRecord* server)
+void ServerDetails::showServer(const ServerRecord* server)
 {
     m_playersModel->setPlayers(server ? server->players : QList<PlayerRecord>{});
     m_rulesModel->setTokens(server ? server->tokens : QStringList{});

@@ -5,10 +5,10 @@
 #include "widgets/columnlayout.h"
 
 #include <QObject>
+#include <QSplitter>
 
 class CopyCommands;
 class QMenu;
-class QSplitter;
 class ReportView;
 class ServerPlayersModel;
 class ServerRulesModel;
@@ -17,7 +17,7 @@ struct ServerRecord;
 
 // The panes of the selected server: its players and its rules, side by
 // side, each sorted by a column click and with its own copy menu.
-class ServerDetails final : public QObject {
+class ServerDetails final : public QSplitter {
     Q_OBJECT
     Q_DISABLE_COPY_MOVE(ServerDetails)
 
@@ -27,12 +27,11 @@ public:
     int playersPaneWidth() const;
     ServerDetails(SettingsStore& settings, QWidget* parent);
 
-    QSplitter* splitter() const { return m_splitter; }
     ReportView* players() const { return m_players; }
     ReportView* rules() const { return m_rules; }
 
     // Shows the server's players and rules; nothing for none.
-    void show(const ServerRecord* server);
+    void showServer(const ServerRecord* server);
     void retranslate();
 
 private:
@@ -47,7 +46,6 @@ private:
     void sortClicked(Pane& pane, int column);
 
     SettingsStore& m_settings;
-    QSplitter* m_splitter = nullptr;
     ServerPlayersModel* m_playersModel = nullptr;
     ServerRulesModel* m_rulesModel = nullptr;
     ReportView* m_players = nullptr;

@@ -6,19 +6,24 @@
 #include "presentation/colourcodes.h"
 #include "presentation/multicolorlabel.h"
 
+#include <QHBoxLayout>
 #include <QLabel>
 
 ServerSelection::ServerSelection(const ServerLists& lists, ServerDetails& details, ShowPlayerName showPlayerName,
-                                 QWidget* window)
-    : QObject(window)
+                                 QWidget* parent)
+    : QWidget(parent)
     , m_lists(lists)
     , m_details(details)
     , m_showPlayerName(std::move(showPlayerName))
-    , lblSName(new QLabel(window))
-    , mclSName(new MulticolorLabel(window))
+    , lblSName(new QLabel(this))
+    , mclSName(new MulticolorLabel(this))
 {
     lblSName->setObjectName(QStringLiteral("lblSName"));
     mclSName->setObjectName(QStringLiteral("mclSName"));
+    auto* row = new QHBoxLayout(this);
+    row->setContentsMargins(0, 0, 0, 0);
+    row->addWidget(lblSName);
+    row->addWidget(mclSName, 1);
 }
 
 void ServerSelection::showServer(int server)
@@ -26,7 +31,7 @@ void ServerSelection::showServer(int server)
     m_server = server;
     ShowServerName(m_lists.server(server).name);
     m_showPlayerName(QString());
-    m_details.show(&m_lists.server(server));
+    m_details.showServer(&m_lists.server(server));
 }
 
 void ServerSelection::showPlayer(int server, int player)
@@ -41,7 +46,7 @@ void ServerSelection::refreshed(int server)
     if (server != m_server)
         return;
     ShowServerName(m_lists.server(server).name);
-    m_details.show(&m_lists.server(server));
+    m_details.showServer(&m_lists.server(server));
 }
 
 void ServerSelection::clearNames()
@@ -53,7 +58,7 @@ void ServerSelection::clearNames()
 void ServerSelection::clear()
 {
     m_server = -1;
-    m_details.show(nullptr);
+    m_details.showServer(nullptr);
 }
 
 void ServerSelection::ShowServerName(const QString& name)

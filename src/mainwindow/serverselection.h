@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #pragma once
 
-#include <QObject>
+#include <QWidget>
 
 #include <functional>
 
@@ -13,14 +13,15 @@ class ServerLists;
 // What is selected and shown of it: the server's name in colour, its
 // players and rules in the panes, and the selected player's name. The
 // panes follow a new answer of the selected server.
-class ServerSelection final : public QObject {
+class ServerSelection final : public QWidget {
     Q_OBJECT
     Q_DISABLE_COPY_MOVE(ServerSelection)
 
 public:
     using ShowPlayerName = std::function<void(const QString& name)>;
 
-    ServerSelection(const ServerLists& lists, ServerDetails& details, ShowPlayerName showPlayerName, QWidget* window);
+    ServerSelection(const ServerLists& lists, ServerDetails& details, ShowPlayerName showPlayerName,
+                    QWidget* parent = nullptr);
 
     QLabel* serverNameCaption() const { return lblSName; }
     MulticolorLabel* serverName() const { return mclSName; }

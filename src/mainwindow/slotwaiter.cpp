@@ -51,6 +51,12 @@ void SlotWaiter::cancel()
         finish();
 }
 
+void SlotWaiter::stop()
+{
+    cancel();
+    emit status(tr("Stopped waiting for a free slot."), StatusTone::Hint);
+}
+
 void SlotWaiter::answered(const ServerRecord& server)
 {
     if (!m_waiting || server.address != m_address || server.port != m_port)

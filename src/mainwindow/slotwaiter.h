@@ -48,6 +48,8 @@ public:
     // The user stopped it, or joined something else: nothing more is said
     // than the status the caller gives.
     void cancel();
+    // "Stop Waiting": cancels, and says so.
+    void stop();
     // A new answer of any server; only the awaited one counts.
     void answered(const ServerRecord& server);
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "platform/desktop.h"
 
+#include <QApplication>
 #include <QColorDialog>
 #include <QDesktopServices>
 #include <QFileDialog>
@@ -29,6 +30,14 @@ QMessageBox::Icon toQtIcon(Desktop::Icon icon)
 }
 
 } // namespace
+
+void Desktop::closeOtherWindows(const QWidget* main)
+{
+    for (QWidget* window : QApplication::topLevelWidgets()) {
+        if (window != main && window->isVisible())
+            window->close();
+    }
+}
 
 QString Desktop::executablePattern()
 {

@@ -29,6 +29,10 @@ public:
     // an .exe, its Linux binaries have no extension.
     static QString executablePattern();
 
+    // Closes every other visible window of the program (editors, dialogs)
+    // when the main window closes, so each writes what it holds.
+    static void closeOtherWindows(const QWidget* main);
+
     // A modal message box; returns the button the user pressed, or
     // QMessageBox::NoButton when the box was closed some other way.
     virtual QMessageBox::StandardButton message(QWidget* parent, Icon icon, const QString& title, const QString& text,

@@ -69,6 +69,15 @@ void FrmAbout::retranslateUi()
     cmdOK->setText(tr("OK"));
 }
 
+FrmAbout* FrmAbout::openFor(Desktop& desktop, QWidget* window)
+{
+    auto* about = new FrmAbout(desktop, QUrl(QStringLiteral(Q4V_HOME_PAGE)), QStringLiteral(Q4V_LICENCE), window);
+    about->setAttribute(Qt::WA_DeleteOnClose);
+    about->setWindowModality(Qt::WindowModal);
+    about->open();
+    return about;
+}
+
 void FrmAbout::changeEvent(QEvent* event)
 {
     QDialog::changeEvent(event);

@@ -17,6 +17,9 @@ class FrmAbout final : public QDialog {
 public:
     // An empty licence or home page is not shown.
     FrmAbout(Desktop& desktop, QUrl homePage, QString licence = {}, QWidget* parent = nullptr);
+    // The box of this build (its home page and licence), modal to window,
+    // without a nested event loop.
+    static FrmAbout* openFor(Desktop& desktop, QWidget* window);
 
 protected:
     void changeEvent(QEvent* event) override;

@@ -20,11 +20,6 @@ public:
     QHeaderView* header() const { return horizontalHeader(); }
     // The current row when it is also selected, else -1.
     int selectedRow() const;
-    // Qt::NoButton until the first press on the rows.
-    Qt::MouseButton lastButton() const { return m_lastButton; }
-    // A button acts as if the user had pressed it on the list (a join
-    // button works like a left click on the selected row).
-    void setLastButton(Qt::MouseButton button) { m_lastButton = button; }
     // The column under the pointer at the last press (-1 past the last),
     // or the current column when the menu was opened from the keyboard.
     int pressedColumn() const { return m_pressedColumn; }

@@ -5,7 +5,7 @@
 #include <QTest>
 
 namespace {
-QString translated(const char* source, const char* context = "FrmMain")
+QString translated(const char* source, const char* context = "DialogBar")
 {
     return QCoreApplication::translate(context, source);
 }

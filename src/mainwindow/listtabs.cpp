@@ -1,0 +1,78 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+#include "mainwindow/listtabs.h"
+
+#include "mainwindow/listpane.h"
+#include "mainwindow/serverdetails.h"
+#include "mainwindow/serverlists.h"
+#include "widgets/namedcontrol.h"
+#include "widgets/reportview.h"
+
+#include <QSplitter>
+#include <QTabBar>
+#include <QVBoxLayout>
+
+ListTabs::ListTabs(SettingsStore& settings, ServerLists& lists, QWidget* parent)
+    : QWidget(parent)
+    , tabSelect(makeControl<QTabBar>(this, "tabSelect"))
+    , rzrPSI(new QSplitter(Qt::Vertical, this))
+{
+    tabSelect->addTab(QString());
+    tabSelect->addTab(QString());
+    tabSelect->setExpanding(false);
+
+    rzrPSI->setObjectName(QStringLiteral("rzrPSI"));
+    rzrPSI->setChildrenCollapsible(false);
+    m_servers = new ListPane(settings, Keys::ServerList, lists.servers(), lists.visibleServers(), lists.serverRows(),
+                             QStringLiteral("lstServerList"), rzrPSI);
+    m_details = new ServerDetails(settings, rzrPSI);
+    rzrPSI->addWidget(m_servers);
+    rzrPSI->addWidget(m_details);
+    // The stored size is that of the first pane.
+    rzrPSI->setStretchFactor(0, 0);
+    rzrPSI->setStretchFactor(1, 1);
+    m_players = new ListPane(settings, Keys::PlayerList, lists.players(), lists.visiblePlayers(), lists.playerRows(),
+                             QStringLiteral("lstPlayerList"), this);
+
+    auto* views = new QVBoxLayout(this);
+    views->setContentsMargins(0, 0, 0, 0);
+    views->setSpacing(0);
+    views->addWidget(tabSelect);
+    views->addWidget(m_players, 1);
+    views->addWidget(rzrPSI, 1);
+    connect(tabSelect, &QTabBar::currentChanged, this, &ListTabs::showView);
+    showView(tabSelect->currentIndex());
+}
+
+ListPane& ListTabs::shown() const
+{
+    return playersShown() ? *m_players : *m_servers;
+}
+
+bool ListTabs::playersShown() const
+{
+    return tabSelect->currentIndex() == PlayersTab;
+}
+
+void ListTabs::showServers()
+{
+    tabSelect->setCurrentIndex(ServersTab);
+}
+
+void ListTabs::retranslate()
+{
+    tabSelect->setTabText(PlayersTab, tr("Players"));
+    tabSelect->setTabText(ServersTab, tr("Servers"));
+    m_servers->view()->setAccessibleName(tr("Servers"));
+    m_players->view()->setAccessibleName(tr("Players"));
+    m_details->retranslate();
+}
+
+void ListTabs::showView(int tab)
+{
+    const bool players = tab == PlayersTab;
+    m_players->setVisible(players);
+    // The panes go with rzrPSI: hiding them on their own would make the
+    // splitter hand their height to the server list.
+    rzrPSI->setVisible(!players);
+    emit shownChanged(players);
+}

@@ -1,0 +1,29 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+#include "mainwindow/titlelabel.h"
+
+#include "presentation/frmabout.h"
+
+#include <QMouseEvent>
+
+TitleLabel::TitleLabel(Desktop& desktop, QWidget* parent)
+    : QLabel(parent)
+    , m_desktop(desktop)
+{
+    setObjectName(QStringLiteral("lblAbout"));
+    setTextFormat(Qt::PlainText);
+    setCursor(Qt::PointingHandCursor);
+    QFont titleFont = font();
+    titleFont.setBold(true);
+    titleFont.setPointSizeF(titleFont.pointSizeF() * 1.3);
+    setFont(titleFont);
+    QSizePolicy keepPlace = sizePolicy();
+    keepPlace.setRetainSizeWhenHidden(true);
+    setSizePolicy(keepPlace);
+}
+
+void TitleLabel::mouseReleaseEvent(QMouseEvent* event)
+{
+    if (event->button() == Qt::LeftButton && rect().contains(event->position().toPoint()))
+        FrmAbout::openFor(m_desktop, window());
+    QLabel::mouseReleaseEvent(event);
+}
