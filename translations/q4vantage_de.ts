@@ -541,74 +541,6 @@
         <translation>Durchsuchen</translation>
     </message>
     <message>
-        <source>Form Back Colour</source>
-        <translation>Fensterhintergrund</translation>
-    </message>
-    <message>
-        <source>List Back Colour</source>
-        <translation>Listenhintergrund</translation>
-    </message>
-    <message>
-        <source>List Text Colour</source>
-        <translation>Listentext</translation>
-    </message>
-    <message>
-        <source>Text Box Back Colour</source>
-        <translation>Eingabefeld-Hintergrund</translation>
-    </message>
-    <message>
-        <source>Text Box Text Colour</source>
-        <translation>Eingabefeld-Text</translation>
-    </message>
-    <message>
-        <source>Progress Bar Back Colour</source>
-        <translation>Fortschrittsbalken-Hintergrund</translation>
-    </message>
-    <message>
-        <source>Progress Bar Bar Colour</source>
-        <translation>Fortschrittsbalken-Farbe</translation>
-    </message>
-    <message>
-        <source>Progress Bar Type:</source>
-        <translation>Fortschrittsbalken-Art:</translation>
-    </message>
-    <message>
-        <source>Standard</source>
-        <translation>Standard</translation>
-    </message>
-    <message>
-        <source>Segmented</source>
-        <translation>Segmentiert</translation>
-    </message>
-    <message>
-        <source>Smooth</source>
-        <translation>Glatt</translation>
-    </message>
-    <message>
-        <source>Tab Style:</source>
-        <translation>Registerkarten:</translation>
-    </message>
-    <message>
-        <source>Small Tabs</source>
-        <translation>Kleine Registerkarten</translation>
-    </message>
-    <message>
-        <source>Large Tabs</source>
-        <translation>Große Registerkarten</translation>
-    </message>
-    <message>
-        <source>Saved Themes:</source>
-        <translation>Gespeicherte Farbschemata:</translation>
-    </message>
-    <message>
-        <source>Save</source>
-        <translation>Speichern</translation>
-    </message>
-    <message>
-        <source>Remove</source>
-        <translation>Entfernen</translation>
-    </message>
-    <message>
         <source>OK</source>
         <translation>OK</translation>
     </message>
@@ -623,18 +555,6 @@
     <message>
         <source>Defaults</source>
         <translation>Standardwerte</translation>
-    </message>
-    <message>
-        <source>Save Theme</source>
-        <translation>Farbschema speichern</translation>
-    </message>
-    <message>
-        <source>Please enter a name for this theme</source>
-        <translation>Bitte geben Sie einen Namen für dieses Farbschema ein</translation>
-    </message>
-    <message>
-        <source>The themes could not be saved to %1; the other settings are not affected.</source>
-        <translation>Die Farbschemata konnten nicht in %1 gespeichert werden; die übrigen Einstellungen sind davon nicht betroffen.</translation>
     </message>
     <message>
         <source>Are you sure you want to reset all settings to their default values?</source>
@@ -1199,6 +1119,89 @@ Auf einen freien Platz warten und beitreten, sobald einer frei wird?</translatio
     <message>
         <source>Check the network connection, or add a master server or a server list that works in Options, on the &quot;Servers&quot; tab.</source>
         <translation>Prüfen Sie die Netzwerkverbindung, oder fügen Sie in den Optionen auf der Registerkarte „Server“ einen funktionierenden Master-Server oder eine Serverliste hinzu.</translation>
+    </message>
+</context>
+<context>
+    <name>ThemeTab</name>
+    <message>
+        <source>Form Back Colour</source>
+        <translation>Fensterhintergrund</translation>
+    </message>
+    <message>
+        <source>List Back Colour</source>
+        <translation>Listenhintergrund</translation>
+    </message>
+    <message>
+        <source>List Text Colour</source>
+        <translation>Listentext</translation>
+    </message>
+    <message>
+        <source>Text Box Back Colour</source>
+        <translation>Eingabefeld-Hintergrund</translation>
+    </message>
+    <message>
+        <source>Text Box Text Colour</source>
+        <translation>Eingabefeld-Text</translation>
+    </message>
+    <message>
+        <source>Progress Bar Back Colour</source>
+        <translation>Fortschrittsbalken-Hintergrund</translation>
+    </message>
+    <message>
+        <source>Progress Bar Bar Colour</source>
+        <translation>Fortschrittsbalken-Farbe</translation>
+    </message>
+    <message>
+        <source>Progress Bar Type:</source>
+        <translation>Fortschrittsbalken-Art:</translation>
+    </message>
+    <message>
+        <source>Standard</source>
+        <translation>Standard</translation>
+    </message>
+    <message>
+        <source>Segmented</source>
+        <translation>Segmentiert</translation>
+    </message>
+    <message>
+        <source>Smooth</source>
+        <translation>Glatt</translation>
+    </message>
+    <message>
+        <source>Tab Style:</source>
+        <translation>Registerkarten:</translation>
+    </message>
+    <message>
+        <source>Small Tabs</source>
+        <translation>Kleine Registerkarten</translation>
+    </message>
+    <message>
+        <source>Large Tabs</source>
+        <translation>Große Registerkarten</translation>
+    </message>
+    <message>
+        <source>Saved Themes:</source>
+        <translation>Gespeicherte Farbschemata:</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Speichern</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Entfernen</translation>
+    </message>
+    <message>
+        <source>Save Theme</source>
+        <translation>Farbschema speichern</translation>
+    </message>
+    <message>
+        <source>Please enter a name for this theme</source>
+        <translation>Bitte geben Sie einen Namen für dieses Farbschema ein</translation>
+    </message>
+    <message>
+        <source>The themes could not be saved to %1; the other settings are not affected.</source>
+        <translation>Die Farbschemata konnten nicht in %1 gespeichert werden; die übrigen Einstellungen sind davon nicht betroffen.</translation>
     </message>
 </context>
 <context>

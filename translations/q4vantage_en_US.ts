@@ -537,74 +537,6 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Form Back Colour</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>List Back Colour</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>List Text Colour</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Text Box Back Colour</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Text Box Text Colour</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Progress Bar Back Colour</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Progress Bar Bar Colour</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Progress Bar Type:</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Standard</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Segmented</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Smooth</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Tab Style:</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Small Tabs</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Large Tabs</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Saved Themes:</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Save</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Remove</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>OK</source>
         <translation type="unfinished"></translation>
     </message>
@@ -618,18 +550,6 @@
     </message>
     <message>
         <source>Defaults</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Save Theme</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Please enter a name for this theme</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>The themes could not be saved to %1; the other settings are not affected.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -1190,6 +1110,89 @@ Wait for a free slot and join as soon as one opens?</source>
     </message>
     <message>
         <source>Check the network connection, or add a master server or a server list that works in Options, on the &quot;Servers&quot; tab.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>ThemeTab</name>
+    <message>
+        <source>Form Back Colour</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>List Back Colour</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>List Text Colour</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Text Box Back Colour</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Text Box Text Colour</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Progress Bar Back Colour</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Progress Bar Bar Colour</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Progress Bar Type:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Standard</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Segmented</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Smooth</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tab Style:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Small Tabs</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Large Tabs</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Saved Themes:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Save Theme</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Please enter a name for this theme</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The themes could not be saved to %1; the other settings are not affected.</source>
         <translation type="unfinished"></translation>
     </message>
 </context>

@@ -541,74 +541,6 @@
         <translation>Parcourir</translation>
     </message>
     <message>
-        <source>Form Back Colour</source>
-        <translation>Fond des fenêtres</translation>
-    </message>
-    <message>
-        <source>List Back Colour</source>
-        <translation>Fond des listes</translation>
-    </message>
-    <message>
-        <source>List Text Colour</source>
-        <translation>Texte des listes</translation>
-    </message>
-    <message>
-        <source>Text Box Back Colour</source>
-        <translation>Fond des zones de texte</translation>
-    </message>
-    <message>
-        <source>Text Box Text Colour</source>
-        <translation>Texte des zones de texte</translation>
-    </message>
-    <message>
-        <source>Progress Bar Back Colour</source>
-        <translation>Fond de la barre de progression</translation>
-    </message>
-    <message>
-        <source>Progress Bar Bar Colour</source>
-        <translation>Couleur de la barre de progression</translation>
-    </message>
-    <message>
-        <source>Progress Bar Type:</source>
-        <translation>Type de barre de progression :</translation>
-    </message>
-    <message>
-        <source>Standard</source>
-        <translation>Classique</translation>
-    </message>
-    <message>
-        <source>Segmented</source>
-        <translation>Segmentée</translation>
-    </message>
-    <message>
-        <source>Smooth</source>
-        <translation>Continue</translation>
-    </message>
-    <message>
-        <source>Tab Style:</source>
-        <translation>Style des onglets :</translation>
-    </message>
-    <message>
-        <source>Small Tabs</source>
-        <translation>Petits onglets</translation>
-    </message>
-    <message>
-        <source>Large Tabs</source>
-        <translation>Grands onglets</translation>
-    </message>
-    <message>
-        <source>Saved Themes:</source>
-        <translation>Thèmes enregistrés :</translation>
-    </message>
-    <message>
-        <source>Save</source>
-        <translation>Enregistrer</translation>
-    </message>
-    <message>
-        <source>Remove</source>
-        <translation>Supprimer</translation>
-    </message>
-    <message>
         <source>OK</source>
         <translation>OK</translation>
     </message>
@@ -623,18 +555,6 @@
     <message>
         <source>Defaults</source>
         <translation>Par défaut</translation>
-    </message>
-    <message>
-        <source>Save Theme</source>
-        <translation>Enregistrer le thème</translation>
-    </message>
-    <message>
-        <source>Please enter a name for this theme</source>
-        <translation>Veuillez saisir un nom pour ce thème</translation>
-    </message>
-    <message>
-        <source>The themes could not be saved to %1; the other settings are not affected.</source>
-        <translation>Les thèmes n&apos;ont pas pu être enregistrés dans %1 ; les autres réglages ne sont pas concernés.</translation>
     </message>
     <message>
         <source>Are you sure you want to reset all settings to their default values?</source>
@@ -1199,6 +1119,89 @@ Attendre une place libre et rejoindre dès qu&apos;une place se libère ?</trans
     <message>
         <source>Check the network connection, or add a master server or a server list that works in Options, on the &quot;Servers&quot; tab.</source>
         <translation>Vérifiez la connexion réseau, ou ajoutez un serveur maître ou une liste de serveurs qui fonctionne dans les Options, onglet « Serveurs ».</translation>
+    </message>
+</context>
+<context>
+    <name>ThemeTab</name>
+    <message>
+        <source>Form Back Colour</source>
+        <translation>Fond des fenêtres</translation>
+    </message>
+    <message>
+        <source>List Back Colour</source>
+        <translation>Fond des listes</translation>
+    </message>
+    <message>
+        <source>List Text Colour</source>
+        <translation>Texte des listes</translation>
+    </message>
+    <message>
+        <source>Text Box Back Colour</source>
+        <translation>Fond des zones de texte</translation>
+    </message>
+    <message>
+        <source>Text Box Text Colour</source>
+        <translation>Texte des zones de texte</translation>
+    </message>
+    <message>
+        <source>Progress Bar Back Colour</source>
+        <translation>Fond de la barre de progression</translation>
+    </message>
+    <message>
+        <source>Progress Bar Bar Colour</source>
+        <translation>Couleur de la barre de progression</translation>
+    </message>
+    <message>
+        <source>Progress Bar Type:</source>
+        <translation>Type de barre de progression :</translation>
+    </message>
+    <message>
+        <source>Standard</source>
+        <translation>Classique</translation>
+    </message>
+    <message>
+        <source>Segmented</source>
+        <translation>Segmentée</translation>
+    </message>
+    <message>
+        <source>Smooth</source>
+        <translation>Continue</translation>
+    </message>
+    <message>
+        <source>Tab Style:</source>
+        <translation>Style des onglets :</translation>
+    </message>
+    <message>
+        <source>Small Tabs</source>
+        <translation>Petits onglets</translation>
+    </message>
+    <message>
+        <source>Large Tabs</source>
+        <translation>Grands onglets</translation>
+    </message>
+    <message>
+        <source>Saved Themes:</source>
+        <translation>Thèmes enregistrés :</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Enregistrer</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Supprimer</translation>
+    </message>
+    <message>
+        <source>Save Theme</source>
+        <translation>Enregistrer le thème</translation>
+    </message>
+    <message>
+        <source>Please enter a name for this theme</source>
+        <translation>Veuillez saisir un nom pour ce thème</translation>
+    </message>
+    <message>
+        <source>The themes could not be saved to %1; the other settings are not affected.</source>
+        <translation>Les thèmes n&apos;ont pas pu être enregistrés dans %1 ; les autres réglages ne sont pas concernés.</translation>
     </message>
 </context>
 <context>

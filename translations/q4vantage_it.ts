@@ -541,74 +541,6 @@ hanno risposto %2 server su %3</translation>
         <translation>Sfoglia</translation>
     </message>
     <message>
-        <source>Form Back Colour</source>
-        <translation>Sfondo delle finestre</translation>
-    </message>
-    <message>
-        <source>List Back Colour</source>
-        <translation>Sfondo degli elenchi</translation>
-    </message>
-    <message>
-        <source>List Text Colour</source>
-        <translation>Testo degli elenchi</translation>
-    </message>
-    <message>
-        <source>Text Box Back Colour</source>
-        <translation>Sfondo delle caselle di testo</translation>
-    </message>
-    <message>
-        <source>Text Box Text Colour</source>
-        <translation>Testo delle caselle di testo</translation>
-    </message>
-    <message>
-        <source>Progress Bar Back Colour</source>
-        <translation>Sfondo della barra di avanzamento</translation>
-    </message>
-    <message>
-        <source>Progress Bar Bar Colour</source>
-        <translation>Colore della barra di avanzamento</translation>
-    </message>
-    <message>
-        <source>Progress Bar Type:</source>
-        <translation>Tipo di barra di avanzamento:</translation>
-    </message>
-    <message>
-        <source>Standard</source>
-        <translation>Normale</translation>
-    </message>
-    <message>
-        <source>Segmented</source>
-        <translation>A segmenti</translation>
-    </message>
-    <message>
-        <source>Smooth</source>
-        <translation>Continua</translation>
-    </message>
-    <message>
-        <source>Tab Style:</source>
-        <translation>Stile delle schede:</translation>
-    </message>
-    <message>
-        <source>Small Tabs</source>
-        <translation>Schede piccole</translation>
-    </message>
-    <message>
-        <source>Large Tabs</source>
-        <translation>Schede grandi</translation>
-    </message>
-    <message>
-        <source>Saved Themes:</source>
-        <translation>Temi salvati:</translation>
-    </message>
-    <message>
-        <source>Save</source>
-        <translation>Salva</translation>
-    </message>
-    <message>
-        <source>Remove</source>
-        <translation>Rimuovi</translation>
-    </message>
-    <message>
         <source>OK</source>
         <translation>OK</translation>
     </message>
@@ -623,18 +555,6 @@ hanno risposto %2 server su %3</translation>
     <message>
         <source>Defaults</source>
         <translation>Predefiniti</translation>
-    </message>
-    <message>
-        <source>Save Theme</source>
-        <translation>Salva tema</translation>
-    </message>
-    <message>
-        <source>Please enter a name for this theme</source>
-        <translation>Inserisci un nome per questo tema</translation>
-    </message>
-    <message>
-        <source>The themes could not be saved to %1; the other settings are not affected.</source>
-        <translation>Impossibile salvare i temi in %1; le altre impostazioni non ne risentono.</translation>
     </message>
     <message>
         <source>Are you sure you want to reset all settings to their default values?</source>
@@ -1199,6 +1119,89 @@ Attendere un posto libero ed entrare appena se ne libera uno?</translation>
     <message>
         <source>Check the network connection, or add a master server or a server list that works in Options, on the &quot;Servers&quot; tab.</source>
         <translation>Controllare la connessione di rete, oppure aggiungere un master server o un elenco di server funzionante nelle Opzioni, scheda &quot;Server&quot;.</translation>
+    </message>
+</context>
+<context>
+    <name>ThemeTab</name>
+    <message>
+        <source>Form Back Colour</source>
+        <translation>Sfondo delle finestre</translation>
+    </message>
+    <message>
+        <source>List Back Colour</source>
+        <translation>Sfondo degli elenchi</translation>
+    </message>
+    <message>
+        <source>List Text Colour</source>
+        <translation>Testo degli elenchi</translation>
+    </message>
+    <message>
+        <source>Text Box Back Colour</source>
+        <translation>Sfondo delle caselle di testo</translation>
+    </message>
+    <message>
+        <source>Text Box Text Colour</source>
+        <translation>Testo delle caselle di testo</translation>
+    </message>
+    <message>
+        <source>Progress Bar Back Colour</source>
+        <translation>Sfondo della barra di avanzamento</translation>
+    </message>
+    <message>
+        <source>Progress Bar Bar Colour</source>
+        <translation>Colore della barra di avanzamento</translation>
+    </message>
+    <message>
+        <source>Progress Bar Type:</source>
+        <translation>Tipo di barra di avanzamento:</translation>
+    </message>
+    <message>
+        <source>Standard</source>
+        <translation>Normale</translation>
+    </message>
+    <message>
+        <source>Segmented</source>
+        <translation>A segmenti</translation>
+    </message>
+    <message>
+        <source>Smooth</source>
+        <translation>Continua</translation>
+    </message>
+    <message>
+        <source>Tab Style:</source>
+        <translation>Stile delle schede:</translation>
+    </message>
+    <message>
+        <source>Small Tabs</source>
+        <translation>Schede piccole</translation>
+    </message>
+    <message>
+        <source>Large Tabs</source>
+        <translation>Schede grandi</translation>
+    </message>
+    <message>
+        <source>Saved Themes:</source>
+        <translation>Temi salvati:</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Salva</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Rimuovi</translation>
+    </message>
+    <message>
+        <source>Save Theme</source>
+        <translation>Salva tema</translation>
+    </message>
+    <message>
+        <source>Please enter a name for this theme</source>
+        <translation>Inserisci un nome per questo tema</translation>
+    </message>
+    <message>
+        <source>The themes could not be saved to %1; the other settings are not affected.</source>
+        <translation>Impossibile salvare i temi in %1; le altre impostazioni non ne risentono.</translation>
     </message>
 </context>
 <context>

@@ -541,74 +541,6 @@
         <translation>Bladeren</translation>
     </message>
     <message>
-        <source>Form Back Colour</source>
-        <translation>Achtergrond van vensters</translation>
-    </message>
-    <message>
-        <source>List Back Colour</source>
-        <translation>Achtergrond van lijsten</translation>
-    </message>
-    <message>
-        <source>List Text Colour</source>
-        <translation>Tekst van lijsten</translation>
-    </message>
-    <message>
-        <source>Text Box Back Colour</source>
-        <translation>Achtergrond van tekstvakken</translation>
-    </message>
-    <message>
-        <source>Text Box Text Colour</source>
-        <translation>Tekst van tekstvakken</translation>
-    </message>
-    <message>
-        <source>Progress Bar Back Colour</source>
-        <translation>Achtergrond van voortgangsbalk</translation>
-    </message>
-    <message>
-        <source>Progress Bar Bar Colour</source>
-        <translation>Kleur van voortgangsbalk</translation>
-    </message>
-    <message>
-        <source>Progress Bar Type:</source>
-        <translation>Soort voortgangsbalk:</translation>
-    </message>
-    <message>
-        <source>Standard</source>
-        <translation>Normaal</translation>
-    </message>
-    <message>
-        <source>Segmented</source>
-        <translation>Gesegmenteerd</translation>
-    </message>
-    <message>
-        <source>Smooth</source>
-        <translation>Vloeiend</translation>
-    </message>
-    <message>
-        <source>Tab Style:</source>
-        <translation>Tabstijl:</translation>
-    </message>
-    <message>
-        <source>Small Tabs</source>
-        <translation>Kleine tabs</translation>
-    </message>
-    <message>
-        <source>Large Tabs</source>
-        <translation>Grote tabs</translation>
-    </message>
-    <message>
-        <source>Saved Themes:</source>
-        <translation>Opgeslagen thema&apos;s:</translation>
-    </message>
-    <message>
-        <source>Save</source>
-        <translation>Opslaan</translation>
-    </message>
-    <message>
-        <source>Remove</source>
-        <translation>Verwijderen</translation>
-    </message>
-    <message>
         <source>OK</source>
         <translation>OK</translation>
     </message>
@@ -623,18 +555,6 @@
     <message>
         <source>Defaults</source>
         <translation>Standaardwaarden</translation>
-    </message>
-    <message>
-        <source>Save Theme</source>
-        <translation>Thema opslaan</translation>
-    </message>
-    <message>
-        <source>Please enter a name for this theme</source>
-        <translation>Voer een naam in voor dit thema</translation>
-    </message>
-    <message>
-        <source>The themes could not be saved to %1; the other settings are not affected.</source>
-        <translation>De thema&apos;s konden niet in %1 worden opgeslagen; de andere instellingen blijven ongewijzigd.</translation>
     </message>
     <message>
         <source>Are you sure you want to reset all settings to their default values?</source>
@@ -1199,6 +1119,89 @@ Wachten op een vrije plek en deelnemen zodra er een vrijkomt?</translation>
     <message>
         <source>Check the network connection, or add a master server or a server list that works in Options, on the &quot;Servers&quot; tab.</source>
         <translation>Controleer de netwerkverbinding, of voeg in Opties, op het tabblad &quot;Servers&quot;, een masterserver of een serverlijst toe die werkt.</translation>
+    </message>
+</context>
+<context>
+    <name>ThemeTab</name>
+    <message>
+        <source>Form Back Colour</source>
+        <translation>Achtergrond van vensters</translation>
+    </message>
+    <message>
+        <source>List Back Colour</source>
+        <translation>Achtergrond van lijsten</translation>
+    </message>
+    <message>
+        <source>List Text Colour</source>
+        <translation>Tekst van lijsten</translation>
+    </message>
+    <message>
+        <source>Text Box Back Colour</source>
+        <translation>Achtergrond van tekstvakken</translation>
+    </message>
+    <message>
+        <source>Text Box Text Colour</source>
+        <translation>Tekst van tekstvakken</translation>
+    </message>
+    <message>
+        <source>Progress Bar Back Colour</source>
+        <translation>Achtergrond van voortgangsbalk</translation>
+    </message>
+    <message>
+        <source>Progress Bar Bar Colour</source>
+        <translation>Kleur van voortgangsbalk</translation>
+    </message>
+    <message>
+        <source>Progress Bar Type:</source>
+        <translation>Soort voortgangsbalk:</translation>
+    </message>
+    <message>
+        <source>Standard</source>
+        <translation>Normaal</translation>
+    </message>
+    <message>
+        <source>Segmented</source>
+        <translation>Gesegmenteerd</translation>
+    </message>
+    <message>
+        <source>Smooth</source>
+        <translation>Vloeiend</translation>
+    </message>
+    <message>
+        <source>Tab Style:</source>
+        <translation>Tabstijl:</translation>
+    </message>
+    <message>
+        <source>Small Tabs</source>
+        <translation>Kleine tabs</translation>
+    </message>
+    <message>
+        <source>Large Tabs</source>
+        <translation>Grote tabs</translation>
+    </message>
+    <message>
+        <source>Saved Themes:</source>
+        <translation>Opgeslagen thema&apos;s:</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Opslaan</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Verwijderen</translation>
+    </message>
+    <message>
+        <source>Save Theme</source>
+        <translation>Thema opslaan</translation>
+    </message>
+    <message>
+        <source>Please enter a name for this theme</source>
+        <translation>Voer een naam in voor dit thema</translation>
+    </message>
+    <message>
+        <source>The themes could not be saved to %1; the other settings are not affected.</source>
+        <translation>De thema&apos;s konden niet in %1 worden opgeslagen; de andere instellingen blijven ongewijzigd.</translation>
     </message>
 </context>
 <context>

@@ -541,74 +541,6 @@ responderam %2 de %3 servidores</translation>
         <translation>Procurar...</translation>
     </message>
     <message>
-        <source>Form Back Colour</source>
-        <translation>Fundo das janelas</translation>
-    </message>
-    <message>
-        <source>List Back Colour</source>
-        <translation>Fundo das listas</translation>
-    </message>
-    <message>
-        <source>List Text Colour</source>
-        <translation>Texto das listas</translation>
-    </message>
-    <message>
-        <source>Text Box Back Colour</source>
-        <translation>Fundo das caixas de texto</translation>
-    </message>
-    <message>
-        <source>Text Box Text Colour</source>
-        <translation>Texto das caixas de texto</translation>
-    </message>
-    <message>
-        <source>Progress Bar Back Colour</source>
-        <translation>Fundo da barra de progresso</translation>
-    </message>
-    <message>
-        <source>Progress Bar Bar Colour</source>
-        <translation>Cor da barra de progresso</translation>
-    </message>
-    <message>
-        <source>Progress Bar Type:</source>
-        <translation>Tipo de barra de progresso:</translation>
-    </message>
-    <message>
-        <source>Standard</source>
-        <translation>Normal</translation>
-    </message>
-    <message>
-        <source>Segmented</source>
-        <translation>Segmentada</translation>
-    </message>
-    <message>
-        <source>Smooth</source>
-        <translation>Contínua</translation>
-    </message>
-    <message>
-        <source>Tab Style:</source>
-        <translation>Estilo dos separadores:</translation>
-    </message>
-    <message>
-        <source>Small Tabs</source>
-        <translation>Separadores pequenos</translation>
-    </message>
-    <message>
-        <source>Large Tabs</source>
-        <translation>Separadores grandes</translation>
-    </message>
-    <message>
-        <source>Saved Themes:</source>
-        <translation>Temas guardados:</translation>
-    </message>
-    <message>
-        <source>Save</source>
-        <translation>Guardar</translation>
-    </message>
-    <message>
-        <source>Remove</source>
-        <translation>Remover</translation>
-    </message>
-    <message>
         <source>OK</source>
         <translation>OK</translation>
     </message>
@@ -623,18 +555,6 @@ responderam %2 de %3 servidores</translation>
     <message>
         <source>Defaults</source>
         <translation>Predefinições</translation>
-    </message>
-    <message>
-        <source>Save Theme</source>
-        <translation>Guardar tema</translation>
-    </message>
-    <message>
-        <source>Please enter a name for this theme</source>
-        <translation>Introduza um nome para este tema</translation>
-    </message>
-    <message>
-        <source>The themes could not be saved to %1; the other settings are not affected.</source>
-        <translation>Não foi possível guardar os temas em %1; as outras definições não são afetadas.</translation>
     </message>
     <message>
         <source>Are you sure you want to reset all settings to their default values?</source>
@@ -1199,6 +1119,89 @@ Esperar por uma vaga e entrar assim que uma abrir?</translation>
     <message>
         <source>Check the network connection, or add a master server or a server list that works in Options, on the &quot;Servers&quot; tab.</source>
         <translation>Verifique a ligação à rede, ou adicione um servidor mestre ou uma lista de servidores que funcione nas Opções, no separador &quot;Servidores&quot;.</translation>
+    </message>
+</context>
+<context>
+    <name>ThemeTab</name>
+    <message>
+        <source>Form Back Colour</source>
+        <translation>Fundo das janelas</translation>
+    </message>
+    <message>
+        <source>List Back Colour</source>
+        <translation>Fundo das listas</translation>
+    </message>
+    <message>
+        <source>List Text Colour</source>
+        <translation>Texto das listas</translation>
+    </message>
+    <message>
+        <source>Text Box Back Colour</source>
+        <translation>Fundo das caixas de texto</translation>
+    </message>
+    <message>
+        <source>Text Box Text Colour</source>
+        <translation>Texto das caixas de texto</translation>
+    </message>
+    <message>
+        <source>Progress Bar Back Colour</source>
+        <translation>Fundo da barra de progresso</translation>
+    </message>
+    <message>
+        <source>Progress Bar Bar Colour</source>
+        <translation>Cor da barra de progresso</translation>
+    </message>
+    <message>
+        <source>Progress Bar Type:</source>
+        <translation>Tipo de barra de progresso:</translation>
+    </message>
+    <message>
+        <source>Standard</source>
+        <translation>Normal</translation>
+    </message>
+    <message>
+        <source>Segmented</source>
+        <translation>Segmentada</translation>
+    </message>
+    <message>
+        <source>Smooth</source>
+        <translation>Contínua</translation>
+    </message>
+    <message>
+        <source>Tab Style:</source>
+        <translation>Estilo dos separadores:</translation>
+    </message>
+    <message>
+        <source>Small Tabs</source>
+        <translation>Separadores pequenos</translation>
+    </message>
+    <message>
+        <source>Large Tabs</source>
+        <translation>Separadores grandes</translation>
+    </message>
+    <message>
+        <source>Saved Themes:</source>
+        <translation>Temas guardados:</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Guardar</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Remover</translation>
+    </message>
+    <message>
+        <source>Save Theme</source>
+        <translation>Guardar tema</translation>
+    </message>
+    <message>
+        <source>Please enter a name for this theme</source>
+        <translation>Introduza um nome para este tema</translation>
+    </message>
+    <message>
+        <source>The themes could not be saved to %1; the other settings are not affected.</source>
+        <translation>Não foi possível guardar os temas em %1; as outras definições não são afetadas.</translation>
     </message>
 </context>
 <context>

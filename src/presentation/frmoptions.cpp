@@ -2,12 +2,12 @@
 #include "presentation/frmoptions.h"
 
 #include "platform/desktop.h"
-#include "presentation/colourswatch.h"
 #include "presentation/friendstab.h"
 #include "presentation/language.h"
 #include "presentation/serverstab.h"
 #include "presentation/startportrule.h"
 #include "presentation/themeservice.h"
+#include "presentation/themetab.h"
 #include "userdata/knownservers.h"
 #include "userdata/settingskeys.h"
 #include "userdata/settingsstore.h"
@@ -26,18 +26,6 @@
 #include <QTabWidget>
 #include <QVBoxLayout>
 
-namespace {
-
-// The swatches in the order of the theme's fields and their names.
-constexpr ThemeFile::Colour ThemeFile::Theme::*SwatchFields[7] = {
-    &ThemeFile::Theme::formBack,   &ThemeFile::Theme::listBack, &ThemeFile::Theme::listText,
-    &ThemeFile::Theme::textBack,   &ThemeFile::Theme::textText, &ThemeFile::Theme::progressBack,
-    &ThemeFile::Theme::progressBar};
-const char* const SwatchNames[7] = {"frmBackColour", "lstBackColour", "lstForeColour", "txtBackColour",
-                                    "txtForeColour", "prbBackColour", "prbForeColour"};
-
-} // namespace
-
 FrmOptions::FrmOptions(SettingsStore& settings, Desktop& desktop, Language& language, ThemeService& themes,
                        const QString& dataFolder, QWidget* parent)
     : QDialog(parent)
@@ -51,9 +39,10 @@ FrmOptions::FrmOptions(SettingsStore& settings, Desktop& desktop, Language& lang
 
     tabOptions = makeControl<QTabWidget>(this, "tabOptions");
     auto* settingsPage = new QWidget(tabOptions);
-    auto* themePage = new QWidget(tabOptions);
     tabOptions->addTab(settingsPage, QString());
-    tabOptions->addTab(themePage, QString());
+    m_themeTab = new ::ThemeTab(themes, desktop, tabOptions);
+    m_themeTab->setObjectName(QStringLiteral("tabTheme"));
+    tabOptions->addTab(m_themeTab, QString());
     m_serversTab = new ServersTab(settings, desktop, KnownServers::filePath(dataFolder), tabOptions);
     m_serversTab->setObjectName(QStringLiteral("tabServers"));
     tabOptions->addTab(m_serversTab, QString());
@@ -61,7 +50,6 @@ FrmOptions::FrmOptions(SettingsStore& settings, Desktop& desktop, Language& lang
     m_friendsTab->setObjectName(QStringLiteral("tabFriends"));
     tabOptions->addTab(m_friendsTab, QString());
     buildSettingsTab(settingsPage);
-    buildThemeTab(themePage);
 
     lblMessage = makeControl<QLabel>(this, "lblMessage");
     lblMessage->setWordWrap(true);
@@ -90,6 +78,7 @@ FrmOptions::FrmOptions(SettingsStore& settings, Desktop& desktop, Language& lang
     connect(cmdApply, &QPushButton::clicked, this, &FrmOptions::save);
     connect(cmdCancel, &QPushButton::clicked, this, &FrmOptions::reject);
     connect(cmdDefaults, &QPushButton::clicked, this, &FrmOptions::resetToDefaults);
+    connect(m_themeTab, &::ThemeTab::message, this, &FrmOptions::say);
 
     retranslateUi();
     load();
@@ -153,50 +142,6 @@ void FrmOptions::buildSettingsTab(QWidget* page)
     connect(cmdBrowse, &QPushButton::clicked, this, &FrmOptions::browse);
 }
 
-void FrmOptions::buildThemeTab(QWidget* page)
-{
-    auto* grid = new QGridLayout(page);
-    for (int i = 0; i < 7; ++i) {
-        Swatch& entry = m_swatches[i];
-        entry.label = new QLabel(page);
-        entry.swatch = new ColourSwatch(m_themeService, page);
-        entry.swatch->setObjectName(QLatin1String(SwatchNames[i]));
-        entry.label->setBuddy(entry.swatch);
-        grid->addWidget(entry.label, i, 0);
-        grid->addWidget(entry.swatch, i, 1);
-        connect(entry.swatch, &QPushButton::clicked, this, [this, i] { pickColour(m_swatches[i].swatch); });
-    }
-    lblScroll = makeControl<QLabel>(page, "lblScroll");
-    cmbScroll = makeControl<QComboBox>(page, "cmbScroll");
-    cmbScroll->addItems(QStringList(3, QString()));
-    lblTab = makeControl<QLabel>(page, "lblTab");
-    cmbTab = makeControl<QComboBox>(page, "cmbTab");
-    cmbTab->addItems(QStringList(2, QString()));
-    lblSaved = makeControl<QLabel>(page, "lblSaved");
-    cmbThemes = makeControl<QComboBox>(page, "cmbThemes");
-    cmdSave = makeControl<QPushButton>(page, "cmdSave");
-    cmdRemove = makeControl<QPushButton>(page, "cmdRemove");
-    grid->addWidget(lblScroll, 7, 0);
-    grid->addWidget(cmbScroll, 7, 1);
-    grid->addWidget(lblTab, 8, 0);
-    grid->addWidget(cmbTab, 8, 1);
-    grid->addWidget(lblSaved, 9, 0);
-    grid->addWidget(cmbThemes, 9, 1);
-    auto* themeButtons = new QHBoxLayout;
-    themeButtons->addWidget(cmdSave);
-    themeButtons->addWidget(cmdRemove);
-    themeButtons->addStretch();
-    grid->addLayout(themeButtons, 10, 1);
-    grid->setRowStretch(11, 1);
-    grid->setColumnStretch(1, 1);
-
-    connect(cmbScroll, &QComboBox::currentIndexChanged, this, &FrmOptions::applyLive);
-    connect(cmbTab, &QComboBox::currentIndexChanged, this, &FrmOptions::applyLive);
-    connect(cmbThemes, &QComboBox::activated, this, &FrmOptions::chooseTheme);
-    connect(cmdSave, &QPushButton::clicked, this, &FrmOptions::saveThemeAsked);
-    connect(cmdRemove, &QPushButton::clicked, this, &FrmOptions::removeTheme);
-}
-
 void FrmOptions::retranslateUi()
 {
     setWindowTitle(tr("Options"));
@@ -221,22 +166,7 @@ void FrmOptions::retranslateUi()
     lblPath->setText(tr("Quake 4 Executable:"));
     cmdBrowse->setText(tr("Browse"));
 
-    const QStringList swatchLabels{tr("Form Back Colour"),       tr("List Back Colour"),
-                                   tr("List Text Colour"),       tr("Text Box Back Colour"),
-                                   tr("Text Box Text Colour"),   tr("Progress Bar Back Colour"),
-                                   tr("Progress Bar Bar Colour")};
-    for (int i = 0; i < 7; ++i)
-        m_swatches[i].label->setText(swatchLabels.at(i));
-    lblScroll->setText(tr("Progress Bar Type:"));
-    const QStringList types{tr("Standard"), tr("Segmented"), tr("Smooth")};
-    for (int i = 0; i < types.size(); ++i)
-        cmbScroll->setItemText(i, types.at(i));
-    lblTab->setText(tr("Tab Style:"));
-    cmbTab->setItemText(0, tr("Small Tabs"));
-    cmbTab->setItemText(1, tr("Large Tabs"));
-    lblSaved->setText(tr("Saved Themes:"));
-    cmdSave->setText(tr("Save"));
-    cmdRemove->setText(tr("Remove"));
+    m_themeTab->retranslateUi();
 
     cmdOK->setText(tr("OK"));
     cmdCancel->setText(tr("Cancel"));
@@ -269,26 +199,9 @@ void FrmOptions::load()
 
     m_serversTab->load();
     m_friendsTab->load();
-    showTheme(m_themeService.applied());
     runStartPortRule();
-    loadThemes();
+    m_themeTab->load();
     m_loaded = true;
-}
-
-void FrmOptions::loadThemes()
-{
-    m_themes = ThemeFile::readFile(m_themeService.filePath()).value_or(ThemeFile::Themes{});
-    for (const ThemeFile::Theme& theme : std::as_const(m_themes.list))
-        cmbThemes->addItem(theme.name);
-    const int current = cmbThemes->findText(m_themes.current, Qt::MatchExactly | Qt::MatchCaseSensitive);
-    if (current >= 0) {
-        cmbThemes->setCurrentIndex(current);
-        chooseTheme(current);
-        return;
-    }
-    // The file gains a theme the first time the dialog opens.
-    cmbThemes->setCurrentIndex(-1);
-    saveTheme(ThemeFile::DefaultName);
 }
 
 void FrmOptions::runStartPortRule()
@@ -301,92 +214,6 @@ void FrmOptions::runStartPortRule()
     txtEndPort->setText(range.end);
 }
 
-ThemeFile::Theme FrmOptions::shownTheme(const QString& name) const
-{
-    ThemeFile::Theme theme;
-    theme.name = name;
-    for (int i = 0; i < 7; ++i)
-        theme.*SwatchFields[i] = m_swatches[i].swatch->value();
-    theme.progressType = qint16(cmbScroll->currentIndex());
-    theme.tabStyle = qint16(cmbTab->currentIndex());
-    return theme;
-}
-
-void FrmOptions::showTheme(const ThemeFile::Theme& theme)
-{
-    const bool loaded = std::exchange(m_loaded, false);
-    for (int i = 0; i < 7; ++i)
-        m_swatches[i].swatch->setValue(theme.*SwatchFields[i]);
-    // An index the lists do not have shows their first entry.
-    cmbScroll->setCurrentIndex(theme.progressType >= 0 && theme.progressType <= 2 ? theme.progressType : 0);
-    cmbTab->setCurrentIndex(theme.tabStyle >= 0 && theme.tabStyle <= 1 ? theme.tabStyle : 0);
-    m_loaded = loaded;
-}
-
-void FrmOptions::applyLive()
-{
-    if (m_loaded)
-        m_themeService.apply(shownTheme(cmbThemes->currentText()));
-}
-
-void FrmOptions::pickColour(ColourSwatch* swatch)
-{
-    if (const auto chosen = m_desktop.pickColour(this, swatch->color()))
-        swatch->setValue(ThemeService::fromColor(*chosen));
-    applyLive();
-}
-
-void FrmOptions::chooseTheme(int index)
-{
-    if (index < 0 || index >= m_themes.list.size())
-        return;
-    showTheme(m_themes.list.at(index));
-    // Shown on both windows even while the dialog is still opening.
-    m_themeService.apply(shownTheme(m_themes.list.at(index).name));
-}
-
-void FrmOptions::saveThemeAsked()
-{
-    const auto name =
-        m_desktop.inputText(this, tr("Save Theme"), tr("Please enter a name for this theme"), cmbThemes->currentText());
-    if (name && !name->isEmpty())
-        saveTheme(*name);
-}
-
-bool FrmOptions::saveTheme(const QString& name)
-{
-    const ThemeFile::Theme theme = shownTheme(name);
-    const bool known = std::any_of(m_themes.list.cbegin(), m_themes.list.cend(),
-                                   [&name](const ThemeFile::Theme& saved) { return saved.name == name; });
-    ThemeFile::saveTheme(m_themes, theme);
-    if (!known)
-        cmbThemes->addItem(name);
-    cmbThemes->setCurrentIndex(cmbThemes->findText(name, Qt::MatchExactly | Qt::MatchCaseSensitive));
-    return writeThemes();
-}
-
-void FrmOptions::removeTheme()
-{
-    const int index = cmbThemes->currentIndex();
-    if (index < 0 || index >= m_themes.list.size())
-        return;
-    m_themes.list.removeAt(index);
-    cmbThemes->removeItem(index);
-    if (writeThemes())
-        m_themeService.applyFile();
-}
-
-bool FrmOptions::writeThemes()
-{
-    if (ThemeFile::writeFile(m_themeService.filePath(), m_themes)) {
-        say(QString());
-        return true;
-    }
-    say(tr("The themes could not be saved to %1; the other settings are not affected.")
-            .arg(QDir::toNativeSeparators(m_themeService.filePath())));
-    return false;
-}
-
 void FrmOptions::resetToDefaults()
 {
     const QMessageBox::StandardButton answer = m_desktop.message(
@@ -394,8 +221,7 @@ void FrmOptions::resetToDefaults()
         tr("Are you sure you want to reset all settings to their default values?"), QMessageBox::Yes | QMessageBox::No);
     if (tabOptions->currentIndex() == ThemeTab) {
         // The colours go back to the system's whatever the answer.
-        showTheme(ThemeFile::systemTheme());
-        applyLive();
+        m_themeTab->resetToDefaults();
         return;
     }
     if (answer != QMessageBox::Yes)
@@ -447,8 +273,7 @@ bool FrmOptions::save()
         m_serversTab->save();
         m_friendsTab->save();
     }
-    const QString name = cmbThemes->currentText().isEmpty() ? ThemeFile::DefaultName : cmbThemes->currentText();
-    saveTheme(name);
+    m_themeTab->save();
     return true;
 }
 

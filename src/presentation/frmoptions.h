@@ -5,7 +5,6 @@
 
 #include <QDialog>
 
-class ColourSwatch;
 class Desktop;
 class Language;
 class QCheckBox;
@@ -18,6 +17,7 @@ class FriendsTab;
 class ServersTab;
 class SettingsStore;
 class ThemeService;
+class ThemeTab;
 
 // The options: the settings a user may change and the colour themes. The
 // values live in the controls until OK or Apply saves them; language and
@@ -37,9 +37,6 @@ public:
     // OK and Apply: false, with the port message, when the start port is
     // refused; nothing is written then.
     bool save();
-    // The colours and styles the controls show now.
-    ThemeFile::Theme shownTheme(const QString& name) const;
-    const ThemeFile::Themes& themes() const { return m_themes; }
 
 protected:
     void changeEvent(QEvent* event) override;
@@ -47,28 +44,17 @@ protected:
 
 private:
     void buildSettingsTab(QWidget* page);
-    void buildThemeTab(QWidget* page);
     void retranslateUi();
     void load();
-    void loadThemes();
     void runStartPortRule();
-    void showTheme(const ThemeFile::Theme& theme);
-    void applyLive();
-    void pickColour(ColourSwatch* swatch);
-    void chooseTheme(int index);
-    void saveThemeAsked();
-    bool saveTheme(const QString& name);
-    void removeTheme();
     void resetToDefaults();
     void browse();
-    bool writeThemes();
     void say(const QString& text);
 
     SettingsStore& m_settings;
     Desktop& m_desktop;
     Language& m_language;
     ThemeService& m_themeService;
-    ThemeFile::Themes m_themes;
     bool m_loaded = false;
 
     QTabWidget* tabOptions = nullptr;
@@ -90,20 +76,7 @@ private:
     QLineEdit* txtPath = nullptr;
     QPushButton* cmdBrowse = nullptr;
 
-    struct Swatch {
-        ColourSwatch* swatch;
-        QLabel* label;
-    };
-    Swatch m_swatches[7] = {};
-    QLabel* lblScroll = nullptr;
-    QComboBox* cmbScroll = nullptr;
-    QLabel* lblTab = nullptr;
-    QComboBox* cmbTab = nullptr;
-    QLabel* lblSaved = nullptr;
-    QComboBox* cmbThemes = nullptr;
-    QPushButton* cmdSave = nullptr;
-    QPushButton* cmdRemove = nullptr;
-
+    ::ThemeTab* m_themeTab = nullptr;
     ServersTab* m_serversTab = nullptr;
     FriendsTab* m_friendsTab = nullptr;
 
