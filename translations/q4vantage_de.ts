@@ -64,6 +64,17 @@
     </message>
 </context>
 <context>
+    <name>Desktop</name>
+    <message>
+        <source>Select your Quake 4 Executable</source>
+        <translation>Wählen Sie Ihre Quake 4 Programmdatei</translation>
+    </message>
+    <message>
+        <source>Quake 4 Executable (%1)</source>
+        <translation>Quake 4 Programmdatei (%1)</translation>
+    </message>
+</context>
+<context>
     <name>DialogBar</name>
     <message>
         <source>%1 is not listed now: &quot;Query Recently Played&quot; asks every server you played on.</source>
@@ -561,16 +572,8 @@
         <translation>Möchten Sie wirklich alle Einstellungen auf ihre Standardwerte zurücksetzen?</translation>
     </message>
     <message>
-        <source>Select your Quake 4 Executable</source>
-        <translation>Wählen Sie Ihre Quake 4 Programmdatei</translation>
-    </message>
-    <message>
-        <source>Quake 4 Executable (%1)</source>
-        <translation>Quake 4 Programmdatei (%1)</translation>
-    </message>
-    <message>
-        <source>You must type a port number between 1024 and 65512! (Default: 9000)</source>
-        <translation>Sie müssen eine Portnummer zwischen 1024 und 65512 eingeben! (Standard: 9000)</translation>
+        <source>You must type a port number between %1 and %2! (Default: %3)</source>
+        <translation>Sie müssen eine Portnummer zwischen %1 und %2 eingeben! (Standard: %3)</translation>
     </message>
     <message>
         <source>Servers</source>
@@ -636,14 +639,6 @@
     <message>
         <source>Please enter the IP address/hostname and port of the server you wish to join</source>
         <translation>Bitte geben Sie die IP-Adresse bzw. den Hostnamen und den Port des Servers ein, dem Sie beitreten möchten</translation>
-    </message>
-    <message>
-        <source>Select your Quake 4 Executable</source>
-        <translation>Wählen Sie Ihre Quake 4 Programmdatei</translation>
-    </message>
-    <message>
-        <source>Quake 4 Executable (%1)</source>
-        <translation>Quake 4 Programmdatei (%1)</translation>
     </message>
     <message>
         <source>Please enter the password for this server</source>
@@ -1003,12 +998,12 @@ Auf einen freien Platz warten und beitreten, sobald einer frei wird?</translatio
         <translation>Master-Server</translation>
     </message>
     <message>
-        <source>Host name or address of a master server, with :port when it is not 27650:</source>
-        <translation>Hostname oder Adresse eines Master-Servers, mit :Port, wenn dieser nicht 27650 ist:</translation>
+        <source>Host name or address of a master server, with :port when it is not %1:</source>
+        <translation>Hostname oder Adresse eines Master-Servers, mit :Port, wenn dieser nicht %1 ist:</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is not a master server address. Type a host name or an IP address, followed by a colon and a port from 1 to 65535 when the port is not 27650.</source>
-        <translation>„%1“ ist keine Master-Server-Adresse. Geben Sie einen Hostnamen oder eine IP-Adresse ein, gefolgt von einem Doppelpunkt und einem Port von 1 bis 65535, wenn der Port nicht 27650 ist.</translation>
+        <source>&quot;%1&quot; is not a master server address. Type a host name or an IP address, followed by a colon and a port from 1 to 65535 when the port is not %2.</source>
+        <translation>„%1“ ist keine Master-Server-Adresse. Geben Sie einen Hostnamen oder eine IP-Adresse ein, gefolgt von einem Doppelpunkt und einem Port von 1 bis 65535, wenn der Port nicht %2 ist.</translation>
     </message>
     <message>
         <source>Server lists on the web, fetched alongside:</source>

@@ -63,6 +63,17 @@
     </message>
 </context>
 <context>
+    <name>Desktop</name>
+    <message>
+        <source>Select your Quake 4 Executable</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Quake 4 Executable (%1)</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>DialogBar</name>
     <message>
         <source>%1 is not listed now: &quot;Query Recently Played&quot; asks every server you played on.</source>
@@ -557,15 +568,7 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Select your Quake 4 Executable</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Quake 4 Executable (%1)</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>You must type a port number between 1024 and 65512! (Default: 9000)</source>
+        <source>You must type a port number between %1 and %2! (Default: %3)</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -631,14 +634,6 @@
     </message>
     <message>
         <source>Please enter the IP address/hostname and port of the server you wish to join</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Select your Quake 4 Executable</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Quake 4 Executable (%1)</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -995,11 +990,11 @@ Wait for a free slot and join as soon as one opens?</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Host name or address of a master server, with :port when it is not 27650:</source>
+        <source>Host name or address of a master server, with :port when it is not %1:</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is not a master server address. Type a host name or an IP address, followed by a colon and a port from 1 to 65535 when the port is not 27650.</source>
+        <source>&quot;%1&quot; is not a master server address. Type a host name or an IP address, followed by a colon and a port from 1 to 65535 when the port is not %2.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>

@@ -64,6 +64,17 @@
     </message>
 </context>
 <context>
+    <name>Desktop</name>
+    <message>
+        <source>Select your Quake 4 Executable</source>
+        <translation>Choisissez l&apos;exécutable de Quake 4</translation>
+    </message>
+    <message>
+        <source>Quake 4 Executable (%1)</source>
+        <translation>Exécutable de Quake 4 (%1)</translation>
+    </message>
+</context>
+<context>
     <name>DialogBar</name>
     <message>
         <source>%1 is not listed now: &quot;Query Recently Played&quot; asks every server you played on.</source>
@@ -561,16 +572,8 @@
         <translation>Voulez-vous vraiment remettre tous les réglages à leurs valeurs par défaut ?</translation>
     </message>
     <message>
-        <source>Select your Quake 4 Executable</source>
-        <translation>Choisissez l&apos;exécutable de Quake 4</translation>
-    </message>
-    <message>
-        <source>Quake 4 Executable (%1)</source>
-        <translation>Exécutable de Quake 4 (%1)</translation>
-    </message>
-    <message>
-        <source>You must type a port number between 1024 and 65512! (Default: 9000)</source>
-        <translation>Vous devez saisir un numéro de port entre 1024 et 65512 ! (Par défaut : 9000)</translation>
+        <source>You must type a port number between %1 and %2! (Default: %3)</source>
+        <translation>Vous devez saisir un numéro de port entre %1 et %2 ! (Par défaut : %3)</translation>
     </message>
     <message>
         <source>Servers</source>
@@ -636,14 +639,6 @@
     <message>
         <source>Please enter the IP address/hostname and port of the server you wish to join</source>
         <translation>Veuillez saisir l&apos;adresse IP ou le nom d&apos;hôte et le port du serveur que vous voulez rejoindre</translation>
-    </message>
-    <message>
-        <source>Select your Quake 4 Executable</source>
-        <translation>Choisissez l&apos;exécutable de Quake 4</translation>
-    </message>
-    <message>
-        <source>Quake 4 Executable (%1)</source>
-        <translation>Exécutable de Quake 4 (%1)</translation>
     </message>
     <message>
         <source>Please enter the password for this server</source>
@@ -1003,12 +998,12 @@ Attendre une place libre et rejoindre dès qu&apos;une place se libère ?</trans
         <translation>Serveur maître</translation>
     </message>
     <message>
-        <source>Host name or address of a master server, with :port when it is not 27650:</source>
-        <translation>Nom d&apos;hôte ou adresse d&apos;un serveur maître, avec :port s&apos;il n&apos;est pas 27650 :</translation>
+        <source>Host name or address of a master server, with :port when it is not %1:</source>
+        <translation>Nom d&apos;hôte ou adresse d&apos;un serveur maître, avec :port s&apos;il n&apos;est pas %1 :</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is not a master server address. Type a host name or an IP address, followed by a colon and a port from 1 to 65535 when the port is not 27650.</source>
-        <translation>« %1 » n&apos;est pas une adresse de serveur maître. Tapez un nom d&apos;hôte ou une adresse IP, suivi de deux-points et d&apos;un port de 1 à 65535 si le port n&apos;est pas 27650.</translation>
+        <source>&quot;%1&quot; is not a master server address. Type a host name or an IP address, followed by a colon and a port from 1 to 65535 when the port is not %2.</source>
+        <translation>« %1 » n&apos;est pas une adresse de serveur maître. Tapez un nom d&apos;hôte ou une adresse IP, suivi de deux-points et d&apos;un port de 1 à 65535 si le port n&apos;est pas %2.</translation>
     </message>
     <message>
         <source>Server lists on the web, fetched alongside:</source>

@@ -64,6 +64,17 @@ hanno risposto %2 server su %3</translation>
     </message>
 </context>
 <context>
+    <name>Desktop</name>
+    <message>
+        <source>Select your Quake 4 Executable</source>
+        <translation>Seleziona l&apos;eseguibile di Quake 4</translation>
+    </message>
+    <message>
+        <source>Quake 4 Executable (%1)</source>
+        <translation>Eseguibile di Quake 4 (%1)</translation>
+    </message>
+</context>
+<context>
     <name>DialogBar</name>
     <message>
         <source>%1 is not listed now: &quot;Query Recently Played&quot; asks every server you played on.</source>
@@ -561,16 +572,8 @@ hanno risposto %2 server su %3</translation>
         <translation>Vuoi davvero riportare tutte le impostazioni ai valori predefiniti?</translation>
     </message>
     <message>
-        <source>Select your Quake 4 Executable</source>
-        <translation>Seleziona l&apos;eseguibile di Quake 4</translation>
-    </message>
-    <message>
-        <source>Quake 4 Executable (%1)</source>
-        <translation>Eseguibile di Quake 4 (%1)</translation>
-    </message>
-    <message>
-        <source>You must type a port number between 1024 and 65512! (Default: 9000)</source>
-        <translation>Devi inserire un numero di porta tra 1024 e 65512! (Predefinito: 9000)</translation>
+        <source>You must type a port number between %1 and %2! (Default: %3)</source>
+        <translation>Devi inserire un numero di porta tra %1 e %2! (Predefinito: %3)</translation>
     </message>
     <message>
         <source>Servers</source>
@@ -636,14 +639,6 @@ hanno risposto %2 server su %3</translation>
     <message>
         <source>Please enter the IP address/hostname and port of the server you wish to join</source>
         <translation>Inserisci l&apos;indirizzo IP o il nome host e la porta del server in cui vuoi entrare</translation>
-    </message>
-    <message>
-        <source>Select your Quake 4 Executable</source>
-        <translation>Seleziona l&apos;eseguibile di Quake 4</translation>
-    </message>
-    <message>
-        <source>Quake 4 Executable (%1)</source>
-        <translation>Eseguibile di Quake 4 (%1)</translation>
     </message>
     <message>
         <source>Please enter the password for this server</source>
@@ -1003,12 +998,12 @@ Attendere un posto libero ed entrare appena se ne libera uno?</translation>
         <translation>Server master</translation>
     </message>
     <message>
-        <source>Host name or address of a master server, with :port when it is not 27650:</source>
-        <translation>Nome host o indirizzo di un server master, con :porta se non è 27650:</translation>
+        <source>Host name or address of a master server, with :port when it is not %1:</source>
+        <translation>Nome host o indirizzo di un server master, con :porta se non è %1:</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is not a master server address. Type a host name or an IP address, followed by a colon and a port from 1 to 65535 when the port is not 27650.</source>
-        <translation>&quot;%1&quot; non è un indirizzo di server master. Digita un nome host o un indirizzo IP, seguito da due punti e da una porta da 1 a 65535 se la porta non è 27650.</translation>
+        <source>&quot;%1&quot; is not a master server address. Type a host name or an IP address, followed by a colon and a port from 1 to 65535 when the port is not %2.</source>
+        <translation>&quot;%1&quot; non è un indirizzo di server master. Digita un nome host o un indirizzo IP, seguito da due punti e da una porta da 1 a 65535 se la porta non è %2.</translation>
     </message>
     <message>
         <source>Server lists on the web, fetched alongside:</source>

@@ -64,6 +64,17 @@
     </message>
 </context>
 <context>
+    <name>Desktop</name>
+    <message>
+        <source>Select your Quake 4 Executable</source>
+        <translation>Selecteer uw Quake 4-programma</translation>
+    </message>
+    <message>
+        <source>Quake 4 Executable (%1)</source>
+        <translation>Quake 4-programma (%1)</translation>
+    </message>
+</context>
+<context>
     <name>DialogBar</name>
     <message>
         <source>%1 is not listed now: &quot;Query Recently Played&quot; asks every server you played on.</source>
@@ -561,16 +572,8 @@
         <translation>Weet u zeker dat u alle instellingen wilt terugzetten naar de standaardwaarden?</translation>
     </message>
     <message>
-        <source>Select your Quake 4 Executable</source>
-        <translation>Selecteer uw Quake 4-programma</translation>
-    </message>
-    <message>
-        <source>Quake 4 Executable (%1)</source>
-        <translation>Quake 4-programma (%1)</translation>
-    </message>
-    <message>
-        <source>You must type a port number between 1024 and 65512! (Default: 9000)</source>
-        <translation>U moet een poortnummer tussen 1024 en 65512 invoeren! (Standaard: 9000)</translation>
+        <source>You must type a port number between %1 and %2! (Default: %3)</source>
+        <translation>U moet een poortnummer tussen %1 en %2 invoeren! (Standaard: %3)</translation>
     </message>
     <message>
         <source>Servers</source>
@@ -636,14 +639,6 @@
     <message>
         <source>Please enter the IP address/hostname and port of the server you wish to join</source>
         <translation>Voer het IP-adres of de hostnaam en de poort in van de server waaraan u wilt deelnemen</translation>
-    </message>
-    <message>
-        <source>Select your Quake 4 Executable</source>
-        <translation>Selecteer uw Quake 4-programma</translation>
-    </message>
-    <message>
-        <source>Quake 4 Executable (%1)</source>
-        <translation>Quake 4-programma (%1)</translation>
     </message>
     <message>
         <source>Please enter the password for this server</source>
@@ -1003,12 +998,12 @@ Wachten op een vrije plek en deelnemen zodra er een vrijkomt?</translation>
         <translation>Masterserver</translation>
     </message>
     <message>
-        <source>Host name or address of a master server, with :port when it is not 27650:</source>
-        <translation>Hostnaam of adres van een masterserver, met :poort als die niet 27650 is:</translation>
+        <source>Host name or address of a master server, with :port when it is not %1:</source>
+        <translation>Hostnaam of adres van een masterserver, met :poort als die niet %1 is:</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is not a master server address. Type a host name or an IP address, followed by a colon and a port from 1 to 65535 when the port is not 27650.</source>
-        <translation>&quot;%1&quot; is geen adres van een masterserver. Typ een hostnaam of een IP-adres, gevolgd door een dubbele punt en een poort van 1 tot 65535 als de poort niet 27650 is.</translation>
+        <source>&quot;%1&quot; is not a master server address. Type a host name or an IP address, followed by a colon and a port from 1 to 65535 when the port is not %2.</source>
+        <translation>&quot;%1&quot; is geen adres van een masterserver. Typ een hostnaam of een IP-adres, gevolgd door een dubbele punt en een poort van 1 tot 65535 als de poort niet %2 is.</translation>
     </message>
     <message>
         <source>Server lists on the web, fetched alongside:</source>

@@ -64,6 +64,17 @@ responderam %2 de %3 servidores</translation>
     </message>
 </context>
 <context>
+    <name>Desktop</name>
+    <message>
+        <source>Select your Quake 4 Executable</source>
+        <translation>Selecione o executável do Quake 4</translation>
+    </message>
+    <message>
+        <source>Quake 4 Executable (%1)</source>
+        <translation>Executável do Quake 4 (%1)</translation>
+    </message>
+</context>
+<context>
     <name>DialogBar</name>
     <message>
         <source>%1 is not listed now: &quot;Query Recently Played&quot; asks every server you played on.</source>
@@ -561,16 +572,8 @@ responderam %2 de %3 servidores</translation>
         <translation>Tem a certeza de que quer repor todas as definições nos valores predefinidos?</translation>
     </message>
     <message>
-        <source>Select your Quake 4 Executable</source>
-        <translation>Selecione o executável do Quake 4</translation>
-    </message>
-    <message>
-        <source>Quake 4 Executable (%1)</source>
-        <translation>Executável do Quake 4 (%1)</translation>
-    </message>
-    <message>
-        <source>You must type a port number between 1024 and 65512! (Default: 9000)</source>
-        <translation>Tem de escrever um número de porta entre 1024 e 65512! (Predefinição: 9000)</translation>
+        <source>You must type a port number between %1 and %2! (Default: %3)</source>
+        <translation>Tem de escrever um número de porta entre %1 e %2! (Predefinição: %3)</translation>
     </message>
     <message>
         <source>Servers</source>
@@ -636,14 +639,6 @@ responderam %2 de %3 servidores</translation>
     <message>
         <source>Please enter the IP address/hostname and port of the server you wish to join</source>
         <translation>Introduza o endereço IP ou nome do anfitrião e a porta do servidor em que quer entrar</translation>
-    </message>
-    <message>
-        <source>Select your Quake 4 Executable</source>
-        <translation>Selecione o executável do Quake 4</translation>
-    </message>
-    <message>
-        <source>Quake 4 Executable (%1)</source>
-        <translation>Executável do Quake 4 (%1)</translation>
     </message>
     <message>
         <source>Please enter the password for this server</source>
@@ -1003,12 +998,12 @@ Esperar por uma vaga e entrar assim que uma abrir?</translation>
         <translation>Servidor mestre</translation>
     </message>
     <message>
-        <source>Host name or address of a master server, with :port when it is not 27650:</source>
-        <translation>Nome ou endereço de um servidor mestre, com :porta quando não for 27650:</translation>
+        <source>Host name or address of a master server, with :port when it is not %1:</source>
+        <translation>Nome ou endereço de um servidor mestre, com :porta quando não for %1:</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is not a master server address. Type a host name or an IP address, followed by a colon and a port from 1 to 65535 when the port is not 27650.</source>
-        <translation>&quot;%1&quot; não é um endereço de servidor mestre. Escreva um nome ou endereço IP, seguido de dois pontos e de uma porta de 1 a 65535 quando a porta não for 27650.</translation>
+        <source>&quot;%1&quot; is not a master server address. Type a host name or an IP address, followed by a colon and a port from 1 to 65535 when the port is not %2.</source>
+        <translation>&quot;%1&quot; não é um endereço de servidor mestre. Escreva um nome ou endereço IP, seguido de dois pontos e de uma porta de 1 a 65535 quando a porta não for %2.</translation>
     </message>
     <message>
         <source>Server lists on the web, fetched alongside:</source>

@@ -167,10 +167,10 @@ FrmFavourites::FrmFavourites(SettingsStore& settings, QString dataFolder, QWidge
 
 void FrmFavourites::sayTooLarge()
 {
-    showMessage(tr("This favourites file is larger than the editor reads (%1 servers or %2 MB). It is shown in "
-                   "part and not saved, so that no server is lost.")
-                    .arg(Favourites::MaxFavourites)
-                    .arg(Favourites::MaxFileBytes / (1024 * 1024)));
+    say(tr("This favourites file is larger than the editor reads (%1 servers or %2 MB). It is shown in "
+           "part and not saved, so that no server is lost.")
+            .arg(Favourites::MaxFavourites)
+            .arg(Favourites::MaxFileBytes / (1024 * 1024)));
 }
 
 QList<FavouritesModel::Row> FrmFavourites::rowsOnDisk(bool* complete) const
@@ -206,15 +206,14 @@ bool FrmFavourites::apply()
         bytes += Favourites::line(row.at(FavouritesModel::Address), row.at(FavouritesModel::Password),
                                   row.at(FavouritesModel::Name));
     if (!writeWholeFile(m_path, bytes)) {
-        showMessage(tr("The favourites could not be saved to %1. Your changes are still here.")
-                        .arg(QDir::toNativeSeparators(m_path)));
+        say(tr("The favourites could not be saved to %1. Your changes are still here.")
+                .arg(QDir::toNativeSeparators(m_path)));
         return false;
     }
     // As the file reads back, so the next comparison is like with like.
     m_onDisk = rowsOnDisk(&complete);
-    showMessage(added == 0
-                    ? QString()
-                    : tr("%n servers added elsewhere since this list was opened are kept as well.", nullptr, added));
+    say(added == 0 ? QString()
+                   : tr("%n servers added elsewhere since this list was opened are kept as well.", nullptr, added));
     return true;
 }
 
@@ -249,12 +248,12 @@ void FrmFavourites::commitCell(int row, int column, const QString& text)
     // An address the queries and the game cannot use is not taken: it
     // would be saved, then skipped by every query without a word.
     if (column == FavouritesModel::Address && !text.trimmed().isEmpty() && !isServerAddress(text)) {
-        showMessage(tr("\"%1\" is not a server address. Type a host name or an IP address, followed by a colon and "
-                       "a port from 1 to 65535.")
-                        .arg(text));
+        say(tr("\"%1\" is not a server address. Type a host name or an IP address, followed by a colon and "
+               "a port from 1 to 65535.")
+                .arg(text));
         return;
     }
-    showMessage(QString());
+    say(QString());
     m_model->setCell(row, column, text.trimmed());
 }
 

@@ -139,10 +139,10 @@ void FrmFilters::save()
     // The lists follow the change all the same; the user must know it will
     // not be there next time.
     if (Filters::writeFile(m_path, m_model->filters()))
-        showMessage(QString());
+        say(QString());
     else
-        showMessage(tr("The filters could not be saved to %1; this change lasts until the program ends.")
-                        .arg(QDir::toNativeSeparators(m_path)));
+        say(tr("The filters could not be saved to %1; this change lasts until the program ends.")
+                .arg(QDir::toNativeSeparators(m_path)));
 }
 
 void FrmFilters::newRow()

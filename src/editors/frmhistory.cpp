@@ -170,7 +170,7 @@ void FrmHistory::showState()
     cmdRemove->setEnabled(lstHistory->selectedRow() >= 0);
 }
 
-void FrmHistory::tell(const QString& text)
+void FrmHistory::say(const QString& text)
 {
     lblEmpty->setText(text);
     lblEmpty->setVisible(!text.isEmpty());

@@ -52,7 +52,7 @@ public:
     // Reads history.dat again (after a join).
     void reload();
     // A word for the user under the list, until the selection changes.
-    void tell(const QString& text);
+    void say(const QString& text);
     const HistoryModel& model() const { return *m_model; }
     // What went wrong last (a file that could not be written); empty when
     // nothing did.

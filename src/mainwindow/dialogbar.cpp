@@ -69,7 +69,7 @@ FrmHistory* DialogBar::openHistory()
                 window()->raise();
                 window()->activateWindow();
             } else {
-                m_history->tell(
+                m_history->say(
                     tr("%1 is not listed now: \"Query Recently Played\" asks every server you played on.").arg(name));
             }
         });

@@ -4,7 +4,7 @@
 #include "mainwindow/joincommand.h"
 #include "mainwindow/slotwaiter.h"
 #include "platform/desktop.h"
-#include "query/serverlistreader.h"
+#include "query/records.h"
 #include "userdata/favourites.h"
 #include "userdata/playhistory.h"
 #include "userdata/settingsstore.h"
@@ -74,8 +74,7 @@ QString JoinFlow::executable()
     QString path = m_settings.value(Keys::Path);
     if (!path.isEmpty())
         return path;
-    path = m_desktop.openFileName(m_window, tr("Select your Quake 4 Executable"), QString(),
-                                  tr("Quake 4 Executable (%1)").arg(Desktop::executablePattern()));
+    path = m_desktop.chooseExecutable(m_window);
     if (!path.isEmpty())
         m_settings.set(Keys::Path, path);
     return path;
@@ -134,7 +133,7 @@ void JoinFlow::start(const Target& target, const QString& password)
 
 void JoinFlow::record(const Target& target)
 {
-    const auto endpoint = ServerListReader::parseEndpoint(target.address);
+    const auto endpoint = parseEndpoint(target.address);
     if (!endpoint)
         return;
     const PlayHistory::Entry entry{endpoint->address, endpoint->port, target.serverName,

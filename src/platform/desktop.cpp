@@ -39,6 +39,12 @@ void Desktop::closeOtherWindows(const QWidget* main)
     }
 }
 
+QString Desktop::chooseExecutable(QWidget* parent)
+{
+    return openFileName(parent, tr("Select your Quake 4 Executable"), QString(),
+                        tr("Quake 4 Executable (%1)").arg(executablePattern()));
+}
+
 QString Desktop::executablePattern()
 {
 #ifdef Q_OS_WIN

@@ -4,6 +4,7 @@
 #include "platform/clock.h"
 
 #include <QColor>
+#include <QCoreApplication>
 #include <QMessageBox>
 #include <QString>
 #include <QStringList>
@@ -20,6 +21,8 @@ class QWidget;
 // the file dialog and starting another process. Windows get one of these
 // instead of calling the Qt statics, so tests can answer for the user.
 class Desktop {
+    Q_DECLARE_TR_FUNCTIONS(Desktop)
+
 public:
     enum class Icon { None, Information, Warning, Critical, Question };
 
@@ -28,6 +31,9 @@ public:
     // What the executable file dialog lists: the game's Windows binary is
     // an .exe, its Linux binaries have no extension.
     static QString executablePattern();
+    // The file dialog that asks for the game's executable (the options'
+    // Browse, a join without one); an empty text when the user cancelled.
+    QString chooseExecutable(QWidget* parent);
 
     // Closes every other visible window of the program (editors, dialogs)
     // when the main window closes, so each writes what it holds.

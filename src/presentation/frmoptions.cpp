@@ -11,6 +11,7 @@
 #include "userdata/knownservers.h"
 #include "userdata/settingskeys.h"
 #include "userdata/settingsstore.h"
+#include "widgets/messageline.h"
 #include "widgets/namedcontrol.h"
 
 #include <QCheckBox>
@@ -51,9 +52,7 @@ FrmOptions::FrmOptions(SettingsStore& settings, Desktop& desktop, Language& lang
     tabOptions->addTab(m_friendsTab, QString());
     buildSettingsTab(settingsPage);
 
-    lblMessage = makeControl<QLabel>(this, "lblMessage");
-    lblMessage->setWordWrap(true);
-    lblMessage->hide();
+    lblMessage = new MessageLine(this);
     cmdOK = makeControl<QPushButton>(this, "cmdOK");
     cmdCancel = makeControl<QPushButton>(this, "cmdCancel");
     cmdApply = makeControl<QPushButton>(this, "cmdApply");
@@ -246,8 +245,7 @@ void FrmOptions::resetToDefaults()
 
 void FrmOptions::browse()
 {
-    const QString path = m_desktop.openFileName(this, tr("Select your Quake 4 Executable"), QString(),
-                                                tr("Quake 4 Executable (%1)").arg(Desktop::executablePattern()));
+    const QString path = m_desktop.chooseExecutable(this);
     if (!path.isEmpty())
         txtPath->setText(path);
 }
@@ -256,7 +254,11 @@ bool FrmOptions::save()
 {
     if (!StartPortRule::isAcceptable(txtStartPort->text())) {
         m_desktop.message(this, Desktop::Icon::Warning, tr("Options"),
-                          tr("You must type a port number between 1024 and 65512! (Default: 9000)"), QMessageBox::Ok);
+                          tr("You must type a port number between %1 and %2! (Default: %3)")
+                              .arg(StartPortRule::LowestStart + 1)
+                              .arg(StartPortRule::HighestStart)
+                              .arg(Keys::StartPort.defaultValue),
+                          QMessageBox::Ok);
         return false;
     }
     {
@@ -286,6 +288,5 @@ void FrmOptions::reject()
 
 void FrmOptions::say(const QString& text)
 {
-    lblMessage->setText(text);
-    lblMessage->setVisible(!text.isEmpty());
+    lblMessage->say(text);
 }

@@ -7,6 +7,7 @@
 
 class Desktop;
 class Language;
+class MessageLine;
 class QCheckBox;
 class QComboBox;
 class QLabel;
@@ -80,7 +81,7 @@ private:
     ServersTab* m_serversTab = nullptr;
     FriendsTab* m_friendsTab = nullptr;
 
-    QLabel* lblMessage = nullptr;
+    MessageLine* lblMessage = nullptr;
     QPushButton* cmdOK = nullptr;
     QPushButton* cmdCancel = nullptr;
     QPushButton* cmdApply = nullptr;

@@ -195,10 +195,13 @@ ServersTab::ServersTab(SettingsStore& settings, Desktop& desktop, QString knownS
 
 void ServersTab::retranslateUi()
 {
-    m_masters->setTexts({tr("Master servers, all asked at once:"), tr("Master Server"),
-                         tr("Host name or address of a master server, with :port when it is not 27650:"),
-                         tr("\"%1\" is not a master server address. Type a host name or an IP address, followed by "
-                            "a colon and a port from 1 to 65535 when the port is not 27650.")});
+    m_masters->setTexts(
+        {tr("Master servers, all asked at once:"), tr("Master Server"),
+         tr("Host name or address of a master server, with :port when it is not %1:").arg(MasterAddress::DefaultPort),
+         // %1 is the typed address, filled in when it is refused.
+         tr("\"%1\" is not a master server address. Type a host name or an IP address, followed by "
+            "a colon and a port from 1 to 65535 when the port is not %2.")
+             .arg(QStringLiteral("%1"), QString::number(MasterAddress::DefaultPort))});
     m_lists->setTexts({tr("Server lists on the web, fetched alongside:"), tr("Server List"),
                        tr("Web address of a server list (JSON or one host:port per line):"),
                        tr("\"%1\" is not a web address. Type an address that begins with http:// or https://.")});

@@ -104,6 +104,10 @@ QString ThemeService::styleSheet(const ThemeFile::Theme& theme, const QPalette& 
                      .arg(progressBar);
         break;
     }
+    // What went wrong, in red that stays readable on the form's colour.
+    const bool darkForm = colourOf(theme.formBack).lightnessF() < 0.5;
+    sheet += QStringLiteral("MessageLine { color: %1; }")
+                 .arg(darkForm ? QStringLiteral("#ff8a80") : QStringLiteral("#b00000"));
     if (theme.tabStyle == ThemeFile::LargeTabs)
         sheet += QStringLiteral("QTabBar::tab { padding: 8px 18px; min-height: 20px; }");
     else

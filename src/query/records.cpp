@@ -42,6 +42,20 @@ bool isServerAddress(QStringView text)
     return ok && port >= 1 && port <= 65535 && isHostName(text.left(colon));
 }
 
+std::optional<AddressEntry> parseEndpoint(QStringView text)
+{
+    text = text.trimmed();
+    const qsizetype colon = text.lastIndexOf(QLatin1Char(':'));
+    if (colon <= 0)
+        return std::nullopt;
+    const QStringView host = text.left(colon);
+    bool ok = false;
+    const int port = text.mid(colon + 1).toInt(&ok);
+    if (!ok || port < 1 || port > 65535 || !isHostName(host))
+        return std::nullopt;
+    return AddressEntry{canonicalHost(host.toString()), port, {}, {}};
+}
+
 void AddressTable::add(const QString& address, int port, const QString& name, const QString& password)
 {
     m_entries.append(AddressEntry{address, port, name, password});

@@ -36,6 +36,11 @@ struct AddressEntry {
     friend bool operator==(const AddressEntry&, const AddressEntry&) = default;
 };
 
+// "host:port" as lists and data files write a server: a host name or IPv4
+// address (in its one spelling) and a port from 1 to 65535; spaces around
+// are ignored.
+std::optional<AddressEntry> parseEndpoint(QStringView text);
+
 // The addresses of one query in the master's (or the favourites') order.
 // Duplicates are kept: a server listed twice is queried twice.
 class AddressTable final {

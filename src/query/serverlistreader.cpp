@@ -28,7 +28,7 @@ std::optional<int> portOf(const QJsonValue& value)
 std::optional<AddressEntry> entryOf(const QJsonValue& value)
 {
     if (value.isString())
-        return ServerListReader::parseEndpoint(value.toString());
+        return parseEndpoint(value.toString());
     if (!value.isObject())
         return std::nullopt;
     const QJsonObject object = value.toObject();
@@ -39,7 +39,7 @@ std::optional<AddressEntry> entryOf(const QJsonValue& value)
             continue;
         const QString text = host.toString().trimmed();
         // "address" may carry the port itself, or leave it to "port".
-        if (auto entry = ServerListReader::parseEndpoint(text))
+        if (auto entry = parseEndpoint(text))
             return entry;
         const auto number = portOf(port);
         if (number && isHostName(text))
@@ -91,20 +91,6 @@ void add(ServerListReader::Result& result, QSet<QString>& seen, const std::optio
 } // namespace
 
 namespace ServerListReader {
-
-std::optional<AddressEntry> parseEndpoint(QStringView text)
-{
-    text = text.trimmed();
-    const qsizetype colon = text.lastIndexOf(QLatin1Char(':'));
-    if (colon <= 0)
-        return std::nullopt;
-    const QStringView host = text.left(colon);
-    bool ok = false;
-    const int port = text.mid(colon + 1).toInt(&ok);
-    if (!ok || port < 1 || port > 65535 || !isHostName(host))
-        return std::nullopt;
-    return AddressEntry{canonicalHost(host.toString()), port, {}, {}};
-}
 
 Result read(const QByteArray& reply, int maxAddresses)
 {

@@ -35,10 +35,6 @@ struct Result {
 // anything after the first blank is ignored.
 Result read(const QByteArray& reply, int maxAddresses = MaxAddresses);
 
-// "host:port" with a host name or IPv4 address and a port 1 to 65535.
-// IPv6 is refused: the pool's sockets are IPv4.
-std::optional<AddressEntry> parseEndpoint(QStringView text);
-
 // The list addresses of the setting, separated by blanks: http and https
 // addresses with a host; anything else goes to refused.
 QList<QUrl> parseUrls(QStringView text, QStringList* refused = nullptr);

@@ -134,7 +134,7 @@ QString addressText(const Favourite& favourite)
 {
     if (favourite.port == 0)
         return favourite.address;
-    return favourite.address + QLatin1Char(':') + QString::number(favourite.port);
+    return endpointText(favourite.address, favourite.port);
 }
 
 QByteArray line(const QString& address, const QString& password, const QString& name)

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "userdata/knownservers.h"
 
-#include "query/serverlistreader.h"
+#include "query/records.h"
 #include "userdata/datafield.h"
 
 #include <QDir>
@@ -36,7 +36,7 @@ List parse(const QByteArray& bytes)
         if (fields.size() < 3)
             continue;
         // Only what a list would accept: a host name or IPv4 address and a port.
-        const auto endpoint = ServerListReader::parseEndpoint(QString::fromLatin1(fields.at(0)));
+        const auto endpoint = parseEndpoint(QString::fromLatin1(fields.at(0)));
         bool seenOk = false;
         bool missesOk = false;
         Server server;

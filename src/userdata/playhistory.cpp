@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "userdata/playhistory.h"
 
-#include "query/serverlistreader.h"
+#include "query/records.h"
 #include "userdata/datafield.h"
 
 #include <QDir>
@@ -31,7 +31,7 @@ List parse(const QByteArray& bytes)
         const qsizetype secondTab = firstTab < 0 ? -1 : line.indexOf('\t', firstTab + 1);
         if (secondTab < 0)
             continue;
-        const auto endpoint = ServerListReader::parseEndpoint(QString::fromLatin1(line.first(firstTab)));
+        const auto endpoint = parseEndpoint(QString::fromLatin1(line.first(firstTab)));
         bool timeOk = false;
         const qint64 joinedAt = line.sliced(firstTab + 1, secondTab - firstTab - 1).toByteArray().toLongLong(&timeOk);
         if (!endpoint || !timeOk || joinedAt < 0)

@@ -4,6 +4,7 @@
 #include "userdata/settingsstore.h"
 #include "widgets/columnlayout.h"
 #include "widgets/copycommands.h"
+#include "widgets/messageline.h"
 #include "widgets/reportview.h"
 
 #include <QAction>
@@ -40,13 +41,7 @@ EditableListDialog::EditableListDialog(SettingsStore& settings, QAbstractItemMod
     connect(txtEdit, &QLineEdit::editingFinished, this, &EditableListDialog::commitEdit);
     txtEdit->installEventFilter(this);
 
-    lblMessage = new QLabel(this);
-    lblMessage->setObjectName(QStringLiteral("lblMessage"));
-    lblMessage->setWordWrap(true);
-    lblMessage->hide();
-    QPalette alarm = lblMessage->palette();
-    alarm.setColor(QPalette::WindowText, QColor(200, 0, 0));
-    lblMessage->setPalette(alarm);
+    lblMessage = new MessageLine(this);
 
     m_menu = new QMenu(this);
     // In the editors a copied column comes out on one line.
@@ -80,10 +75,9 @@ EditableListDialog::~EditableListDialog()
     txtEdit->disconnect(this);
 }
 
-void EditableListDialog::showMessage(const QString& text)
+void EditableListDialog::say(const QString& text)
 {
-    lblMessage->setText(text);
-    lblMessage->setVisible(!text.isEmpty());
+    lblMessage->say(text);
 }
 
 int EditableListDialog::selectedRow() const

@@ -1,11 +1,14 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #pragma once
 
+#include "widgets/messageline.h"
+
 #include <QDialog>
 
 class CopyCommands;
 class QAbstractItemModel;
 class QAction;
+
 class QLabel;
 class QLineEdit;
 class QMenu;
@@ -46,8 +49,8 @@ protected:
     void cancelEdit();
     // A line for what went wrong (a file that could not be written),
     // hidden while there is nothing to say; the subclass places it.
-    QLabel* messageLine() const { return lblMessage; }
-    void showMessage(const QString& text);
+    MessageLine* messageLine() const { return lblMessage; }
+    void say(const QString& text);
 
     void hideEvent(QHideEvent* event) override;
     bool eventFilter(QObject* watched, QEvent* event) override;
@@ -58,7 +61,7 @@ private:
     QString m_columnsPrefix;
     ReportView* m_list = nullptr;
     QLineEdit* txtEdit = nullptr;
-    QLabel* lblMessage = nullptr;
+    MessageLine* lblMessage = nullptr;
     QMenu* m_menu = nullptr;
     CopyCommands* m_copy = nullptr;
     QAction* mPopEditCell = nullptr;
