@@ -220,8 +220,8 @@ int window(int delayMs)
         qFatal("q4vantage-sim did not start");
     QTemporaryDir dir;
     SettingsStore settings(dir.filePath(QStringLiteral("settings.ini")));
-    settings.save(u"MasterServer", QStringLiteral("127.0.0.1:19999"));
-    settings.save(u"StartPort", QString::number(StartPort));
+    settings.save(Keys::MasterServer.key, QStringLiteral("127.0.0.1:19999"));
+    settings.save(Keys::StartPort.key, QString::number(StartPort));
     settings.set(Keys::Friends, fiftyFriends());
     settings.set(Keys::AutoRefreshMinutes, 5);
     ScriptedDesktop desktop;

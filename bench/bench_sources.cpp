@@ -55,10 +55,10 @@ Times oneQuery(int run)
 
     QTemporaryDir dir;
     SettingsStore settings(dir.filePath(QStringLiteral("settings.ini")));
-    settings.save(u"MasterServer", QStringLiteral("127.0.0.1:%1").arg(options.masterPort));
-    settings.save(u"ServerListUrls", web.url(QStringLiteral("/q4")).toString());
-    settings.save(u"StartPort", QString::number(47500 + run * 40));
-    settings.save(u"AutoUpdate", QStringLiteral("0"));
+    settings.save(Keys::MasterServer.key, QStringLiteral("127.0.0.1:%1").arg(options.masterPort));
+    settings.save(Keys::ServerListUrls.key, web.url(QStringLiteral("/q4")).toString());
+    settings.save(Keys::StartPort.key, QString::number(47500 + run * 40));
+    settings.save(Keys::AutoUpdate.key, QStringLiteral("0"));
     ScriptedDesktop desktop;
     Language language;
     FrmMain main(settings, desktop, language, dir.path());

@@ -145,14 +145,14 @@ private slots:
 
     void builtInBoxesAreStoredAtOnce()
     {
-        m_settings->save(u"IncludeFull", QStringLiteral("0"));
+        m_settings->save(Keys::IncludeFull.key, QStringLiteral("0"));
         FrmFilters form(*m_settings, m_dir->path());
         QVERIFY(!form.builtIn().includeFull);
         QVERIFY(form.builtIn().includeEmpty);
         QSignalSpy changed(&form, &FrmFilters::filtersChanged);
         form.show();
         QTest::mouseClick(form.findChild<QCheckBox*>(QStringLiteral("chkIncludeEmpty")), Qt::LeftButton);
-        QCOMPARE(m_settings->get(u"IncludeEmpty"), QStringLiteral("0"));
+        QCOMPARE(m_settings->get(Keys::IncludeEmpty.key), QStringLiteral("0"));
         QVERIFY(!form.builtIn().includeEmpty);
         QCOMPARE(changed.count(), 1);
     }

@@ -49,9 +49,9 @@ private slots:
         QVERIFY(!run.list("lstPlayerList")->isVisible());
         QCOMPARE(run.window->size(), FrmMain::DesignSize);
         QVERIFY(!run.window->isMaximized());
-        QCOMPARE(run.window->minimumSize(), QSize(500, 545));
-        QVERIFY(run.window->layout()->minimumSize().width() <= 500);
-        QVERIFY(run.window->layout()->minimumSize().height() <= 545);
+        QCOMPARE(run.window->minimumSize(), FrmMain::MinimumSize);
+        QVERIFY(run.window->layout()->minimumSize().width() <= FrmMain::MinimumSize.width());
+        QVERIFY(run.window->layout()->minimumSize().height() <= FrmMain::MinimumSize.height());
         QCOMPARE(run.window->serverSort(), (ColumnLayout::SortState{0, 1}));
         QCOMPARE(run.window->playerSort(), (ColumnLayout::SortState{0, 1}));
         QVERIFY(!run.find<QPushButton>("cmdCancel")->isEnabled());
@@ -109,7 +109,7 @@ private slots:
     {
         QFETCH(QString, stored);
         QFETCH(int, tab);
-        m_settings->save(u"Tab", stored);
+        m_settings->save(Keys::Tab.key, stored);
         TestWindow run(*m_settings);
         QVERIFY(run.show());
         QCOMPARE(run.find<QTabBar>("tabSelect")->currentIndex(), tab);
@@ -120,7 +120,7 @@ private slots:
 
     void switchingViewsKeepsThePanesWhereTheyWere()
     {
-        m_settings->save(u"Tab", QStringLiteral("1"));
+        m_settings->save(Keys::Tab.key, QStringLiteral("1"));
         TestWindow run(*m_settings);
         QVERIFY(run.show());
         auto* tabs = run.find<QTabBar>("tabSelect");
@@ -137,7 +137,7 @@ private slots:
             QTRY_COMPARE(rzrPSI->sizes(), listAndPanes);
             QCOMPARE(rzrSPSI->sizes(), panes);
         }
-        QVERIFY(!m_settings->contains(u"rzrPSISize"));
+        QVERIFY(!m_settings->contains(Keys::SplitterServerList.key));
     }
 
     void layoutSurvivesARestart()
@@ -158,10 +158,10 @@ private slots:
             QTest::mousePress(handle, Qt::LeftButton, {}, middle);
             QTest::mouseMove(handle, middle + QPoint(0, 40));
             QTest::mouseRelease(handle, Qt::LeftButton, {}, middle + QPoint(0, 40));
-            QVERIFY(m_settings->contains(u"rzrPSISize"));
-            QVERIFY(m_settings->contains(u"rzrSPSISize"));
+            QVERIFY(m_settings->contains(Keys::SplitterServerList.key));
+            QVERIFY(m_settings->contains(Keys::SplitterPanes.key));
             const int serverListHeight = rzrPSI->sizes().first();
-            QCOMPARE(m_settings->getNumber(u"rzrPSISize", -1), serverListHeight);
+            QCOMPARE(m_settings->getNumber(Keys::SplitterServerList.key, -1), serverListHeight);
 
             auto* name = run.find<HistoryComboBox>("cmbPlayerName");
             name->setEditText(QStringLiteral("^1Fragger"));
@@ -173,15 +173,15 @@ private slots:
             QTest::mouseClick(run.find<QPushButton>("cmdExit"), Qt::LeftButton);
             QVERIFY(!run.window->isVisible());
         }
-        QCOMPARE(m_settings->get(u"WindowWidth"), QStringLiteral("640"));
-        QCOMPARE(m_settings->get(u"Maximized"), QStringLiteral("False"));
-        QCOMPARE(m_settings->get(u"Tab"), QStringLiteral("0"));
+        QCOMPARE(m_settings->get(Keys::WindowWidth.key), QStringLiteral("640"));
+        QCOMPARE(m_settings->get(Keys::Maximized.key), QStringLiteral("False"));
+        QCOMPARE(m_settings->get(Keys::Tab.key), QStringLiteral("0"));
         QCOMPARE(m_settings->get(u"SColumnOrder0"), QStringLiteral("7"));
         QCOMPARE(m_settings->get(u"SColumnWidth7"), QStringLiteral("177"));
         QCOMPARE(m_settings->get(u"SIColumnWidth1"), QStringLiteral("222"));
-        QCOMPARE(m_settings->get(u"PlayerNameBox"), QStringLiteral("^1Fragger\u0001Other\u0001"));
+        QCOMPARE(m_settings->get(Keys::PlayerNameBox.key), QStringLiteral("^1Fragger\u0001Other\u0001"));
 
-        m_settings->save(u"Tab", QStringLiteral("1"));
+        m_settings->save(Keys::Tab.key, QStringLiteral("1"));
         TestWindow again(*m_settings);
         QVERIFY(again.show());
         QCOMPARE(again.window->size(), QSize(640, 580));
@@ -189,7 +189,8 @@ private slots:
         QCOMPARE(again.header("lstServerList")->sectionSize(7), 177);
         QCOMPARE(again.header("lstPlayerList")->logicalIndex(3), 0);
         QCOMPARE(again.header("lvwServerInfo")->sectionSize(1), 222);
-        QCOMPARE(again.find<QSplitter>("rzrPSI")->sizes().first(), m_settings->getNumber(u"rzrPSISize", -1));
+        QCOMPARE(again.find<QSplitter>("rzrPSI")->sizes().first(),
+                 m_settings->getNumber(Keys::SplitterServerList.key, -1));
         auto* name = again.find<HistoryComboBox>("cmbPlayerName");
         QCOMPARE(name->currentText(), QStringLiteral("^1Fragger"));
         QCOMPARE(name->entries(), (QStringList{"^1Fragger", "Other"}));
@@ -233,9 +234,9 @@ private slots:
 
     void maximizedWindowRestartsAtItsNormalSizeThenMaximizes()
     {
-        m_settings->save(u"WindowWidth", QStringLiteral("620"));
-        m_settings->save(u"WindowHeight", QStringLiteral("560"));
-        m_settings->save(u"Maximized", QStringLiteral("True"));
+        m_settings->save(Keys::WindowWidth.key, QStringLiteral("620"));
+        m_settings->save(Keys::WindowHeight.key, QStringLiteral("560"));
+        m_settings->save(Keys::Maximized.key, QStringLiteral("True"));
         {
             TestWindow run(*m_settings);
             QVERIFY(run.show());
@@ -243,9 +244,9 @@ private slots:
             QCOMPARE(run.window->normalGeometry().size(), QSize(620, 560));
             run.window->close();
         }
-        QCOMPARE(m_settings->get(u"Maximized"), QStringLiteral("True"));
-        QCOMPARE(m_settings->get(u"WindowWidth"), QStringLiteral("620"));
-        QCOMPARE(m_settings->get(u"WindowHeight"), QStringLiteral("560"));
+        QCOMPARE(m_settings->get(Keys::Maximized.key), QStringLiteral("True"));
+        QCOMPARE(m_settings->get(Keys::WindowWidth.key), QStringLiteral("620"));
+        QCOMPARE(m_settings->get(Keys::WindowHeight.key), QStringLiteral("560"));
     }
 
     void resizingIsStoredButMinimizingIsNot()
@@ -253,27 +254,27 @@ private slots:
         TestWindow run(*m_settings);
         QVERIFY(run.show());
         run.window->resize(700, 600);
-        QCOMPARE(m_settings->get(u"WindowWidth"), QStringLiteral("700"));
-        QCOMPARE(m_settings->get(u"WindowHeight"), QStringLiteral("600"));
+        QCOMPARE(m_settings->get(Keys::WindowWidth.key), QStringLiteral("700"));
+        QCOMPARE(m_settings->get(Keys::WindowHeight.key), QStringLiteral("600"));
         run.window->showMinimized();
         QTRY_VERIFY(run.window->isMinimized());
         run.window->resize(520, 550);
-        QCOMPARE(m_settings->get(u"WindowWidth"), QStringLiteral("700"));
-        QCOMPARE(m_settings->get(u"WindowHeight"), QStringLiteral("600"));
+        QCOMPARE(m_settings->get(Keys::WindowWidth.key), QStringLiteral("700"));
+        QCOMPARE(m_settings->get(Keys::WindowHeight.key), QStringLiteral("600"));
     }
 
     void storedSizeBelowTheMinimumIsRaised()
     {
-        m_settings->save(u"WindowWidth", QStringLiteral("junk"));
-        m_settings->save(u"WindowHeight", QStringLiteral("100"));
+        m_settings->save(Keys::WindowWidth.key, QStringLiteral("junk"));
+        m_settings->save(Keys::WindowHeight.key, QStringLiteral("100"));
         TestWindow run(*m_settings);
         QVERIFY(run.show());
-        QCOMPARE(run.window->size(), QSize(500, 545));
+        QCOMPARE(run.window->size(), FrmMain::MinimumSize);
     }
 
     void americanEnglishAtStart()
     {
-        m_settings->save(u"Language", QStringLiteral("1"));
+        m_settings->save(Keys::Language.key, QStringLiteral("1"));
         TestWindow run(*m_settings);
         QCOMPARE(run.button("cmdFav")->text(), QStringLiteral("Query Favorites"));
         QCOMPARE(run.button("cmdOrganise")->text(), QStringLiteral("Favorites"));
@@ -285,7 +286,7 @@ private slots:
 
     void unknownLanguageKeepsTheDesignTimeTexts()
     {
-        m_settings->save(u"Language", QStringLiteral("7"));
+        m_settings->save(Keys::Language.key, QStringLiteral("7"));
         TestWindow run(*m_settings);
         QCOMPARE(run.button("cmdFav")->text(), QStringLiteral("Query Favourites"));
         QCOMPARE(run.button("cmdOrganise")->text(), QStringLiteral("Favourites"));
@@ -316,7 +317,7 @@ private slots:
         QTest::keyClick(language, Qt::Key_Down);
         QTRY_COMPARE(run.button("cmdFav")->text(), QStringLiteral("Query Favorites"));
         QTest::mouseClick(options->findChild<QPushButton*>(QStringLiteral("cmdOK")), Qt::LeftButton);
-        QCOMPARE(m_settings->get(u"Language"), QStringLiteral("1"));
+        QCOMPARE(m_settings->get(Keys::Language.key), QStringLiteral("1"));
         QTRY_VERIFY(!run.window->findChild<FrmOptions*>(QStringLiteral("frmOptions")));
         run.language.apply(0);
     }
@@ -381,8 +382,8 @@ private slots:
             QCOMPARE(password->entries(), QStringList{"pw12"});
             run.window->close();
         }
-        QCOMPARE(m_settings->get(u"PlayerNameBox"), QStringLiteral("Fragger\u0001"));
-        QCOMPARE(m_settings->get(u"PasswordBox"), QStringLiteral("pw12\u0001"));
+        QCOMPARE(m_settings->get(Keys::PlayerNameBox.key), QStringLiteral("Fragger\u0001"));
+        QCOMPARE(m_settings->get(Keys::PasswordBox.key), QStringLiteral("pw12\u0001"));
     }
 };
 

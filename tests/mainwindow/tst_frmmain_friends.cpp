@@ -44,10 +44,10 @@ struct Listed : RunningFleet, TestWindow {
     explicit Listed(const std::function<void(SettingsStore&)>& more = {})
         : RunningFleet(fleetOf(12, MasterPort))
         , TestWindow(MasterPort, StartPort, [&more](SettingsStore& settings) {
-            settings.save(u"RefreshServers", QStringLiteral("0"));
-            settings.save(u"CloseAfterJoin", QStringLiteral("0"));
-            settings.save(u"Path", QStringLiteral("/opt/quake4/quake4.x86"));
-            settings.save(u"AutoRefreshMinutes", QStringLiteral("5"));
+            settings.save(Keys::RefreshServers.key, QStringLiteral("0"));
+            settings.save(Keys::CloseAfterJoin.key, QStringLiteral("0"));
+            settings.save(Keys::Path.key, QStringLiteral("/opt/quake4/quake4.x86"));
+            settings.save(Keys::AutoRefreshMinutes.key, QStringLiteral("5"));
             settings.set(Keys::Friends, QStringList{QStringLiteral("Bob*")});
             if (more)
                 more(settings);

@@ -30,9 +30,9 @@ struct Joined : RunningFleet, TestWindow {
     Joined()
         : RunningFleet(fleetOf(6, MasterPort))
         , TestWindow(MasterPort, StartPort, [](SettingsStore& settings) {
-            settings.save(u"RefreshServers", QStringLiteral("0"));
-            settings.save(u"CloseAfterJoin", QStringLiteral("0"));
-            settings.save(u"Path", QStringLiteral("/opt/quake4/quake4.x86"));
+            settings.save(Keys::RefreshServers.key, QStringLiteral("0"));
+            settings.save(Keys::CloseAfterJoin.key, QStringLiteral("0"));
+            settings.save(Keys::Path.key, QStringLiteral("/opt/quake4/quake4.x86"));
         })
     {
         fleet.setServer(0, {{"si_name", "^1Locked"}, {"si_usepass", "1"}, {"si_maxplayers", "8"}}, {});
@@ -92,7 +92,7 @@ private slots:
         QVERIFY2(j.window->isVisible(), "CloseAfterJoin 0 keeps the program open");
 
         // A game that does not start keeps the program open and says why.
-        j.settings().save(u"CloseAfterJoin", QStringLiteral("1"));
+        j.settings().save(Keys::CloseAfterJoin.key, QStringLiteral("1"));
         j.desktop.startSucceeds = false;
         j.doubleClick(1);
         QCOMPARE(j.desktop.starts.size(), 2);
@@ -205,7 +205,7 @@ private slots:
     void theExecutableIsAskedForOnce()
     {
         Joined j;
-        j.settings().save(u"Path", QString());
+        j.settings().save(Keys::Path.key, QString());
         j.desktop.fileAnswers.enqueue(QString()); // cancelled
         j.doubleClick(1);
         QVERIFY(j.desktop.starts.isEmpty());
@@ -213,7 +213,7 @@ private slots:
         QCOMPARE(j.desktop.fileRequests.last().filter, QStringLiteral("Quake 4 Executable (*)"));
         j.desktop.fileAnswers.enqueue(QStringLiteral("/games/q4/quake4"));
         j.doubleClick(1);
-        QCOMPARE(j.settings().get(u"Path"), QStringLiteral("/games/q4/quake4"));
+        QCOMPARE(j.settings().get(Keys::Path.key), QStringLiteral("/games/q4/quake4"));
         QCOMPARE(j.desktop.starts.last().workingFolder, QStringLiteral("/games/q4"));
         j.doubleClick(1);
         QCOMPARE(j.desktop.fileRequests.size(), 2);

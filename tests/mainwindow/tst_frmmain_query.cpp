@@ -58,7 +58,7 @@ struct Listed : RunningFleet, TestWindow {
     Listed(int servers, quint16 masterPort, bool refreshOnClick)
         : RunningFleet(fleetOf(servers, masterPort))
         , TestWindow(masterPort, StartPort, [refreshOnClick](SettingsStore& settings) {
-            settings.save(u"RefreshServers", QLatin1String(refreshOnClick ? "1" : "0"));
+            settings.save(Keys::RefreshServers.key, QLatin1String(refreshOnClick ? "1" : "0"));
         })
     {
         if (!queryMasters())
@@ -144,7 +144,7 @@ private slots:
         SimFleet fleet(options);
         QVERIFY(!fleet.start());
         TestWindow w(24200, StartPort);
-        w.settings().save(u"Speed", QStringLiteral("0"));
+        w.settings().save(Keys::Speed.key, QStringLiteral("0"));
         QTest::mouseClick(w.button("cmdGet"), Qt::LeftButton);
         QTRY_VERIFY_WITH_TIMEOUT(w.status().startsWith(QStringLiteral("Querying 60 Servers...")), 4000);
         QCOMPARE(w.statusColour(), QColor(255, 255, 0));
@@ -309,7 +309,7 @@ private slots:
         QCOMPARE(w.cell("lstPlayerList", other, PlayerListModel::ServerName), QStringLiteral("Renamed"));
 
         // With refreshing off a click only selects.
-        w.settings().save(u"RefreshServers", QStringLiteral("0"));
+        w.settings().save(Keys::RefreshServers.key, QStringLiteral("0"));
         QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, cell.center());
         QTest::qWait(200);
         QCOMPARE(fleet.servers().at(target).requests, requests + 1);

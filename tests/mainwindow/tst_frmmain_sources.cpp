@@ -40,7 +40,7 @@ private slots:
         QVERIFY(!alive.start());
         dead.setMasterSilent(true);
         TestWindow w(25600, StartPort,
-                     [](SettingsStore& settings) { settings.save(u"MasterServer", masters(25600, 25700)); });
+                     [](SettingsStore& settings) { settings.save(Keys::MasterServer.key, masters(25600, 25700)); });
         // Known from an earlier day: one of the dead master's servers, and
         // one the live master lists too.
         const qint64 now = QDateTime::currentSecsSinceEpoch();
@@ -96,7 +96,7 @@ private slots:
         QVERIFY(!a.start());
         QVERIFY(!b.start());
         TestWindow w(25800, StartPort + 100,
-                     [](SettingsStore& settings) { settings.save(u"MasterServer", masters(25800, 25850)); });
+                     [](SettingsStore& settings) { settings.save(Keys::MasterServer.key, masters(25800, 25850)); });
         QVERIFY(w.queryMasters(6000));
         QCOMPARE(listedRows(w), 6);
 
@@ -107,7 +107,7 @@ private slots:
         QCOMPARE(w.desktop.messages.size(), 0);
 
         // Not wanted: the documented time-out with its Retry box.
-        w.settings().save(u"QueryKnownServers", QStringLiteral("0"));
+        w.settings().save(Keys::QueryKnownServers.key, QStringLiteral("0"));
         w.desktop.messageAnswers.enqueue(QMessageBox::Cancel);
         QTest::mouseClick(w.button("cmdGet"), Qt::LeftButton);
         QTRY_COMPARE_WITH_TIMEOUT(w.desktop.messages.size(), 1, 6000);
@@ -121,8 +121,9 @@ private slots:
         SimFleet lan(fleetOf(2, LanQuery::FirstGamePort - 1));
         if (const auto error = lan.start())
             QSKIP(qPrintable(QStringLiteral("the game ports are taken here: %1").arg(*error)));
-        TestWindow w(25900, StartPort + 200,
-                     [](SettingsStore& settings) { settings.save(u"LanBroadcast", QStringLiteral("127.0.0.1")); });
+        TestWindow w(25900, StartPort + 200, [](SettingsStore& settings) {
+            settings.save(Keys::LanBroadcast.key, QStringLiteral("127.0.0.1"));
+        });
         QPushButton* lanButton = w.button("cmdLan");
         QVERIFY(lanButton->isVisible());
         QCOMPARE(lanButton->text(), QStringLiteral("Query LAN"));
@@ -142,8 +143,9 @@ private slots:
         SimFleet fleet(fleetOf(3, 26950));
         QVERIFY(!fleet.start());
         // Nothing answers on the game ports of this address.
-        TestWindow w(26950, StartPort + 250,
-                     [](SettingsStore& settings) { settings.save(u"LanBroadcast", QStringLiteral("127.0.0.9")); });
+        TestWindow w(26950, StartPort + 250, [](SettingsStore& settings) {
+            settings.save(Keys::LanBroadcast.key, QStringLiteral("127.0.0.9"));
+        });
         QVERIFY(w.queryMasters());
         QCOMPARE(listedRows(w), 3);
         QTest::mouseClick(w.button("cmdLan"), Qt::LeftButton);
@@ -160,8 +162,8 @@ private slots:
         site.set(QStringLiteral("/downloads/vantageupdate.txt"), {200, "0.0.1", "text/plain", 0});
         const auto aimed = [&site](bool wanted) {
             return [&site, wanted](SettingsStore& settings) {
-                settings.save(u"UpdateSite", site.url(QString()).toString());
-                settings.save(u"AutoUpdate", QLatin1String(wanted ? "1" : "0"));
+                settings.save(Keys::UpdateSite.key, site.url(QString()).toString());
+                settings.save(Keys::AutoUpdate.key, QLatin1String(wanted ? "1" : "0"));
             };
         };
         {

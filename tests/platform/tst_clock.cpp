@@ -1,5 +1,4 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
-#include "manualclock.h"
 #include "platform/clock.h"
 
 #include <QDateTime>
@@ -27,32 +26,6 @@ private slots:
         const qsizetype count = fired.size();
         QTest::qWait(100);
         QCOMPARE(fired.size(), count);
-    }
-
-    // The tests' clock fires every alarm due on the way, in time order, as
-    // often as a real one would, and forgets alarms that were deleted.
-    void manualTimeFiresWhatFallsDue()
-    {
-        ManualClock clock;
-        const qint64 start = clock.nowMs();
-        auto fast = clock.makeAlarm();
-        auto slow = clock.makeAlarm();
-        QStringList order;
-        connect(fast.get(), &Alarm::fired, this,
-                [&] { order.append(QStringLiteral("fast@%1").arg(clock.nowMs() - start)); });
-        connect(slow.get(), &Alarm::fired, this,
-                [&] { order.append(QStringLiteral("slow@%1").arg(clock.nowMs() - start)); });
-        fast->start(300);
-        slow->start(500);
-        clock.advance(1000);
-        QCOMPARE(order, (QStringList{"fast@300", "slow@500", "fast@600", "fast@900", "slow@1000"}));
-        QCOMPARE(clock.nowMs() - start, 1000);
-        QCOMPARE(clock.activeAlarms(), 2);
-        slow.reset();
-        fast->stop();
-        clock.advance(1000);
-        QCOMPARE(order.size(), 5);
-        QCOMPARE(clock.activeAlarms(), 0);
     }
 };
 

@@ -135,11 +135,11 @@ private slots:
 
     void opensWithTheStoredSettingsAndTheirDefaults()
     {
-        m_settings->save(u"Speed", QStringLiteral("0"));
-        m_settings->save(u"StartPort", QStringLiteral("12000"));
-        m_settings->save(u"Proxy", QStringLiteral("1"));
-        m_settings->save(u"ProxyAddress", QStringLiteral("proxy:3128"));
-        m_settings->save(u"RefreshServers", QStringLiteral("0"));
+        m_settings->save(Keys::Speed.key, QStringLiteral("0"));
+        m_settings->save(Keys::StartPort.key, QStringLiteral("12000"));
+        m_settings->save(Keys::Proxy.key, QStringLiteral("1"));
+        m_settings->save(Keys::ProxyAddress.key, QStringLiteral("proxy:3128"));
+        m_settings->save(Keys::RefreshServers.key, QStringLiteral("0"));
         open();
         QCOMPARE(find<QComboBox>("cmbLanguage")->currentIndex(), 0);
         QCOMPARE(find<QComboBox>("cmbLanguage")->itemText(2), QStringLiteral("Deustch"));
@@ -172,7 +172,7 @@ private slots:
         QCOMPARE(m_desktop->messages.size(), 1);
         QCOMPARE(m_desktop->messages.last().text,
                  QStringLiteral("You must type a port number between 1024 and 65512! (Default: 9000)"));
-        QVERIFY(!m_settings->contains(u"StartPort"));
+        QVERIFY(!m_settings->contains(Keys::StartPort.key));
 
         type("txtStartPort", QString());
         click("cmdApply");
@@ -182,16 +182,16 @@ private slots:
         type("txtStartPort", QStringLiteral("1023"));
         click("cmdOK");
         QVERIFY(!m_form->isVisible());
-        QCOMPARE(m_settings->get(u"StartPort"), QStringLiteral("1023"));
-        QCOMPARE(m_settings->get(u"Speed"), QStringLiteral("5"));
-        QCOMPARE(m_settings->get(u"AutoUpdate"), QStringLiteral("1"));
-        QCOMPARE(m_settings->get(u"Proxy"), QStringLiteral("0"));
+        QCOMPARE(m_settings->get(Keys::StartPort.key), QStringLiteral("1023"));
+        QCOMPARE(m_settings->get(Keys::Speed.key), QStringLiteral("5"));
+        QCOMPARE(m_settings->get(Keys::AutoUpdate.key), QStringLiteral("1"));
+        QCOMPARE(m_settings->get(Keys::Proxy.key), QStringLiteral("0"));
     }
 
     void defaultsDependOnTheTabAndTheAnswer()
     {
-        m_settings->save(u"RefreshServers", QStringLiteral("0"));
-        m_settings->save(u"Path", QStringLiteral("/games/quake4"));
+        m_settings->save(Keys::RefreshServers.key, QStringLiteral("0"));
+        m_settings->save(Keys::Path.key, QStringLiteral("/games/quake4"));
         open();
         choose("cmbSpeed", 2);
         type("txtStartPort", QStringLiteral("12000"));
@@ -205,7 +205,7 @@ private slots:
         QCOMPARE(find<QLineEdit>("txtStartPort")->text(), QStringLiteral("9000"));
         QCOMPARE(find<QLineEdit>("txtPath")->text(), QString());
         QVERIFY2(!find<QCheckBox>("chkRefresh")->isChecked(), "Refresh is left as it is");
-        QCOMPARE(m_settings->get(u"Path"), QStringLiteral("/games/quake4")); // nothing saved yet
+        QCOMPARE(m_settings->get(Keys::Path.key), QStringLiteral("/games/quake4")); // nothing saved yet
 
         // On the Theme tab the colours go back even on No.
         find<QTabWidget>("tabOptions")->setCurrentIndex(FrmOptions::ThemeTab);
@@ -231,7 +231,7 @@ private slots:
         click("cmdCancel");
         QVERIFY(!m_form->isVisible());
         QCOMPARE(m_language->current(), 1);
-        QVERIFY(!m_settings->contains(u"Language"));
+        QVERIFY(!m_settings->contains(Keys::Language.key));
         QCOMPARE(listBase(), m_themes->toColor(ThemeFile::WindowBackground));
         m_language->apply(0);
     }
@@ -303,7 +303,7 @@ private slots:
         choose("cmbSpeed", 1);
         click("cmdOK");
         QVERIFY(!m_form->isVisible());
-        QCOMPARE(m_settings->get(u"Speed"), QStringLiteral("1"));
+        QCOMPARE(m_settings->get(Keys::Speed.key), QStringLiteral("1"));
     }
 
     void browsePutsTheChosenExecutableInTheBox()
@@ -320,7 +320,7 @@ private slots:
         QCOMPARE(find<QLineEdit>("txtPath")->text(), QStringLiteral("/opt/quake4/quake4.x86"));
         click("cmdApply");
         QVERIFY(m_form->isVisible());
-        QCOMPARE(m_settings->get(u"Path"), QStringLiteral("/opt/quake4/quake4.x86"));
+        QCOMPARE(m_settings->get(Keys::Path.key), QStringLiteral("/opt/quake4/quake4.x86"));
     }
 
     void theServersTabEditsEverySource()
@@ -336,8 +336,8 @@ private slots:
         QCOMPARE(masters->item(1)->text(), QStringLiteral("master.quakehub.net"));
         QCOMPARE(lists->count(), 1);
         click("cmdApply");
-        QVERIFY(!m_settings->contains(u"MasterServer"));
-        QVERIFY(!m_settings->contains(u"ServerListUrls"));
+        QVERIFY(!m_settings->contains(Keys::MasterServer.key));
+        QVERIFY(!m_settings->contains(Keys::ServerListUrls.key));
 
         // Nothing chosen, nothing to edit or remove, even once the list has
         // the focus and with it a current row.
@@ -391,7 +391,7 @@ private slots:
     void theFriendsTabKeepsFriendsRefreshAndNotifications()
     {
         m_settings->set(Keys::Friends, QStringList{QStringLiteral("Bob*")});
-        m_settings->save(u"AutoRefreshMinutes", QStringLiteral("7")); // typed into the file by hand
+        m_settings->save(Keys::AutoRefreshMinutes.key, QStringLiteral("7")); // typed into the file by hand
         open();
         find<QTabWidget>("tabOptions")->setCurrentIndex(FrmOptions::FriendsTabIndex);
         auto* friends = find<QListWidget>("lstFriends");

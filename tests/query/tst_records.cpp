@@ -7,19 +7,6 @@ class TestRecords final : public QObject {
     Q_OBJECT
 
 private slots:
-    void addressTableKeepsOrderAndDuplicates()
-    {
-        AddressTable table;
-        table.add(QStringLiteral("1.2.3.4"), 28004);
-        table.add(QStringLiteral("5.6.7.8"), 28004, QStringLiteral("Fav"), QStringLiteral("one"));
-        table.add(QStringLiteral("1.2.3.4"), 28004);
-        QCOMPARE(table.count(), 3);
-        QCOMPARE(table.at(0), table.at(2));
-        QCOMPARE(table.at(1).name, QStringLiteral("Fav"));
-        table.clear();
-        QVERIFY(table.isEmpty());
-    }
-
     void lastMatchingFavouriteWins()
     {
         AddressTable table;

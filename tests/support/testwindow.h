@@ -40,10 +40,10 @@ public:
         , m_ownSettings(std::make_unique<SettingsStore>(m_dir->filePath(QStringLiteral("settings.ini"))))
         , m_settings(*m_ownSettings)
     {
-        m_settings.save(u"MasterServer", QStringLiteral("127.0.0.1:%1").arg(masterPort));
-        m_settings.save(u"StartPort", QString::number(startPort));
+        m_settings.save(Keys::MasterServer.key, QStringLiteral("127.0.0.1:%1").arg(masterPort));
+        m_settings.save(Keys::StartPort.key, QString::number(startPort));
         // Tests never fetch the public server list.
-        m_settings.save(u"ServerListUrls", QString());
+        m_settings.save(Keys::ServerListUrls.key, QString());
         if (prepare)
             prepare(m_settings);
         window = std::make_unique<FrmMain>(m_settings, desktop, language, m_dir->path());

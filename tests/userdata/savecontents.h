@@ -48,7 +48,7 @@ inline bool save(Kind kind, const QString& path, bool second)
         return Filters::writeFile(path, list);
     }
     case Kind::Settings:
-        return SettingsStore(path).save(u"PlayerNameBox", QString(rows * 20, QLatin1Char(fill)));
+        return SettingsStore(path).save(Keys::PlayerNameBox.key, QString(rows * 20, QLatin1Char(fill)));
     case Kind::Themes: {
         ThemeFile::Themes themes;
         for (int i = 0; i < rows / 10; ++i)

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
+#include "userdata/settingscodec.h"
 #include "userdata/settingskeys.h"
 #include "userdata/settingsstore.h"
 
@@ -16,6 +17,54 @@ class TestSettingsStore final : public QObject {
     QString path(const char* name) const { return m_dir.filePath(QString::fromLatin1(name)); }
 
 private slots:
+    // The names in the settings file are those every earlier version of the
+    // file used: a rename would lose the user's settings. Tests and tools
+    // name keys through Keys::, so this is the one place that spells them.
+    void keyNamesAreThoseOfTheFile()
+    {
+        const std::pair<QStringView, QStringView> keys[] = {
+            {Keys::PlayerName.key, u"PlayerName"},
+            {Keys::Password.key, u"Password"},
+            {Keys::Tab.key, u"Tab"},
+            {Keys::Maximized.key, u"Maximized"},
+            {Keys::WindowHeight.key, u"WindowHeight"},
+            {Keys::WindowWidth.key, u"WindowWidth"},
+            {Keys::SplitterPanes.key, u"rzrSPSISize"},
+            {Keys::SplitterServerList.key, u"rzrPSISize"},
+            {Keys::FindBox.key, u"FindBox"},
+            {Keys::PlayerNameBox.key, u"PlayerNameBox"},
+            {Keys::PasswordBox.key, u"PasswordBox"},
+            {Keys::Language.key, u"Language"},
+            {Keys::Speed.key, u"Speed"},
+            {Keys::StartPort.key, u"StartPort"},
+            {Keys::RefreshServers.key, u"RefreshServers"},
+            {Keys::Path.key, u"Path"},
+            {Keys::CloseAfterJoin.key, u"CloseAfterJoin"},
+            {Keys::IncludeEmpty.key, u"IncludeEmpty"},
+            {Keys::IncludeFull.key, u"IncludeFull"},
+            {Keys::IncludePassworded.key, u"IncludePassworded"},
+            {Keys::AutoUpdate.key, u"AutoUpdate"},
+            {Keys::Proxy.key, u"Proxy"},
+            {Keys::ProxyAddress.key, u"ProxyAddress"},
+            {Keys::UpdateSite.key, u"UpdateSite"},
+            {Keys::MasterServer.key, u"MasterServer"},
+            {Keys::ServerListUrls.key, u"ServerListUrls"},
+            {Keys::QueryKnownServers.key, u"QueryKnownServers"},
+            {Keys::LanBroadcast.key, u"LanBroadcast"},
+            {Keys::Friends.key, u"Friends"},
+            {Keys::AutoRefreshMinutes.key, u"AutoRefreshMinutes"},
+            {Keys::NotifyFriends.key, u"NotifyFriends"},
+            {Keys::NotifyPlayerCount.key, u"NotifyPlayerCount"},
+            {Keys::OfferSlotWait.key, u"OfferSlotWait"},
+        };
+        for (const auto& [key, name] : keys)
+            QCOMPARE(key.toString(), name.toString());
+        QCOMPARE(SettingsCodec::columnOrderKey(Keys::ServerList.columns, 3), QStringLiteral("SColumnOrder3"));
+        QCOMPARE(SettingsCodec::columnWidthKey(Keys::ServerPlayers.columns, 0), QStringLiteral("SPColumnWidth0"));
+        QCOMPARE(SettingsCodec::sortKeyKey(Keys::ServerPlayers.sort), QStringLiteral("PLSortKey"));
+        QCOMPARE(SettingsCodec::sortOrderKey(Keys::Filters.sort), QStringLiteral("FiSortOrder"));
+    }
+
     void typedReadsFollowTheirRules()
     {
         SettingsStore store(path("typed.ini"));

@@ -93,11 +93,11 @@ bool shootLanguage(SimFleet& fleet, int language, const QDir& out)
 {
     QTemporaryDir data;
     SettingsStore settings(data.filePath(QStringLiteral("settings.ini")));
-    settings.save(u"Language", QString::number(language));
-    settings.save(u"MasterServer", QStringLiteral("127.0.0.1:27990"));
-    settings.save(u"StartPort", QStringLiteral("41900"));
+    settings.save(Keys::Language.key, QString::number(language));
+    settings.save(Keys::MasterServer.key, QStringLiteral("127.0.0.1:27990"));
+    settings.save(Keys::StartPort.key, QStringLiteral("41900"));
     // The simulated fleet only: no public list fetched for a picture.
-    settings.save(u"ServerListUrls", QString());
+    settings.save(Keys::ServerListUrls.key, QString());
     // Friends among the fleet's players, and two servers played lately.
     settings.set(Keys::Friends, {QStringLiteral("Fr*"), QStringLiteral("*Iron*")});
     PlayHistory::writeFile(PlayHistory::filePath(data.path()),
