@@ -41,6 +41,21 @@ QList<QByteArrayView> dataFileLines(const QByteArray& bytes)
     return lines;
 }
 
+QList<QByteArrayView> dataFileFields(QByteArrayView line, int most)
+{
+    QList<QByteArrayView> fields;
+    qsizetype start = 0;
+    while (fields.size() < most - 1) {
+        const qsizetype tab = line.indexOf('\t', start);
+        if (tab < 0)
+            break;
+        fields.append(line.sliced(start, tab - start));
+        start = tab + 1;
+    }
+    fields.append(line.sliced(start));
+    return fields;
+}
+
 QByteArray readDataFile(const QString& path, qint64 maxBytes)
 {
     QFile file(path);

@@ -27,39 +27,20 @@ QString filePath(const QString& dataFolder)
 
 List parse(const QByteArray& bytes)
 {
-    List servers;
-    QSet<QString> seen;
-    for (const QByteArrayView line : dataFileLines(bytes)) {
-        if (servers.size() >= MaxServers)
-            break;
-        const QList<QByteArray> fields = line.toByteArray().split('\t');
-        if (fields.size() < 3)
-            continue;
-        // Only what a list would accept: a host name or IPv4 address and a port.
-        const auto endpoint = parseEndpoint(QString::fromLatin1(fields.at(0)));
-        bool seenOk = false;
-        bool missesOk = false;
-        Server server;
-        server.lastSeen = fields.at(1).toLongLong(&seenOk);
-        server.misses = fields.at(2).toInt(&missesOk);
-        if (!endpoint || !seenOk || !missesOk || server.misses < 0)
-            continue;
-        server.address = endpoint->address;
-        server.port = endpoint->port;
-        // The name is the rest of the line, tabs and all, as it will be
-        // written again.
-        qsizetype nameStart = 0;
-        for (int tab = 0; tab < 3 && nameStart >= 0; ++tab)
-            nameStart = line.indexOf('\t', nameStart) + 1;
-        if (fields.size() > 3)
-            server.name = QString::fromLatin1(dataFileField(QString::fromLatin1(line.sliced(nameStart))));
-        const QString key = endpointText(server.address, server.port);
-        if (seen.contains(key))
-            continue;
-        seen.insert(key);
-        servers.append(server);
-    }
-    return servers;
+    // address:port, last seen, misses and the name, which keeps its tabs as
+    // it will be written again.
+    return parseServerLines<Server>(
+        bytes, MaxServers, 3, 4, [](const AddressEntry& server, const QList<QByteArrayView>& fields) {
+            bool seenOk = false;
+            bool missesOk = false;
+            const qint64 lastSeen = fields.at(1).toLongLong(&seenOk);
+            const int misses = fields.at(2).toInt(&missesOk);
+            if (!seenOk || !missesOk || misses < 0)
+                return std::optional<Server>();
+            const QString name =
+                fields.size() > 3 ? QString::fromLatin1(dataFileField(QString::fromLatin1(fields.at(3)))) : QString();
+            return std::optional<Server>(Server{server.address, server.port, name, lastSeen, misses});
+        });
 }
 
 QByteArray toBytes(const List& servers)

@@ -22,28 +22,17 @@ QString filePath(const QString& dataFolder)
 
 List parse(const QByteArray& bytes)
 {
-    List entries;
-    QSet<QString> seen;
-    for (const QByteArrayView line : dataFileLines(bytes)) {
-        if (entries.size() >= MaxEntries)
-            break;
-        const qsizetype firstTab = line.indexOf('\t');
-        const qsizetype secondTab = firstTab < 0 ? -1 : line.indexOf('\t', firstTab + 1);
-        if (secondTab < 0)
-            continue;
-        const auto endpoint = parseEndpoint(QString::fromLatin1(line.first(firstTab)));
-        bool timeOk = false;
-        const qint64 joinedAt = line.sliced(firstTab + 1, secondTab - firstTab - 1).toByteArray().toLongLong(&timeOk);
-        if (!endpoint || !timeOk || joinedAt < 0)
-            continue;
-        Entry entry{endpoint->address, endpoint->port,
-                    QString::fromLatin1(dataFileField(QString::fromLatin1(line.sliced(secondTab + 1)))), joinedAt};
-        if (seen.contains(entry.endpointText()))
-            continue;
-        seen.insert(entry.endpointText());
-        entries.append(entry);
-    }
-    return entries;
+    // address:port, the time of the join and the name.
+    return parseServerLines<Entry>(
+        bytes, MaxEntries, 3, 3, [](const AddressEntry& server, const QList<QByteArrayView>& fields) {
+            bool timeOk = false;
+            const qint64 joinedAt = fields.at(1).toLongLong(&timeOk);
+            if (!timeOk || joinedAt < 0)
+                return std::optional<Entry>();
+            return std::optional<Entry>(Entry{server.address, server.port,
+                                              QString::fromLatin1(dataFileField(QString::fromLatin1(fields.at(2)))),
+                                              joinedAt});
+        });
 }
 
 QByteArray toBytes(const List& entries)

@@ -7,6 +7,7 @@
 #include "mainwindow/serverlistmodel.h"
 #include "mainwindow/serverlists.h"
 #include "mainwindow/slotwaiter.h"
+#include "testports.h"
 #include "testwindow.h"
 #include "userdata/favourites.h"
 #include "userdata/playhistory.h"
@@ -20,8 +21,8 @@
 
 namespace {
 
-constexpr quint16 StartPort = 44200;
-constexpr quint16 MasterPort = 29100;
+const quint16 StartPort = TestPorts::at(2000);
+const quint16 MasterPort = TestPorts::at(1);
 constexpr qint64 Minute = 60 * 1000;
 
 SimReplies::Rules rules(const QByteArray& name, int maxPlayers)

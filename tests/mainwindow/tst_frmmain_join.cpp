@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "fleet.h"
 #include "mainwindow/serverlistmodel.h"
+#include "testports.h"
 #include "testwindow.h"
 
 #include <QAction>
@@ -22,8 +23,8 @@
 
 namespace {
 
-constexpr quint16 StartPort = 41700;
-constexpr quint16 MasterPort = 25400;
+const quint16 StartPort = TestPorts::at(2000);
+const quint16 MasterPort = TestPorts::at(1);
 
 // A window that has queried a small fleet; server 0 needs a password.
 struct Joined : RunningFleet, TestWindow {

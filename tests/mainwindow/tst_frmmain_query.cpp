@@ -9,6 +9,7 @@
 #include "presentation/colourcodes.h"
 #include "presentation/multicolorlabel.h"
 #include "query/infoprotocol.h"
+#include "testports.h"
 #include "testwindow.h"
 #include "userdata/favourites.h"
 #include "userdata/knownservers.h"
@@ -36,7 +37,7 @@
 
 namespace {
 
-constexpr quint16 StartPort = 41300;
+const quint16 StartPort = TestPorts::at(2000);
 
 // Types a new variable filter into the filters editor, as a user would.
 void addFilter(const TestWindow& w, const QString& variable, const QString& value)
@@ -74,11 +75,11 @@ class TestFrmMainQuery final : public QObject {
 private slots:
     void queryMastersListsWhatTheServersSent()
     {
-        FleetOptions options = fleetOf(120, 24000);
+        FleetOptions options = fleetOf(120, TestPorts::at(1));
         options.silentFraction = 0.1;
         SimFleet fleet(options);
         QVERIFY(!fleet.start());
-        TestWindow w(24000, StartPort);
+        TestWindow w(TestPorts::at(1), StartPort);
         QTest::mouseClick(w.button("cmdGet"), Qt::LeftButton);
         QVERIFY(w.status().startsWith(QStringLiteral("Requesting Server List from\n127.0.0.1")));
         QCOMPARE(w.statusColour(), QColor(255, 128, 0));
@@ -139,11 +140,11 @@ private slots:
 
     void cancelStopsTheQuery()
     {
-        FleetOptions options = fleetOf(60, 24200);
+        FleetOptions options = fleetOf(60, TestPorts::at(201));
         options.delayMs = 80;
         SimFleet fleet(options);
         QVERIFY(!fleet.start());
-        TestWindow w(24200, StartPort);
+        TestWindow w(TestPorts::at(201), StartPort);
         w.settings().save(Keys::Speed.key, QStringLiteral("0"));
         QTest::mouseClick(w.button("cmdGet"), Qt::LeftButton);
         QTRY_VERIFY_WITH_TIMEOUT(w.status().startsWith(QStringLiteral("Querying 60 Servers...")), 4000);
@@ -178,10 +179,10 @@ private slots:
 
     void masterTimeOutOffersRetry()
     {
-        SimFleet fleet(fleetOf(3, 24300));
+        SimFleet fleet(fleetOf(3, TestPorts::at(301)));
         QVERIFY(!fleet.start());
         fleet.setMasterSilent(true);
-        TestWindow w(24300, StartPort);
+        TestWindow w(TestPorts::at(301), StartPort);
         w.desktop.messageAnswers.enqueue(QMessageBox::Retry);
         w.desktop.messageAnswers.enqueue(QMessageBox::Cancel);
         QTest::mouseClick(w.button("cmdGet"), Qt::LeftButton);
@@ -189,9 +190,10 @@ private slots:
         const auto& box = w.desktop.messages.first();
         QCOMPARE(box.icon, Desktop::Icon::Critical);
         QCOMPARE(box.buttons, QMessageBox::Retry | QMessageBox::Cancel);
-        QCOMPARE(box.text, QStringLiteral("Master Servers Timed Out\n\n127.0.0.1:24300: did not answer\n\nCheck the "
+        QCOMPARE(box.text, QStringLiteral("Master Servers Timed Out\n\n%1: did not answer\n\nCheck the "
                                           "network connection, or add a master server or a server list that works in "
-                                          "Options, on the \"Servers\" tab."));
+                                          "Options, on the \"Servers\" tab.")
+                               .arg(TestPorts::local(301)));
         QCOMPARE(fleet.masterRequests(), 2);
         QCOMPARE(w.status(), QStringLiteral("Master Servers Timed Out"));
         QCOMPARE(w.statusColour(), QColor(255, 0, 0));
@@ -204,7 +206,7 @@ private slots:
     {
         QUdpSocket squatter;
         QVERIFY(squatter.bind(QHostAddress::AnyIPv4, StartPort + 2));
-        TestWindow w(24400, StartPort);
+        TestWindow w(TestPorts::at(401), StartPort);
         QVERIFY(w.show());
         auto* line = w.find<QLabel>("lblStatus");
         const QRect lineBefore = line->geometry();
@@ -224,7 +226,7 @@ private slots:
 
     void aStartPortWithoutRoomForThePoolIsRefused()
     {
-        TestWindow w(24450, 65530);
+        TestWindow w(TestPorts::at(451), 65530);
         QTest::mouseClick(w.button("cmdGet"), Qt::LeftButton);
         QCOMPARE(w.status(), QStringLiteral("The start port 65530 is not valid. Choose another in the options."));
         QCOMPARE(w.statusColour(), QColor(255, 0, 0));
@@ -234,9 +236,9 @@ private slots:
 
     void favouritesAreQueriedFromTheDataFolder()
     {
-        SimFleet fleet(fleetOf(4, 24500));
+        SimFleet fleet(fleetOf(4, TestPorts::at(501)));
         QVERIFY(!fleet.start());
-        TestWindow w(24500, StartPort);
+        TestWindow w(TestPorts::at(501), StartPort);
         QTest::mouseClick(w.button("cmdFav"), Qt::LeftButton);
         QVERIFY2(!w.window->queries().isRunning(), "no favourites file: no query");
         QVERIFY(w.status().startsWith(QStringLiteral("No favourites yet")));
@@ -244,7 +246,9 @@ private slots:
 
         QFile file(w.dataFile(QStringLiteral("favourites.dat")));
         QVERIFY(file.open(QIODevice::WriteOnly));
-        file.write("127.0.0.1:24502\x01\x01One\r\n127.0.0.1:24504\x01pw\x01Two\r\n");
+        file.write(QStringLiteral("%1\x01\x01One\r\n%2\x01pw\x01Two\r\n")
+                       .arg(TestPorts::local(503), TestPorts::local(505))
+                       .toLatin1());
         file.close();
         QTest::mouseClick(w.button("cmdFav"), Qt::LeftButton);
         QTRY_COMPARE_WITH_TIMEOUT(w.status(), QStringLiteral("Done"), 4000);
@@ -256,7 +260,7 @@ private slots:
     {
         // 50 MB of favourites: the window reads what it takes at most and
         // is back at once; the servers are loopback ports nobody uses.
-        TestWindow w(24550, StartPort);
+        TestWindow w(TestPorts::at(551), StartPort);
         QFile file(w.dataFile(QStringLiteral("favourites.dat")));
         QVERIFY(file.open(QIODevice::WriteOnly));
         QByteArray block;
@@ -277,12 +281,12 @@ private slots:
 
     void clickingAServerRefreshesItsRowsInPlace()
     {
-        Listed w(5, 24600, true);
+        Listed w(5, TestPorts::at(601), true);
         SimFleet& fleet = w.fleet;
         const int playersBefore = w.visible("lstPlayerList")->rowCount();
 
         int row = 0;
-        while (w.cell("lstServerList", row, ServerListModel::Address) != QStringLiteral("127.0.0.1:24603"))
+        while (w.cell("lstServerList", row, ServerListModel::Address) != TestPorts::local(604))
             ++row;
         const int target = 2;
         const int oldPlayers = int(fleet.servers().at(target).players.size());
@@ -316,7 +320,7 @@ private slots:
     }
     void filtersRebuildTheVisibleLists()
     {
-        Listed w(40, 24700, true);
+        Listed w(40, TestPorts::at(701), true);
         SimFleet& fleet = w.fleet;
         QCOMPARE(w.visible("lstServerList")->rowCount(), 40);
 
@@ -361,19 +365,20 @@ private slots:
 
     void theProtocolVersionIsARuleToShowAndFilter()
     {
-        FleetOptions options = fleetOf(6, 24800);
+        FleetOptions options = fleetOf(6, TestPorts::at(801));
         SimFleet retail(options);
         QVERIFY(!retail.start());
         // Two servers of the first release beside them, known from before.
-        FleetOptions first = fleetOf(2, 24850);
+        FleetOptions first = fleetOf(2, TestPorts::at(851));
         first.reply.protocol = SimReplies::Protocol1_0;
         first.reply.documentedTrailer = true;
         SimFleet old(first);
         QVERIFY(!old.start());
-        TestWindow w(24800, StartPort);
-        QVERIFY(KnownServers::writeFile(w.dataFile(QStringLiteral("servers.dat")),
-                                        {KnownServers::Server{QStringLiteral("127.0.0.1"), 24851, {}, 1, 0},
-                                         KnownServers::Server{QStringLiteral("127.0.0.1"), 24852, {}, 1, 0}}));
+        TestWindow w(TestPorts::at(801), StartPort);
+        QVERIFY(
+            KnownServers::writeFile(w.dataFile(QStringLiteral("servers.dat")),
+                                    {KnownServers::Server{QStringLiteral("127.0.0.1"), TestPorts::at(852), {}, 1, 0},
+                                     KnownServers::Server{QStringLiteral("127.0.0.1"), TestPorts::at(853), {}, 1, 0}}));
         QVERIFY(w.queryMasters());
         QCOMPARE(w.visible("lstServerList")->rowCount(), 8);
 
@@ -388,14 +393,14 @@ private slots:
         addFilter(w, QStringLiteral("protocol"), QStringLiteral("2.85"));
         QCOMPARE(w.visible("lstServerList")->rowCount(), 6);
         for (int row = 0; row < 6; ++row)
-            QVERIFY(w.cell("lstServerList", row, ServerListModel::Address) != QLatin1String("127.0.0.1:24851"));
+            QVERIFY(w.cell("lstServerList", row, ServerListModel::Address) != TestPorts::local(852));
     }
 
     void columnClicksFlipSortAndPersist()
     {
-        SimFleet fleet(fleetOf(30, 24900));
+        SimFleet fleet(fleetOf(30, TestPorts::at(901)));
         QVERIFY(!fleet.start());
-        TestWindow w(24900, StartPort);
+        TestWindow w(TestPorts::at(901), StartPort);
         QHeaderView* header = w.find<ReportView>("lstServerList")->header();
         emit header->sectionClicked(ServerListModel::Ping);
         QVERIFY2(!w.settings().contains(u"SSortOrder"), "an empty list ignores the click");
@@ -433,7 +438,7 @@ private slots:
 
     void findSelectsAndMarksMisses()
     {
-        Listed w(20, 25100, false);
+        Listed w(20, TestPorts::at(1101), false);
         auto* find = w.find<HistoryComboBox>("cmbFind");
         auto* list = w.find<ReportView>("lstServerList");
         const QColor normal = find->palette().color(QPalette::Base);
@@ -490,7 +495,7 @@ private slots:
 
     void playerViewCopiesAndSelectsTheServer()
     {
-        Listed w(12, 25200, false);
+        Listed w(12, TestPorts::at(1201), false);
         w.find<QTabBar>("tabSelect")->setCurrentIndex(FrmMain::PlayersTab);
         auto* players = w.find<ReportView>("lstPlayerList");
         QVERIFY(players->isVisible());
@@ -519,7 +524,7 @@ private slots:
 
     void rightClickOpensTheMenuWithoutRefreshing()
     {
-        Listed w(3, 25300, true);
+        Listed w(3, TestPorts::at(1301), true);
         SimFleet& fleet = w.fleet;
         const int requests = fleet.infoRequests();
         auto* list = w.find<ReportView>("lstServerList");
@@ -552,7 +557,7 @@ private slots:
 
     void clickedNamesAreDrawnInColour()
     {
-        Listed w(3, 24800, false);
+        Listed w(3, TestPorts::at(801), false);
         auto* list = w.find<ReportView>("lstServerList");
         QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, list->visualRect(list->model()->index(0, 0)).center());
         const ServerRecord& server = w.window->lists().servers().record(w.window->lists().servers().store().indexOf(

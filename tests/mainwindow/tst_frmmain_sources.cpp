@@ -3,6 +3,7 @@
 #include "httpresponder.h"
 #include "mainwindow/querycontroller.h"
 #include "query/lanquery.h"
+#include "testports.h"
 #include "testwindow.h"
 #include "update/updateflow.h"
 #include "userdata/knownservers.h"
@@ -14,7 +15,7 @@
 
 namespace {
 
-constexpr quint16 StartPort = 43800;
+const quint16 StartPort = TestPorts::at(2000);
 
 QString masters(quint16 first, quint16 second)
 {
@@ -34,13 +35,14 @@ class TestFrmMainSources final : public QObject {
 private slots:
     void aDeadMasterASecondOneAndKnownServersMakeOneList()
     {
-        SimFleet dead(fleetOf(4, 25600));
-        SimFleet alive(fleetOf(6, 25700));
+        SimFleet dead(fleetOf(4, TestPorts::at(1)));
+        SimFleet alive(fleetOf(6, TestPorts::at(101)));
         QVERIFY(!dead.start());
         QVERIFY(!alive.start());
         dead.setMasterSilent(true);
-        TestWindow w(25600, StartPort,
-                     [](SettingsStore& settings) { settings.save(Keys::MasterServer.key, masters(25600, 25700)); });
+        TestWindow w(TestPorts::at(1), StartPort, [](SettingsStore& settings) {
+            settings.save(Keys::MasterServer.key, masters(TestPorts::at(1), TestPorts::at(101)));
+        });
         // Known from an earlier day: one of the dead master's servers, and
         // one the live master lists too.
         const qint64 now = QDateTime::currentSecsSinceEpoch();
@@ -52,19 +54,20 @@ private slots:
         QSignalSpy statuses(&w.window->queries(), &QueryController::status);
         QTest::mouseClick(w.button("cmdGet"), Qt::LeftButton);
         // The known servers need no source: they are asked at once.
-        QCOMPARE(w.status(), QStringLiteral("Querying 2 Servers...\nWaiting for 127.0.0.1:25600, 127.0.0.1:25700"));
+        QCOMPARE(w.status(), QStringLiteral("Querying 2 Servers...\nWaiting for %1, %2")
+                                 .arg(TestPorts::local(1), TestPorts::local(101)));
         QTRY_COMPARE_WITH_TIMEOUT(w.status(), QStringLiteral("Done"), 5000);
         QStringList shown;
         for (const auto& arguments : statuses)
             shown.append(arguments.at(0).toString());
-        QVERIFY(shown.contains(QStringLiteral("Querying 7 Servers...\nWaiting for 127.0.0.1:25600")));
-        QVERIFY(shown.contains(QStringLiteral("Querying 7 Servers...\nNo list from 127.0.0.1:25600")));
+        QVERIFY(shown.contains(QStringLiteral("Querying 7 Servers...\nWaiting for %1").arg(TestPorts::local(1))));
+        QVERIFY(shown.contains(QStringLiteral("Querying 7 Servers...\nNo list from %1").arg(TestPorts::local(1))));
         QCOMPARE(listedRows(w), 7);
         QCOMPARE(alive.infoRequests(), 6);
         QCOMPARE(w.desktop.messages.size(), 0);
         const QString summary = w.find<QLabel>("lblStatus")->toolTip();
-        QCOMPARE(summary, QStringLiteral("127.0.0.1:25600: did not answer\n127.0.0.1:25700: 6 servers\n"
-                                         "known servers: 2 servers"));
+        QCOMPARE(summary, QStringLiteral("%1: did not answer\n%2: 6 servers\nknown servers: 2 servers")
+                              .arg(TestPorts::local(1), TestPorts::local(101)));
 
         // Every server that answered is known now, seen just now.
         const KnownServers::List remembered = KnownServers::readFile(known);
@@ -78,9 +81,9 @@ private slots:
 
     void serversThatCannotBeRememberedAreSaid()
     {
-        SimFleet fleet(fleetOf(2, 26900));
+        SimFleet fleet(fleetOf(2, TestPorts::at(1301)));
         QVERIFY(!fleet.start());
-        TestWindow w(26900, StartPort + 350);
+        TestWindow w(TestPorts::at(1301), StartPort + 350);
         // A folder where the file should be: no write can replace it.
         QVERIFY(QDir().mkpath(w.dataFile(QStringLiteral("servers.dat"))));
         QTest::mouseClick(w.button("cmdGet"), Qt::LeftButton);
@@ -91,12 +94,13 @@ private slots:
 
     void withEveryMasterDownTheKnownServersAreStillListed()
     {
-        SimFleet a(fleetOf(3, 25800));
-        SimFleet b(fleetOf(3, 25850));
+        SimFleet a(fleetOf(3, TestPorts::at(201)));
+        SimFleet b(fleetOf(3, TestPorts::at(251)));
         QVERIFY(!a.start());
         QVERIFY(!b.start());
-        TestWindow w(25800, StartPort + 100,
-                     [](SettingsStore& settings) { settings.save(Keys::MasterServer.key, masters(25800, 25850)); });
+        TestWindow w(TestPorts::at(201), StartPort + 100, [](SettingsStore& settings) {
+            settings.save(Keys::MasterServer.key, masters(TestPorts::at(201), TestPorts::at(251)));
+        });
         QVERIFY(w.queryMasters(6000));
         QCOMPARE(listedRows(w), 6);
 
@@ -121,7 +125,7 @@ private slots:
         SimFleet lan(fleetOf(2, LanQuery::FirstGamePort - 1));
         if (const auto error = lan.start())
             QSKIP(qPrintable(QStringLiteral("the game ports are taken here: %1").arg(*error)));
-        TestWindow w(25900, StartPort + 200, [](SettingsStore& settings) {
+        TestWindow w(TestPorts::at(301), StartPort + 200, [](SettingsStore& settings) {
             settings.save(Keys::LanBroadcast.key, QStringLiteral("127.0.0.1"));
         });
         QPushButton* lanButton = w.button("cmdLan");
@@ -140,10 +144,10 @@ private slots:
 
     void aLanSearchThatFindsNothingKeepsTheList()
     {
-        SimFleet fleet(fleetOf(3, 26950));
+        SimFleet fleet(fleetOf(3, TestPorts::at(1351)));
         QVERIFY(!fleet.start());
         // Nothing answers on the game ports of this address.
-        TestWindow w(26950, StartPort + 250, [](SettingsStore& settings) {
+        TestWindow w(TestPorts::at(1351), StartPort + 250, [](SettingsStore& settings) {
             settings.save(Keys::LanBroadcast.key, QStringLiteral("127.0.0.9"));
         });
         QVERIFY(w.queryMasters());
@@ -167,12 +171,12 @@ private slots:
             };
         };
         {
-            TestWindow w(25950, StartPort + 300, aimed(true));
+            TestWindow w(TestPorts::at(351), StartPort + 300, aimed(true));
             QTRY_COMPARE_WITH_TIMEOUT(site.requests(), 1, 5000);
             QTRY_VERIFY(!w.window->updates().isChecking());
             QVERIFY(w.window->isVisible()); // an older version changes nothing
         }
-        TestWindow w(25950, StartPort + 300, aimed(false));
+        TestWindow w(TestPorts::at(351), StartPort + 300, aimed(false));
         QTest::qWait(200);
         QCOMPARE(site.requests(), 1);
     }

@@ -2,6 +2,7 @@
 #include "fleet.h"
 #include "query/infoprotocol.h"
 #include "query/queryscheduler.h"
+#include "testports.h"
 
 #include <QElapsedTimer>
 #include <QSignalSpy>
@@ -11,7 +12,7 @@
 
 namespace {
 
-constexpr quint16 PoolPort = 41100;
+const quint16 PoolPort = TestPorts::at(1);
 
 AddressTable tableOf(const SimFleet& fleet)
 {
@@ -63,7 +64,7 @@ private slots:
 
     void everyServerAnswersOnceWithItsData()
     {
-        SimFleet fleet(fleetOf(60, 41999));
+        SimFleet fleet(fleetOf(60, TestPorts::at(900)));
         QVERIFY(!fleet.start());
         Pool pool(5);
         QueryScheduler& scheduler = pool.scheduler;
@@ -79,7 +80,7 @@ private slots:
         QVERIFY(!scheduler.isRunning());
         QCOMPARE(scheduler.busySockets(), 0);
         for (const ServerRecord& record : answers(answered)) {
-            const auto& server = fleet.servers().at(record.port - 42000);
+            const auto& server = fleet.servers().at(record.port - TestPorts::at(901));
             const ServerRecord expected = InfoProtocol::parseReply(server.reply).value();
             QCOMPARE(record.address, QStringLiteral("127.0.0.1"));
             QCOMPARE(record.name, expected.name);
@@ -94,7 +95,7 @@ private slots:
 
     void slowestSpeedKeepsTwoRequestsInFlight()
     {
-        SimFleet fleet(fleetOf(3, 42099, 300));
+        SimFleet fleet(fleetOf(3, TestPorts::at(1000), 300));
         QVERIFY(!fleet.start());
         Pool pool(QuerySpeed::lastSocketIndex(0, 19));
         QueryScheduler& scheduler = pool.scheduler;
@@ -113,7 +114,7 @@ private slots:
 
     void silentServersTimeOutAndAreNotRetried()
     {
-        FleetOptions options = fleetOf(4, 42199);
+        FleetOptions options = fleetOf(4, TestPorts::at(1100));
         options.silentFraction = 1.0;
         SimFleet fleet(options);
         QVERIFY(!fleet.start());
@@ -134,10 +135,10 @@ private slots:
 
     void duplicatesAreQueriedTwice()
     {
-        SimFleet fleet(fleetOf(2, 42299));
+        SimFleet fleet(fleetOf(2, TestPorts::at(1200)));
         QVERIFY(!fleet.start());
         AddressTable table = tableOf(fleet);
-        table.add(QStringLiteral("127.0.0.1"), 42300);
+        table.add(QStringLiteral("127.0.0.1"), TestPorts::at(1201));
         Pool pool(0);
         QueryScheduler& scheduler = pool.scheduler;
         QSignalSpy& answered = pool.answered;
@@ -162,7 +163,7 @@ private slots:
 
     void cancelStopsSendingAndFreesThePorts()
     {
-        SimFleet fleet(fleetOf(40, 42399, 60));
+        SimFleet fleet(fleetOf(40, TestPorts::at(1300), 60));
         QVERIFY(!fleet.start());
         Pool pool(1);
         QueryScheduler& scheduler = pool.scheduler;
@@ -184,7 +185,7 @@ private slots:
 
     void onlyTheAskedServerIsHeard()
     {
-        FleetOptions options = fleetOf(1, 42499);
+        FleetOptions options = fleetOf(1, TestPorts::at(1400));
         options.silentFraction = 1.0;
         SimFleet fleet(options);
         QVERIFY(!fleet.start());
@@ -196,7 +197,7 @@ private slots:
 
         // A valid reply, but from a port the request did not go to.
         QUdpSocket rogue;
-        QVERIFY(rogue.bind(QHostAddress::LocalHost, 42501));
+        QVERIFY(rogue.bind(QHostAddress::LocalHost, TestPorts::at(1402)));
         rogue.writeDatagram(SimReplies::infoResponse({{"si_name", "impostor"}}, {}), QHostAddress::LocalHost, PoolPort);
         QTRY_COMPARE(scheduler.droppedDatagrams(), 1);
         QCOMPARE(answered.count(), 0);
@@ -207,7 +208,7 @@ private slots:
     {
         // Server 0 answers after its time-out; by then socket 0 waits for
         // server 1, which is silent. The late reply must be dropped.
-        FleetOptions options = fleetOf(2, 42599, QueryScheduler::TimeoutMs + 300);
+        FleetOptions options = fleetOf(2, TestPorts::at(1500), QueryScheduler::TimeoutMs + 300);
         SimFleet fleet(options);
         QVERIFY(!fleet.start());
         Pool pool(0);
@@ -215,8 +216,8 @@ private slots:
         QSignalSpy& answered = pool.answered;
         QSignalSpy& finished = pool.finished;
         AddressTable table;
-        table.add(QStringLiteral("127.0.0.1"), 42600);
-        table.add(QStringLiteral("127.0.0.1"), 42699); // nobody there
+        table.add(QStringLiteral("127.0.0.1"), TestPorts::at(1501));
+        table.add(QStringLiteral("127.0.0.1"), TestPorts::at(1600)); // nobody there
         scheduler.run(table);
         QTRY_COMPARE_WITH_TIMEOUT(finished.count(), 1, 5000);
         QTRY_COMPARE_WITH_TIMEOUT(scheduler.droppedDatagrams(), 1, 2000);
@@ -225,14 +226,14 @@ private slots:
 
     void refreshQueriesOneServerOutsideAQuery()
     {
-        SimFleet fleet(fleetOf(3, 42699));
+        SimFleet fleet(fleetOf(3, TestPorts::at(1600)));
         QVERIFY(!fleet.start());
         QueryScheduler scheduler; // no open pool: a refresh binds what it needs
         scheduler.setPool(19, PoolPort);
         QSignalSpy answered(&scheduler, &QueryScheduler::serverAnswered);
-        QVERIFY(!scheduler.refresh(QStringLiteral("127.0.0.1"), 42701));
+        QVERIFY(!scheduler.refresh(QStringLiteral("127.0.0.1"), TestPorts::at(1602)));
         QTRY_COMPARE(answered.count(), 1);
-        QCOMPARE(answered.first().at(0).value<ServerRecord>().port, 42701);
+        QCOMPARE(answered.first().at(0).value<ServerRecord>().port, TestPorts::at(1602));
         QCOMPARE(answered.first().at(1).toBool(), true);
         QCOMPARE(fleet.infoRequests(), 1);
         QTRY_COMPARE(scheduler.busySockets(), 0);
@@ -259,10 +260,10 @@ private slots:
     {
         // 40 servers, and 10 ports where nothing listens (the system
         // answers those with "port unreachable").
-        SimFleet fleet(fleetOf(40, 42600));
+        SimFleet fleet(fleetOf(40, TestPorts::at(1501)));
         QVERIFY(!fleet.start());
         AddressTable table = tableOf(fleet);
-        for (quint16 port = 42700; port < 42710; ++port)
+        for (quint16 port = TestPorts::at(1601); port < TestPorts::at(1611); ++port)
             table.add(QStringLiteral("127.0.0.1"), port);
         const auto endpoints = [](const QList<ServerRecord>& records) {
             QStringList list;
@@ -287,7 +288,7 @@ private slots:
         // datagrams to every socket of the pool.
         Pool pool(19);
         QUdpSocket flooder;
-        QVERIFY(flooder.bind(QHostAddress::LocalHost, 42799));
+        QVERIFY(flooder.bind(QHostAddress::LocalHost, TestPorts::at(1700)));
         const QByteArray forged = SimReplies::infoResponse({{"si_name", "impostor"}}, {});
         const QByteArray huge(65507, 'x');
         int round = 0;

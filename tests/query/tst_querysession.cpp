@@ -4,6 +4,8 @@
 #include "query/masterprotocol.h"
 #include "query/masterquery.h"
 #include "query/querysession.h"
+#include "simreplies.h"
+#include "testports.h"
 
 #include <QElapsedTimer>
 #include <QNetworkDatagram>
@@ -16,7 +18,7 @@
 
 namespace {
 
-constexpr quint16 PoolPort = 41200;
+const quint16 PoolPort = TestPorts::at(2000);
 
 MasterAddress masterAt(quint16 port)
 {
@@ -34,19 +36,19 @@ private slots:
 
     void masterListIsQueriedThroughThePhases()
     {
-        SimFleet fleet(fleetOf(300, 23000)); // two master datagrams
+        SimFleet fleet(fleetOf(300, TestPorts::at(1))); // two master datagrams
         QVERIFY(!fleet.start());
         QuerySession session;
         session.setPool({19, PoolPort});
         QSignalSpy phases(&session, &QuerySession::phaseChanged);
         QSignalSpy answered(&session, &QuerySession::serverAnswered);
         QSignalSpy finished(&session, &QuerySession::finished);
-        QVERIFY(!session.startMaster(masterAt(23000)));
+        QVERIFY(!session.startMaster(masterAt(TestPorts::at(1))));
         QCOMPARE(session.phase(), QuerySession::Phase::Requesting);
         QTRY_COMPARE_WITH_TIMEOUT(finished.count(), 1, 10000);
         QCOMPARE(answered.count(), 300);
         QCOMPARE(session.addresses().count(), 300);
-        QCOMPARE(session.addresses().at(299).port, 23300);
+        QCOMPARE(session.addresses().at(299).port, TestPorts::at(301));
         QList<QuerySession::Phase> seen;
         for (const auto& arguments : phases)
             seen.append(arguments.at(0).value<QuerySession::Phase>());
@@ -61,7 +63,7 @@ private slots:
 
     void silentMasterTimesOutAndARetryWorks()
     {
-        SimFleet fleet(fleetOf(5, 23400));
+        SimFleet fleet(fleetOf(5, TestPorts::at(401)));
         QVERIFY(!fleet.start());
         fleet.setMasterSilent(true);
         QuerySession session;
@@ -70,14 +72,14 @@ private slots:
         QSignalSpy finished(&session, &QuerySession::finished);
         QElapsedTimer clock;
         clock.start();
-        QVERIFY(!session.startMaster(masterAt(23400)));
+        QVERIFY(!session.startMaster(masterAt(TestPorts::at(401))));
         QTRY_COMPARE_WITH_TIMEOUT(timedOut.count(), 1, 4000);
         QVERIFY(clock.elapsed() >= MasterQuery::TimeoutMs - 50);
         QVERIFY(!session.isRunning());
         QCOMPARE(finished.count(), 0);
 
         fleet.setMasterSilent(false);
-        QVERIFY(!session.startMaster(masterAt(23400)));
+        QVERIFY(!session.startMaster(masterAt(TestPorts::at(401))));
         QTRY_COMPARE_WITH_TIMEOUT(finished.count(), 1, 4000);
         QCOMPARE(session.addresses().count(), 5);
         QCOMPARE(fleet.masterRequests(), 2);
@@ -85,7 +87,7 @@ private slots:
 
     void fullLastDatagramWaitsForTheTimeOut()
     {
-        SimFleet fleet(fleetOf(1, 23500));
+        SimFleet fleet(fleetOf(1, TestPorts::at(501)));
         QVERIFY(!fleet.start());
         QByteArray full = MasterProtocol::replyHeader();
         full.append(231 * 6, '\x01');
@@ -94,7 +96,7 @@ private slots:
         session.setPool({1, PoolPort});
         QSignalSpy timedOut(&session, &QuerySession::masterTimedOut);
         QSignalSpy phases(&session, &QuerySession::phaseChanged);
-        QVERIFY(!session.startMaster(masterAt(23500)));
+        QVERIFY(!session.startMaster(masterAt(TestPorts::at(501))));
         QTRY_COMPARE_WITH_TIMEOUT(timedOut.count(), 1, 4000);
         QCOMPARE(session.addresses().count(), 0);
         QVERIFY(phases.count() >= 2); // requesting, receiving, then idle
@@ -102,7 +104,7 @@ private slots:
 
     void tooLongAListEndsWithAClearError()
     {
-        SimFleet fleet(fleetOf(1, 23600));
+        SimFleet fleet(fleetOf(1, TestPorts::at(601)));
         QVERIFY(!fleet.start());
         QList<QPair<quint32, quint16>> listed;
         for (int i = 0; i < MasterProtocol::MaxRecords + 1; ++i)
@@ -111,7 +113,7 @@ private slots:
         QuerySession session;
         session.setPool({1, PoolPort});
         QSignalSpy failed(&session, &QuerySession::failed);
-        QVERIFY(!session.startMaster(masterAt(23600)));
+        QVERIFY(!session.startMaster(masterAt(TestPorts::at(601))));
         QTRY_COMPARE_WITH_TIMEOUT(failed.count(), 1, 4000);
         QCOMPARE(failed.first().at(0).value<QueryError>().kind, QueryError::Kind::TooManyServers);
         QVERIFY(!session.isRunning());
@@ -120,7 +122,7 @@ private slots:
     // A master that streams full datagrams and never ends its list.
     void endlessListIsRefusedBeforeTheTimeOut()
     {
-        SimFleet fleet(fleetOf(1, 23650));
+        SimFleet fleet(fleetOf(1, TestPorts::at(651)));
         QVERIFY(!fleet.start());
         QList<QPair<quint32, quint16>> listed;
         for (int i = 0; i < 231 * 40; ++i)
@@ -134,7 +136,7 @@ private slots:
         QSignalSpy timedOut(&session, &QuerySession::masterTimedOut);
         QElapsedTimer clock;
         clock.start();
-        QVERIFY(!session.startMaster(masterAt(23650)));
+        QVERIFY(!session.startMaster(masterAt(TestPorts::at(651))));
         QTRY_COMPARE_WITH_TIMEOUT(failed.count() + timedOut.count(), 1, 4000);
         QCOMPARE(failed.count(), 1);
         QCOMPARE(failed.first().at(0).value<QueryError>().kind, QueryError::Kind::TooManyServers);
@@ -147,7 +149,7 @@ private slots:
         QVERIFY(squatter.bind(QHostAddress::AnyIPv4, PoolPort + 1 + QuerySpeed::MasterPortOffset));
         QuerySession session;
         session.setPool({1, PoolPort});
-        const auto error = session.startMaster(masterAt(23700));
+        const auto error = session.startMaster(masterAt(TestPorts::at(701)));
         QVERIFY(error);
         QCOMPARE(error->kind, QueryError::Kind::PortUnavailable);
         QVERIFY(!session.isRunning());
@@ -181,14 +183,14 @@ private slots:
             std::this_thread::sleep_for(std::chrono::milliseconds(MasterQuery::TimeoutMs + 1500));
             return HostLookup::Result{{QHostAddress::LocalHost}, {}};
         });
-        SimFleet fleet(fleetOf(2, 23650));
+        SimFleet fleet(fleetOf(2, TestPorts::at(651)));
         QVERIFY(!fleet.start());
         QuerySession session;
         session.setPool({1, PoolPort});
         QSignalSpy timedOut(&session, &QuerySession::masterTimedOut);
         QElapsedTimer clock;
         clock.start();
-        QVERIFY(!session.startMaster(MasterAddress{QStringLiteral("stuck.test"), 23650}));
+        QVERIFY(!session.startMaster(MasterAddress{QStringLiteral("stuck.test"), TestPorts::at(651)}));
         QTRY_COMPARE_WITH_TIMEOUT(timedOut.count(), 1, MasterQuery::TimeoutMs + 1000);
         QVERIFY(clock.elapsed() < MasterQuery::TimeoutMs + 500);
         QVERIFY(!session.isRunning());
@@ -199,34 +201,34 @@ private slots:
 
     void anIPv6MasterIsAskedOverIPv6()
     {
-        SimFleet fleet(fleetOf(2, 23660));
+        SimFleet fleet(fleetOf(2, TestPorts::at(661)));
         QVERIFY(!fleet.start());
         QUdpSocket master;
-        if (!master.bind(QHostAddress::LocalHostIPv6, 23659))
+        if (!master.bind(QHostAddress::LocalHostIPv6, TestPorts::at(660)))
             QSKIP("no IPv6 loopback here");
         connect(&master, &QUdpSocket::readyRead, &master, [&master] {
             while (master.hasPendingDatagrams()) {
                 const QNetworkDatagram request = master.receiveDatagram();
-                // One record: 127.0.0.1, the fleet's first server (port low byte first).
+                // One record: 127.0.0.1, the fleet's first server.
                 master.writeDatagram(
-                    request.makeReply(MasterProtocol::replyHeader() + QByteArray("\x7F\0\0\x01\x6D\x5C", 6)));
+                    request.makeReply(SimReplies::serverList({{0x7F000001u, TestPorts::at(662)}}).first()));
             }
         });
         QuerySession session;
         session.setPool({1, PoolPort});
         QSignalSpy answered(&session, &QuerySession::serverAnswered);
         QSignalSpy finished(&session, &QuerySession::finished);
-        const auto master6 = parseMasterAddress(u"[::1]:23659");
+        const auto master6 = parseMasterAddress(QStringLiteral("[::1]:%1").arg(TestPorts::at(660)));
         QVERIFY(master6);
         QVERIFY(!session.startMaster(*master6));
         QTRY_COMPARE_WITH_TIMEOUT(finished.count(), 1, 4000);
         QCOMPARE(answered.count(), 1);
-        QCOMPARE(answered.first().first().value<ServerRecord>().port, 23661);
+        QCOMPARE(answered.first().first().value<ServerRecord>().port, TestPorts::at(662));
     }
 
     void answersFromAForeignAddressAreDropped()
     {
-        SimFleet fleet(fleetOf(2, 23800));
+        SimFleet fleet(fleetOf(2, TestPorts::at(801)));
         QVERIFY(!fleet.start());
         // The master lists a server that is not the fleet's; a rogue then
         // sends the master's reply from another port.
@@ -234,9 +236,9 @@ private slots:
         session.setPool({1, PoolPort});
         fleet.setMasterSilent(true);
         QSignalSpy timedOut(&session, &QuerySession::masterTimedOut);
-        QVERIFY(!session.startMaster(masterAt(23800)));
+        QVERIFY(!session.startMaster(masterAt(TestPorts::at(801))));
         QUdpSocket rogue;
-        QVERIFY(rogue.bind(QHostAddress::LocalHost, 23899));
+        QVERIFY(rogue.bind(QHostAddress::LocalHost, TestPorts::at(900)));
         QTRY_COMPARE(fleet.masterRequests(), 1);
         rogue.writeDatagram(MasterProtocol::replyHeader() + QByteArray("\x7F\0\0\x01\x10\x27", 6),
                             QHostAddress::LocalHost, session.masterLocalPort());
@@ -246,11 +248,11 @@ private slots:
 
     void favouritesRunWithoutTheMaster()
     {
-        SimFleet fleet(fleetOf(3, 23900));
+        SimFleet fleet(fleetOf(3, TestPorts::at(901)));
         QVERIFY(!fleet.start());
         AddressTable table;
-        table.add(QStringLiteral("localhost"), 23901, QStringLiteral("by name"));
-        table.add(QStringLiteral("127.0.0.1"), 23902);
+        table.add(QStringLiteral("localhost"), TestPorts::at(902), QStringLiteral("by name"));
+        table.add(QStringLiteral("127.0.0.1"), TestPorts::at(903));
         QuerySession session;
         session.setPool({1, PoolPort});
         QSignalSpy answered(&session, &QuerySession::serverAnswered);
@@ -262,7 +264,7 @@ private slots:
         QStringList addresses;
         for (const auto& arguments : answered)
             addresses.append(arguments.at(0).value<ServerRecord>().endpointText());
-        QVERIFY(addresses.contains(QStringLiteral("localhost:23901")));
+        QVERIFY(addresses.contains(QStringLiteral("localhost:%1").arg(TestPorts::at(902))));
     }
 };
 

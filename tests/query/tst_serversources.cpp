@@ -8,6 +8,7 @@
 #include "query/querysession.h"
 #include "query/serverlistfetch.h"
 #include "query/serversources.h"
+#include "testports.h"
 
 #include <QElapsedTimer>
 #include <QSet>
@@ -17,7 +18,7 @@
 
 namespace {
 
-constexpr quint16 PoolPort = 43000;
+const quint16 PoolPort = TestPorts::at(2000);
 
 MasterAddress masterAt(quint16 port)
 {
@@ -99,8 +100,8 @@ private slots:
 
     void aSilentMasterDoesNotStopTheOthers()
     {
-        SimFleet dead(fleetOf(5, 26000));
-        SimFleet alive(fleetOf(10, 26100));
+        SimFleet dead(fleetOf(5, TestPorts::at(1)));
+        SimFleet alive(fleetOf(10, TestPorts::at(101)));
         QVERIFY(!dead.start());
         QVERIFY(!alive.start());
         dead.setMasterSilent(true);
@@ -110,7 +111,7 @@ private slots:
         QSignalSpy finished(&session, &QuerySession::finished);
         QSignalSpy timedOut(&session, &QuerySession::masterTimedOut);
         SourcePlan plan;
-        plan.masters = {masterAt(26000), masterAt(26100)};
+        plan.masters = {masterAt(TestPorts::at(1)), masterAt(TestPorts::at(101))};
         QVERIFY(!session.startSources(plan));
         QTRY_COMPARE_WITH_TIMEOUT(finished.count(), 1, 8000);
         QCOMPARE(timedOut.count(), 0);
@@ -124,8 +125,8 @@ private slots:
 
     void overlappingMastersAskEachServerOnce()
     {
-        SimFleet a(fleetOf(5, 26200));
-        SimFleet b(fleetOf(5, 26300));
+        SimFleet a(fleetOf(5, TestPorts::at(201)));
+        SimFleet b(fleetOf(5, TestPorts::at(301)));
         QVERIFY(!a.start());
         QVERIFY(!b.start());
         // b lists three of a's servers, and its own first server twice.
@@ -141,7 +142,7 @@ private slots:
         Answers answers(session);
         QSignalSpy finished(&session, &QuerySession::finished);
         SourcePlan plan;
-        plan.masters = {masterAt(26200), masterAt(26300)};
+        plan.masters = {masterAt(TestPorts::at(201)), masterAt(TestPorts::at(301))};
         QVERIFY(!session.startSources(plan));
         QTRY_COMPARE_WITH_TIMEOUT(finished.count(), 1, 8000);
         const QStringList expected = fleetEndpoints(a) + fleetEndpoints(b, 0, 1) + fleetEndpoints(b);
@@ -161,7 +162,7 @@ private slots:
     // a published list, and the servers known from before.
     void liveServersAreAskedBeforeASilentMasterGivesUp()
     {
-        SimFleet fleet(fleetOf(32, 26800));
+        SimFleet fleet(fleetOf(32, TestPorts::at(801)));
         QVERIFY(!fleet.start());
         fleet.setMasterSilent(true);
         const QStringList all = fleetEndpoints(fleet);
@@ -183,7 +184,7 @@ private slots:
         });
         QSignalSpy finished(&session, &QuerySession::finished);
         SourcePlan plan;
-        plan.masters = {masterAt(26800)};
+        plan.masters = {masterAt(TestPorts::at(801))};
         plan.listUrls = {web.url(QStringLiteral("/q4"))};
         plan.known.add(QStringLiteral("127.0.0.1"), fleet.servers().at(0).port);
         plan.known.add(QStringLiteral("127.0.0.1"), fleet.servers().at(1).port);
@@ -217,7 +218,7 @@ private slots:
     // end mark: by the length rule its first datagram is already the last.
     void aMasterThatSplitsItsListIsListedInFull()
     {
-        FleetOptions options = fleetOf(600, 27000);
+        FleetOptions options = fleetOf(600, TestPorts::at(1001));
         options.masterSplit = 198;
         SimFleet fleet(options);
         QVERIFY(!fleet.start());
@@ -228,7 +229,7 @@ private slots:
         QSignalSpy phases(&session, &QuerySession::phaseChanged);
         QElapsedTimer clock;
         clock.start();
-        QVERIFY(!session.startMaster(masterAt(27000)));
+        QVERIFY(!session.startMaster(masterAt(TestPorts::at(1001))));
         QTRY_COMPARE_WITH_TIMEOUT(finished.count(), 1, 8000);
         QCOMPARE(answers.endpoints.size(), 600);
         QCOMPARE(endpoints(session.addresses()), fleetEndpoints(fleet));
@@ -246,8 +247,8 @@ private slots:
 
     void everySourceFailingIsTheMasterTimeOut()
     {
-        SimFleet a(fleetOf(2, 26400));
-        SimFleet b(fleetOf(2, 26450));
+        SimFleet a(fleetOf(2, TestPorts::at(401)));
+        SimFleet b(fleetOf(2, TestPorts::at(451)));
         QVERIFY(!a.start());
         QVERIFY(!b.start());
         a.setMasterSilent(true);
@@ -259,7 +260,7 @@ private slots:
         QSignalSpy timedOut(&session, &QuerySession::masterTimedOut);
         QSignalSpy failed(&session, &QuerySession::failed);
         SourcePlan plan;
-        plan.masters = {masterAt(26400), masterAt(26450)};
+        plan.masters = {masterAt(TestPorts::at(401)), masterAt(TestPorts::at(451))};
         plan.listUrls = {web.url(QStringLiteral("/missing"))};
         QVERIFY(!session.startSources(plan));
         QTRY_COMPARE_WITH_TIMEOUT(timedOut.count(), 1, 6000);
@@ -282,7 +283,7 @@ private slots:
 
     void publishedListsAreFetchedAndMerged()
     {
-        SimFleet fleet(fleetOf(8, 26500));
+        SimFleet fleet(fleetOf(8, TestPorts::at(501)));
         QVERIFY(!fleet.start());
         fleet.setMasterSilent(true);
         const QStringList all = fleetEndpoints(fleet);
@@ -300,7 +301,7 @@ private slots:
         Answers answers(session);
         QSignalSpy finished(&session, &QuerySession::finished);
         SourcePlan plan;
-        plan.masters = {masterAt(26500)};
+        plan.masters = {masterAt(TestPorts::at(501))};
         plan.listUrls = {web.url(QStringLiteral("/json")), web.url(QStringLiteral("/text")),
                          web.url(QStringLiteral("/garbage")), web.url(QStringLiteral("/gone"))};
         QVERIFY(!session.startSources(plan));
@@ -429,7 +430,7 @@ private slots:
     // ports makes no phantom servers.
     void aListNeverMultipliesOneServerNorAsksItself()
     {
-        SimFleet fleet(fleetOf(1, 27700));
+        SimFleet fleet(fleetOf(1, TestPorts::at(1701)));
         QVERIFY(!fleet.start());
         fleet.setMasterSilent(true);
         const QByteArray port = QByteArray::number(fleet.servers().first().port);
@@ -448,7 +449,7 @@ private slots:
         Answers answers(session);
         QSignalSpy finished(&session, &QuerySession::finished);
         SourcePlan plan;
-        plan.masters = {masterAt(27700)};
+        plan.masters = {masterAt(TestPorts::at(1701))};
         plan.listUrls = {web.url(QStringLiteral("/aimed"))};
         QVERIFY(!session.startSources(plan));
         QTRY_COMPARE_WITH_TIMEOUT(finished.count(), 1, 8000);
@@ -487,8 +488,8 @@ private slots:
 
     void laterMastersMovePastTakenPorts()
     {
-        SimFleet a(fleetOf(2, 26600));
-        SimFleet b(fleetOf(3, 26650));
+        SimFleet a(fleetOf(2, TestPorts::at(601)));
+        SimFleet b(fleetOf(3, TestPorts::at(651)));
         QVERIFY(!a.start());
         QVERIFY(!b.start());
         const QuerySpeed::PortPlan ports{1, PoolPort + 500};
@@ -498,7 +499,7 @@ private slots:
         session.setPool(ports);
         QSignalSpy finished(&session, &QuerySession::finished);
         SourcePlan plan;
-        plan.masters = {masterAt(26600), masterAt(26650)};
+        plan.masters = {masterAt(TestPorts::at(601)), masterAt(TestPorts::at(651))};
         QVERIFY(!session.startSources(plan));
         QTRY_COMPARE_WITH_TIMEOUT(finished.count(), 1, 6000);
         QCOMPARE(session.addresses().count(), 5);

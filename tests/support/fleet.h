@@ -2,10 +2,11 @@
 #pragma once
 
 #include "simfleet.h"
+#include "testports.h"
 
 // A simulated fleet on loopback: the master on masterPort, the servers on
-// the ports right above it. The seed follows the port, so each test gets
-// its own, repeatable fleet.
+// the ports right above it. The seed follows the port's place in the test
+// ports' block, so each test gets its own fleet, the same in every run.
 inline FleetOptions fleetOf(int servers, quint16 masterPort, int delayMs = 0)
 {
     FleetOptions options;
@@ -13,7 +14,7 @@ inline FleetOptions fleetOf(int servers, quint16 masterPort, int delayMs = 0)
     options.masterPort = masterPort;
     options.firstServerPort = quint16(masterPort + 1);
     options.delayMs = delayMs;
-    options.seed = masterPort;
+    options.seed = masterPort % TestPorts::BlockSize;
     return options;
 }
 

@@ -3,6 +3,7 @@
 #include "query/lanquery.h"
 #include "queryreport.h"
 #include "simfleet.h"
+#include "testports.h"
 #include "userdata/knownservers.h"
 
 #include <QElapsedTimer>
@@ -18,7 +19,7 @@
 
 namespace {
 
-constexpr quint16 StartPort = 41500;
+const quint16 StartPort = TestPorts::at(2000);
 
 struct Run {
     int exitCode = -1;
@@ -77,16 +78,15 @@ private slots:
     {
         FleetOptions options;
         options.servers = 30;
-        options.masterPort = 25500;
-        options.firstServerPort = 25501;
+        options.masterPort = TestPorts::at(1);
+        options.firstServerPort = TestPorts::at(2);
         options.silentFraction = 0.2;
         options.seed = 5;
         SimFleet fleet(options);
         QVERIFY(!fleet.start());
-        const Run run =
-            runTool({QStringLiteral("--master"), QStringLiteral("127.0.0.1:25500"), QStringLiteral("--start-port"),
-                     QString::number(StartPort), QStringLiteral("--format"), QStringLiteral("json")},
-                    m_home.path());
+        const Run run = runTool({QStringLiteral("--master"), TestPorts::local(1), QStringLiteral("--start-port"),
+                                 QString::number(StartPort), QStringLiteral("--format"), QStringLiteral("json")},
+                                m_home.path());
         QCOMPARE(run.exitCode, 0);
         const QJsonObject document = QJsonDocument::fromJson(run.out).object();
         QCOMPARE(document[QStringLiteral("addresses")].toInt(), 30);
@@ -96,7 +96,7 @@ private slots:
         QCOMPARE(servers.size(), fleet.answeringServers());
         for (const auto& value : servers) {
             const QJsonObject server = value.toObject();
-            const auto& sent = fleet.servers().at(server[QStringLiteral("port")].toInt() - 25501);
+            const auto& sent = fleet.servers().at(server[QStringLiteral("port")].toInt() - TestPorts::at(2));
             QCOMPARE(server[QStringLiteral("name")].toString(), QString::fromLatin1(sent.rules.at(0).second));
             QCOMPARE(server[QStringLiteral("player_list")].toArray().size(), sent.players.size());
         }
@@ -106,34 +106,37 @@ private slots:
     {
         FleetOptions options;
         options.servers = 4;
-        options.masterPort = 25750;
-        options.firstServerPort = 25751;
+        options.masterPort = TestPorts::at(251);
+        options.firstServerPort = TestPorts::at(252);
         SimFleet dead(options);
         options.servers = 5;
-        options.masterPort = 25800;
-        options.firstServerPort = 25801;
+        options.masterPort = TestPorts::at(301);
+        options.firstServerPort = TestPorts::at(302);
         SimFleet alive(options);
         QVERIFY(!dead.start());
         QVERIFY(!alive.start());
         dead.setMasterSilent(true);
         HttpResponder web;
-        web.set(QStringLiteral("/q4.txt"), {200, "127.0.0.1:25751\n127.0.0.1:25752\nbroken\n", "text/plain", 0});
+        web.set(QStringLiteral("/q4.txt"),
+                {200, QStringLiteral("%1\n%2\nbroken\n").arg(TestPorts::local(252), TestPorts::local(253)).toLatin1(),
+                 "text/plain", 0});
         const QString known = m_home.filePath(QStringLiteral("servers.dat"));
-        QVERIFY(KnownServers::writeFile(known, {KnownServers::Server{QStringLiteral("127.0.0.1"), 25753, {}, 1, 0},
-                                                KnownServers::Server{QStringLiteral("127.0.0.1"), 25801, {}, 1, 0}}));
-        const Run run = runTool({QStringLiteral("--master"), QStringLiteral("127.0.0.1:25750"),
-                                 QStringLiteral("--master"), QStringLiteral("127.0.0.1:25800"),
-                                 QStringLiteral("--list-url"), web.url(QStringLiteral("/q4.txt")).toString(),
-                                 QStringLiteral("--known"), known, QStringLiteral("--start-port"),
-                                 QString::number(StartPort), QStringLiteral("--format"), QStringLiteral("json")},
-                                m_home.path());
+        QVERIFY(KnownServers::writeFile(
+            known, {KnownServers::Server{QStringLiteral("127.0.0.1"), TestPorts::at(254), {}, 1, 0},
+                    KnownServers::Server{QStringLiteral("127.0.0.1"), TestPorts::at(302), {}, 1, 0}}));
+        const Run run =
+            runTool({QStringLiteral("--master"), TestPorts::local(251), QStringLiteral("--master"),
+                     TestPorts::local(301), QStringLiteral("--list-url"), web.url(QStringLiteral("/q4.txt")).toString(),
+                     QStringLiteral("--known"), known, QStringLiteral("--start-port"), QString::number(StartPort),
+                     QStringLiteral("--format"), QStringLiteral("json")},
+                    m_home.path());
         QCOMPARE(run.exitCode, 0);
         const QJsonObject document = QJsonDocument::fromJson(run.out).object();
         const QJsonArray sources = document[QStringLiteral("sources")].toArray();
         QCOMPARE(sources.size(), 4);
         const auto source = [&sources](int i) { return sources.at(i).toObject(); };
         QCOMPARE(source(0)[QStringLiteral("kind")].toString(), QStringLiteral("master"));
-        QCOMPARE(source(0)[QStringLiteral("name")].toString(), QStringLiteral("127.0.0.1:25750"));
+        QCOMPARE(source(0)[QStringLiteral("name")].toString(), TestPorts::local(251));
         QCOMPARE(source(0)[QStringLiteral("error")].toString(), QStringLiteral("did not answer"));
         QCOMPARE(source(1)[QStringLiteral("addresses")].toInt(), 5);
         QVERIFY(source(1)[QStringLiteral("error")].isNull());
@@ -146,12 +149,12 @@ private slots:
         QCOMPARE(document[QStringLiteral("addresses")].toInt(), 8);
         QCOMPARE(document[QStringLiteral("answered")].toInt(), 8);
 
-        const Run text =
-            runTool({QStringLiteral("--master"), QStringLiteral("127.0.0.1:25800"), QStringLiteral("--known"), known,
-                     QStringLiteral("--start-port"), QString::number(StartPort)},
-                    m_home.path());
+        const Run text = runTool({QStringLiteral("--master"), TestPorts::local(301), QStringLiteral("--known"), known,
+                                  QStringLiteral("--start-port"), QString::number(StartPort)},
+                                 m_home.path());
         QCOMPARE(text.exitCode, 0);
-        QVERIFY(text.out.contains("master 127.0.0.1:25800: 5 addresses, 0 skipped\n"));
+        QVERIFY(text.out.contains(
+            QStringLiteral("master %1: 5 addresses, 0 skipped\n").arg(TestPorts::local(301)).toLatin1()));
         QVERIFY(text.out.contains("known known servers: 2 addresses, 0 skipped\n"));
     }
 
@@ -161,13 +164,14 @@ private slots:
     {
         FleetOptions options;
         options.servers = 3;
-        options.masterPort = 29300;
-        options.firstServerPort = 29301;
+        options.masterPort = TestPorts::at(401);
+        options.firstServerPort = TestPorts::at(402);
         SimFleet fleet(options);
         QVERIFY(!fleet.start());
         fleet.setMasterSilent(true);
         const QString known = m_home.filePath(QStringLiteral("streamed.dat"));
-        QVERIFY(KnownServers::writeFile(known, {KnownServers::Server{QStringLiteral("127.0.0.1"), 29301, {}, 1, 0}}));
+        QVERIFY(KnownServers::writeFile(
+            known, {KnownServers::Server{QStringLiteral("127.0.0.1"), TestPorts::at(402), {}, 1, 0}}));
         for (const QString& format : {QStringLiteral("text"), QStringLiteral("json")}) {
             QProcess process;
             QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
@@ -181,7 +185,7 @@ private slots:
             });
             QSignalSpy finished(&process, &QProcess::finished);
             clock.start();
-            process.start(QStringLiteral(QUERY_TOOL), {QStringLiteral("--master"), QStringLiteral("127.0.0.1:29300"),
+            process.start(QStringLiteral(QUERY_TOOL), {QStringLiteral("--master"), TestPorts::local(401),
                                                        QStringLiteral("--known"), known, QStringLiteral("--start-port"),
                                                        QString::number(StartPort), QStringLiteral("--format"), format});
             QVERIFY(finished.wait(15000));
@@ -233,16 +237,16 @@ private slots:
 
         QUdpSocket squatter;
         QVERIFY(squatter.bind(QHostAddress::AnyIPv4, StartPort));
-        const Run busy = runTool({QStringLiteral("--server"), QStringLiteral("127.0.0.1:25600"),
-                                  QStringLiteral("--start-port"), QString::number(StartPort)},
+        const Run busy = runTool({QStringLiteral("--server"), TestPorts::local(101), QStringLiteral("--start-port"),
+                                  QString::number(StartPort)},
                                  m_home.path());
         QCOMPARE(busy.exitCode, 3);
         QVERIFY(busy.err.contains(QByteArray::number(StartPort)));
         squatter.close();
 
         // Nobody answers on this master port: the master times out.
-        const Run silent = runTool({QStringLiteral("--master"), QStringLiteral("127.0.0.1:25700"),
-                                    QStringLiteral("--start-port"), QString::number(StartPort)},
+        const Run silent = runTool({QStringLiteral("--master"), TestPorts::local(201), QStringLiteral("--start-port"),
+                                    QString::number(StartPort)},
                                    m_home.path());
         QCOMPARE(silent.exitCode, 1);
         QVERIFY(silent.err.contains("Timed Out"));
