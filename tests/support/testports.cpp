@@ -11,7 +11,8 @@
 namespace {
 
 constexpr int FirstBlock = 10000;
-constexpr int Blocks = 5; // 10000 to 29999, below the ephemeral ports (32768)
+constexpr int Blocks = 5; // 10000 to 24999
+constexpr int WaitRounds = 600; // of 200 ms: two minutes, a test's time limit
 
 bool bindLoopback(int socket, int port)
 {
@@ -54,10 +55,13 @@ int claimBlock()
 {
     // Processes started together try different blocks first.
     const int first = int(::getpid()) % Blocks;
-    for (int i = 0; i < Blocks; ++i) {
-        const int base = FirstBlock + ((first + i) % Blocks) * TestPorts::BlockSize;
-        if (claim(base))
-            return base;
+    for (int round = 0; round < WaitRounds; ++round) {
+        for (int i = 0; i < Blocks; ++i) {
+            const int base = FirstBlock + ((first + i) % Blocks) * TestPorts::BlockSize;
+            if (claim(base))
+                return base;
+        }
+        ::usleep(200 * 1000);
     }
     std::fprintf(stderr, "no free block of %d test ports on 127.0.0.1\n", TestPorts::BlockSize);
     std::abort();

@@ -8,11 +8,13 @@
 // process holds, so tests never collide however many run at once. A
 // process claims its block by listening on the block's first port for as
 // long as it runs; the block's other ports were free for UDP when claimed.
-// The blocks lie below the system's ephemeral ports, so no socket the
-// system numbers by itself lands in one.
+// The blocks lie below the game's own ports (26000 and up: 27650, 27960,
+// 28004 are named by tests as they are) and below the system's ephemeral
+// ports, so no socket the system numbers by itself lands in one. When
+// every block is taken, a process waits for one to come free.
 namespace TestPorts {
 
-inline constexpr int BlockSize = 4000;
+inline constexpr int BlockSize = 3000;
 
 // A port of this process's block (offset 1 to BlockSize - 1); the block is
 // claimed at the first call.
