@@ -108,6 +108,7 @@ FrmFavourites::FrmFavourites(SettingsStore& settings, QString dataFolder, QWidge
 {
     setObjectName(QStringLiteral("frmFavourites"));
     list()->setObjectName(QStringLiteral("lvwFavourites"));
+    keepColumnOrder();
     const auto button = [this](const char* name) {
         auto* created = new QPushButton(this);
         created->setObjectName(QLatin1String(name));
@@ -227,20 +228,6 @@ void FrmFavourites::retranslateUi()
     cmdRemove->setText(tr("Remove"));
     retranslateMenu();
     m_model->retranslate();
-}
-
-void FrmFavourites::changeEvent(QEvent* event)
-{
-    EditableListDialog::changeEvent(event);
-    if (event->type() == QEvent::LanguageChange)
-        retranslateUi();
-}
-
-void FrmFavourites::hideEvent(QHideEvent* event)
-{
-    EditableListDialog::hideEvent(event);
-    ColumnLayout::saveOrder(settings(), Keys::Favourites.columns, *list()->header());
-    ColumnLayout::saveWidths(settings(), Keys::Favourites.columns, *list()->header());
 }
 
 void FrmFavourites::commitCell(int row, int column, const QString& text)

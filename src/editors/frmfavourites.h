@@ -57,11 +57,9 @@ protected:
     void commitCell(int row, int column, const QString& text) override;
     void newRow() override;
     void removeRow(int row) override;
-    void changeEvent(QEvent* event) override;
-    void hideEvent(QHideEvent* event) override;
+    void retranslateUi() override;
 
 private:
-    void retranslateUi();
     void sortClicked(int column);
     void sayTooLarge();
 

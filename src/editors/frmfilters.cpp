@@ -111,19 +111,6 @@ void FrmFilters::retranslateUi()
     m_model->retranslate();
 }
 
-void FrmFilters::changeEvent(QEvent* event)
-{
-    EditableListDialog::changeEvent(event);
-    if (event->type() == QEvent::LanguageChange)
-        retranslateUi();
-}
-
-void FrmFilters::hideEvent(QHideEvent* event)
-{
-    EditableListDialog::hideEvent(event);
-    ColumnLayout::saveWidths(settings(), Keys::Filters.columns, *list()->header());
-}
-
 void FrmFilters::commitCell(int row, int column, const QString& text)
 {
     if (column == 0)

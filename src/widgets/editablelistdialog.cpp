@@ -93,10 +93,20 @@ void EditableListDialog::retranslateMenu()
     mPopRemove->setText(tr("Remove"));
 }
 
+void EditableListDialog::changeEvent(QEvent* event)
+{
+    QDialog::changeEvent(event);
+    if (event->type() == QEvent::LanguageChange)
+        retranslateUi();
+}
+
 void EditableListDialog::hideEvent(QHideEvent* event)
 {
     commitEdit();
     QDialog::hideEvent(event);
+    if (m_keepsOrder)
+        ColumnLayout::saveOrder(m_settings, m_columnsPrefix, *m_list->header());
+    ColumnLayout::saveWidths(m_settings, m_columnsPrefix, *m_list->header());
 }
 
 bool EditableListDialog::eventFilter(QObject* watched, QEvent* event)

@@ -37,6 +37,8 @@ protected:
     virtual void commitCell(int row, int column, const QString& text) = 0;
     virtual void newRow() = 0;
     virtual void removeRow(int row) = 0;
+    // The texts of the dialog, again whenever the language changes.
+    virtual void retranslateUi() = 0;
 
     ReportView* list() const { return m_list; }
     QAbstractItemModel* listModel() const { return m_model; }
@@ -52,6 +54,11 @@ protected:
     MessageLine* messageLine() const { return lblMessage; }
     void say(const QString& text);
 
+    // The order of the columns is kept with their widths when the dialog
+    // closes (the widths are always kept).
+    void keepColumnOrder() { m_keepsOrder = true; }
+
+    void changeEvent(QEvent* event) override;
     void hideEvent(QHideEvent* event) override;
     bool eventFilter(QObject* watched, QEvent* event) override;
 
@@ -68,5 +75,6 @@ private:
     QAction* mPopNew = nullptr;
     QAction* mPopRemove = nullptr;
     int m_editRow = -1;
+    bool m_keepsOrder = false;
     int m_editColumn = -1;
 };
