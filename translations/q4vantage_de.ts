@@ -132,32 +132,6 @@
     </message>
 </context>
 <context>
-    <name>FavouritesModel</name>
-    <message>
-        <source>Server Name</source>
-        <translation>Servername</translation>
-    </message>
-    <message>
-        <source>Server IP Address</source>
-        <translation>Server-IP-Adresse</translation>
-    </message>
-    <message>
-        <source>Password</source>
-        <translation>Passwort</translation>
-    </message>
-</context>
-<context>
-    <name>FiltersModel</name>
-    <message>
-        <source>Variable</source>
-        <translation>Variable</translation>
-    </message>
-    <message>
-        <source>Value</source>
-        <translation>Wert</translation>
-    </message>
-</context>
-<context>
     <name>FindBar</name>
     <message>
         <source>Find</source>
@@ -616,21 +590,6 @@
     </message>
 </context>
 <context>
-    <name>HistoryModel</name>
-    <message>
-        <source>Server</source>
-        <translation>Server</translation>
-    </message>
-    <message>
-        <source>Server IP Address</source>
-        <translation>Server-IP-Adresse</translation>
-    </message>
-    <message>
-        <source>Last Played</source>
-        <translation>Zuletzt gespielt</translation>
-    </message>
-</context>
-<context>
     <name>JoinFlow</name>
     <message>
         <source>Join server by IP Address</source>
@@ -775,6 +734,18 @@ Auf einen freien Platz warten und beitreten, sobald einer frei wird?</translatio
     <message>
         <source>Mod</source>
         <translation>Mod</translation>
+    </message>
+    <message>
+        <source>Server Name</source>
+        <translation>Servername</translation>
+    </message>
+    <message>
+        <source>Password</source>
+        <translation>Passwort</translation>
+    </message>
+    <message>
+        <source>Last Played</source>
+        <translation>Zuletzt gespielt</translation>
     </message>
 </context>
 <context>

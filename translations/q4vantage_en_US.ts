@@ -131,32 +131,6 @@
     </message>
 </context>
 <context>
-    <name>FavouritesModel</name>
-    <message>
-        <source>Server Name</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Server IP Address</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Password</source>
-        <translation type="unfinished"></translation>
-    </message>
-</context>
-<context>
-    <name>FiltersModel</name>
-    <message>
-        <source>Variable</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Value</source>
-        <translation type="unfinished"></translation>
-    </message>
-</context>
-<context>
     <name>FindBar</name>
     <message>
         <source>Find</source>
@@ -612,21 +586,6 @@
     </message>
 </context>
 <context>
-    <name>HistoryModel</name>
-    <message>
-        <source>Server</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Server IP Address</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Last Played</source>
-        <translation type="unfinished"></translation>
-    </message>
-</context>
-<context>
     <name>JoinFlow</name>
     <message>
         <source>Join server by IP Address</source>
@@ -769,6 +728,18 @@ Wait for a free slot and join as soon as one opens?</source>
     </message>
     <message>
         <source>Mod</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Server Name</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Password</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Last Played</source>
         <translation type="unfinished"></translation>
     </message>
 </context>

@@ -132,32 +132,6 @@
     </message>
 </context>
 <context>
-    <name>FavouritesModel</name>
-    <message>
-        <source>Server Name</source>
-        <translation>Nom du serveur</translation>
-    </message>
-    <message>
-        <source>Server IP Address</source>
-        <translation>Adresse IP du serveur</translation>
-    </message>
-    <message>
-        <source>Password</source>
-        <translation>Mot de passe</translation>
-    </message>
-</context>
-<context>
-    <name>FiltersModel</name>
-    <message>
-        <source>Variable</source>
-        <translation>Variable</translation>
-    </message>
-    <message>
-        <source>Value</source>
-        <translation>Valeur</translation>
-    </message>
-</context>
-<context>
     <name>FindBar</name>
     <message>
         <source>Find</source>
@@ -616,21 +590,6 @@
     </message>
 </context>
 <context>
-    <name>HistoryModel</name>
-    <message>
-        <source>Server</source>
-        <translation>Serveur</translation>
-    </message>
-    <message>
-        <source>Server IP Address</source>
-        <translation>Adresse IP du serveur</translation>
-    </message>
-    <message>
-        <source>Last Played</source>
-        <translation>Dernière partie</translation>
-    </message>
-</context>
-<context>
     <name>JoinFlow</name>
     <message>
         <source>Join server by IP Address</source>
@@ -775,6 +734,18 @@ Attendre une place libre et rejoindre dès qu&apos;une place se libère ?</trans
     <message>
         <source>Mod</source>
         <translation>Mod</translation>
+    </message>
+    <message>
+        <source>Server Name</source>
+        <translation>Nom du serveur</translation>
+    </message>
+    <message>
+        <source>Password</source>
+        <translation>Mot de passe</translation>
+    </message>
+    <message>
+        <source>Last Played</source>
+        <translation>Dernière partie</translation>
     </message>
 </context>
 <context>

@@ -132,32 +132,6 @@ hanno risposto %2 server su %3</translation>
     </message>
 </context>
 <context>
-    <name>FavouritesModel</name>
-    <message>
-        <source>Server Name</source>
-        <translation>Nome del server</translation>
-    </message>
-    <message>
-        <source>Server IP Address</source>
-        <translation>Indirizzo IP del server</translation>
-    </message>
-    <message>
-        <source>Password</source>
-        <translation>Password</translation>
-    </message>
-</context>
-<context>
-    <name>FiltersModel</name>
-    <message>
-        <source>Variable</source>
-        <translation>Variabile</translation>
-    </message>
-    <message>
-        <source>Value</source>
-        <translation>Valore</translation>
-    </message>
-</context>
-<context>
     <name>FindBar</name>
     <message>
         <source>Find</source>
@@ -616,21 +590,6 @@ hanno risposto %2 server su %3</translation>
     </message>
 </context>
 <context>
-    <name>HistoryModel</name>
-    <message>
-        <source>Server</source>
-        <translation>Server</translation>
-    </message>
-    <message>
-        <source>Server IP Address</source>
-        <translation>Indirizzo IP del server</translation>
-    </message>
-    <message>
-        <source>Last Played</source>
-        <translation>Ultima partita</translation>
-    </message>
-</context>
-<context>
     <name>JoinFlow</name>
     <message>
         <source>Join server by IP Address</source>
@@ -775,6 +734,18 @@ Attendere un posto libero ed entrare appena se ne libera uno?</translation>
     <message>
         <source>Mod</source>
         <translation>Mod</translation>
+    </message>
+    <message>
+        <source>Server Name</source>
+        <translation>Nome del server</translation>
+    </message>
+    <message>
+        <source>Password</source>
+        <translation>Password</translation>
+    </message>
+    <message>
+        <source>Last Played</source>
+        <translation>Ultima partita</translation>
     </message>
 </context>
 <context>

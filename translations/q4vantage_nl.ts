@@ -132,32 +132,6 @@
     </message>
 </context>
 <context>
-    <name>FavouritesModel</name>
-    <message>
-        <source>Server Name</source>
-        <translation>Servernaam</translation>
-    </message>
-    <message>
-        <source>Server IP Address</source>
-        <translation>IP-adres van de server</translation>
-    </message>
-    <message>
-        <source>Password</source>
-        <translation>Wachtwoord</translation>
-    </message>
-</context>
-<context>
-    <name>FiltersModel</name>
-    <message>
-        <source>Variable</source>
-        <translation>Variabele</translation>
-    </message>
-    <message>
-        <source>Value</source>
-        <translation>Waarde</translation>
-    </message>
-</context>
-<context>
     <name>FindBar</name>
     <message>
         <source>Find</source>
@@ -616,21 +590,6 @@
     </message>
 </context>
 <context>
-    <name>HistoryModel</name>
-    <message>
-        <source>Server</source>
-        <translation>Server</translation>
-    </message>
-    <message>
-        <source>Server IP Address</source>
-        <translation>IP-adres van de server</translation>
-    </message>
-    <message>
-        <source>Last Played</source>
-        <translation>Laatst gespeeld</translation>
-    </message>
-</context>
-<context>
     <name>JoinFlow</name>
     <message>
         <source>Join server by IP Address</source>
@@ -775,6 +734,18 @@ Wachten op een vrije plek en deelnemen zodra er een vrijkomt?</translation>
     <message>
         <source>Mod</source>
         <translation>Mod</translation>
+    </message>
+    <message>
+        <source>Server Name</source>
+        <translation>Servernaam</translation>
+    </message>
+    <message>
+        <source>Password</source>
+        <translation>Wachtwoord</translation>
+    </message>
+    <message>
+        <source>Last Played</source>
+        <translation>Laatst gespeeld</translation>
     </message>
 </context>
 <context>

@@ -132,32 +132,6 @@ responderam %2 de %3 servidores</translation>
     </message>
 </context>
 <context>
-    <name>FavouritesModel</name>
-    <message>
-        <source>Server Name</source>
-        <translation>Nome do servidor</translation>
-    </message>
-    <message>
-        <source>Server IP Address</source>
-        <translation>Endereço IP do servidor</translation>
-    </message>
-    <message>
-        <source>Password</source>
-        <translation>Senha</translation>
-    </message>
-</context>
-<context>
-    <name>FiltersModel</name>
-    <message>
-        <source>Variable</source>
-        <translation>Variável</translation>
-    </message>
-    <message>
-        <source>Value</source>
-        <translation>Valor</translation>
-    </message>
-</context>
-<context>
     <name>FindBar</name>
     <message>
         <source>Find</source>
@@ -616,21 +590,6 @@ responderam %2 de %3 servidores</translation>
     </message>
 </context>
 <context>
-    <name>HistoryModel</name>
-    <message>
-        <source>Server</source>
-        <translation>Servidor</translation>
-    </message>
-    <message>
-        <source>Server IP Address</source>
-        <translation>Endereço IP do servidor</translation>
-    </message>
-    <message>
-        <source>Last Played</source>
-        <translation>Última vez</translation>
-    </message>
-</context>
-<context>
     <name>JoinFlow</name>
     <message>
         <source>Join server by IP Address</source>
@@ -775,6 +734,18 @@ Esperar por uma vaga e entrar assim que uma abrir?</translation>
     <message>
         <source>Mod</source>
         <translation>Mod</translation>
+    </message>
+    <message>
+        <source>Server Name</source>
+        <translation>Nome do servidor</translation>
+    </message>
+    <message>
+        <source>Password</source>
+        <translation>Senha</translation>
+    </message>
+    <message>
+        <source>Last Played</source>
+        <translation>Última vez</translation>
     </message>
 </context>
 <context>

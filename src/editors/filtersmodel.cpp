@@ -2,7 +2,7 @@
 #include "editors/filtersmodel.h"
 
 FiltersModel::FiltersModel(QObject* parent)
-    : QAbstractTableModel(parent)
+    : ReportModel(Columns, parent)
 {
 }
 
@@ -11,24 +11,12 @@ int FiltersModel::rowCount(const QModelIndex& parent) const
     return parent.isValid() ? 0 : int(m_filters.size());
 }
 
-int FiltersModel::columnCount(const QModelIndex& parent) const
-{
-    return parent.isValid() ? 0 : 2;
-}
-
 QVariant FiltersModel::data(const QModelIndex& index, int role) const
 {
     if (!index.isValid() || index.row() >= m_filters.size() || (role != Qt::DisplayRole && role != Qt::EditRole))
         return {};
     const Filters::VariableFilter& filter = m_filters.at(index.row());
     return index.column() == 0 ? filter.variable : filter.value;
-}
-
-QVariant FiltersModel::headerData(int section, Qt::Orientation orientation, int role) const
-{
-    if (orientation != Qt::Horizontal || role != Qt::DisplayRole)
-        return {};
-    return section == 0 ? tr("Variable") : tr("Value");
 }
 
 void FiltersModel::setFilters(const QList<Filters::VariableFilter>& filters)
@@ -73,9 +61,4 @@ void FiltersModel::sortByColumn(int column, Qt::SortOrder order)
                          return order == Qt::AscendingOrder ? compared < 0 : compared > 0;
                      });
     emit layoutChanged();
-}
-
-void FiltersModel::retranslate()
-{
-    emit headerDataChanged(Qt::Horizontal, 0, 1);
 }

@@ -16,7 +16,7 @@
 #include <QPushButton>
 
 FavouritesModel::FavouritesModel(QObject* parent)
-    : QAbstractTableModel(parent)
+    : ReportModel(Columns, parent)
 {
 }
 
@@ -25,32 +25,11 @@ int FavouritesModel::rowCount(const QModelIndex& parent) const
     return parent.isValid() ? 0 : int(m_rows.size());
 }
 
-int FavouritesModel::columnCount(const QModelIndex& parent) const
-{
-    return parent.isValid() ? 0 : 3;
-}
-
 QVariant FavouritesModel::data(const QModelIndex& index, int role) const
 {
     if (!index.isValid() || index.row() >= m_rows.size() || (role != Qt::DisplayRole && role != Qt::EditRole))
         return {};
     return m_rows.at(index.row()).at(size_t(index.column()));
-}
-
-QVariant FavouritesModel::headerData(int section, Qt::Orientation orientation, int role) const
-{
-    if (orientation != Qt::Horizontal || role != Qt::DisplayRole)
-        return {};
-    switch (section) {
-    case Name:
-        return tr("Server Name");
-    case Address:
-        return tr("Server IP Address");
-    case Password:
-        return tr("Password");
-    default:
-        return {};
-    }
 }
 
 void FavouritesModel::sort(int column, Qt::SortOrder order)
@@ -96,13 +75,9 @@ void FavouritesModel::setCell(int row, int column, const QString& text)
     emit dataChanged(index(row, column), index(row, column));
 }
 
-void FavouritesModel::retranslate()
-{
-    emit headerDataChanged(Qt::Horizontal, 0, 2);
-}
-
 FrmFavourites::FrmFavourites(SettingsStore& settings, QString dataFolder, QWidget* parent)
-    : EditableListDialog(settings, new FavouritesModel, {180, 150, 110}, Keys::Favourites.columns, parent)
+    : EditableListDialog(settings, new FavouritesModel, ListColumns::designWidths(FavouritesModel::Columns),
+                         Keys::Favourites.columns, parent)
     , m_path(Favourites::filePath(dataFolder))
     , m_model(static_cast<FavouritesModel*>(listModel()))
 {

@@ -3,27 +3,29 @@
 
 #include "widgets/columnlayout.h"
 #include "widgets/editablelistdialog.h"
-
-#include <QAbstractTableModel>
+#include "widgets/reportmodel.h"
 
 class QPushButton;
 
 // The favourites as the editor lists them: "Server Name", "Server IP
 // Address", "Password", each cell the text the user sees and edits.
-class FavouritesModel final : public QAbstractTableModel {
+class FavouritesModel final : public ReportModel {
     Q_OBJECT
     Q_DISABLE_COPY_MOVE(FavouritesModel)
 
 public:
-    enum Column { Name, Address, Password };
-    using Row = std::array<QString, 3>;
+    enum Column { Name, Address, Password, ColumnCount };
+    static constexpr std::array<ListColumn, ColumnCount> Columns{{
+        ListColumn{QT_TRANSLATE_NOOP("ListColumns", "Server Name"), 180},
+        ListColumn{QT_TRANSLATE_NOOP("ListColumns", "Server IP Address"), 150},
+        ListColumn{QT_TRANSLATE_NOOP("ListColumns", "Password"), 110},
+    }};
+    using Row = std::array<QString, ColumnCount>;
 
     explicit FavouritesModel(QObject* parent = nullptr);
 
     int rowCount(const QModelIndex& parent = {}) const override;
-    int columnCount(const QModelIndex& parent = {}) const override;
     QVariant data(const QModelIndex& index, int role = Qt::DisplayRole) const override;
-    QVariant headerData(int section, Qt::Orientation orientation, int role = Qt::DisplayRole) const override;
     void sort(int column, Qt::SortOrder order = Qt::AscendingOrder) override;
 
     const QList<Row>& rows() const { return m_rows; }
@@ -31,7 +33,6 @@ public:
     void append(const Row& row);
     void remove(int row);
     void setCell(int row, int column, const QString& text);
-    void retranslate();
 
 private:
     QList<Row> m_rows;

@@ -16,7 +16,8 @@
 #include <QPushButton>
 
 FrmFilters::FrmFilters(SettingsStore& settings, QString dataFolder, QWidget* parent)
-    : EditableListDialog(settings, new FiltersModel, {160, 200}, Keys::Filters.columns, parent)
+    : EditableListDialog(settings, new FiltersModel, ListColumns::designWidths(FiltersModel::Columns),
+                         Keys::Filters.columns, parent)
     , m_path(Filters::filePath(dataFolder))
     , m_model(static_cast<FiltersModel*>(listModel()))
 {

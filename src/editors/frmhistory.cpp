@@ -23,18 +23,13 @@ constexpr QStringView OrderPrefix = u"H";
 } // namespace
 
 HistoryModel::HistoryModel(QObject* parent)
-    : QAbstractTableModel(parent)
+    : ReportModel(Columns, parent)
 {
 }
 
 int HistoryModel::rowCount(const QModelIndex& parent) const
 {
     return parent.isValid() ? 0 : int(m_entries.size());
-}
-
-int HistoryModel::columnCount(const QModelIndex& parent) const
-{
-    return parent.isValid() ? 0 : ColumnCount;
 }
 
 QVariant HistoryModel::data(const QModelIndex& index, int role) const
@@ -49,22 +44,6 @@ QVariant HistoryModel::data(const QModelIndex& index, int role) const
         return entry.endpointText();
     case Played:
         return QLocale().toString(QDateTime::fromSecsSinceEpoch(entry.joinedAt), QLocale::ShortFormat);
-    default:
-        return {};
-    }
-}
-
-QVariant HistoryModel::headerData(int section, Qt::Orientation orientation, int role) const
-{
-    if (orientation != Qt::Horizontal || role != Qt::DisplayRole)
-        return {};
-    switch (section) {
-    case Name:
-        return tr("Server");
-    case Address:
-        return tr("Server IP Address");
-    case Played:
-        return tr("Last Played");
     default:
         return {};
     }
@@ -93,18 +72,13 @@ void HistoryModel::setEntries(const PlayHistory::List& entries)
     endResetModel();
 }
 
-void HistoryModel::retranslate()
-{
-    emit headerDataChanged(Qt::Horizontal, 0, ColumnCount - 1);
-}
-
 FrmHistory::FrmHistory(SettingsStore& settings, QString dataFolder, QWidget* parent)
     : QDialog(parent)
     , m_path(PlayHistory::filePath(dataFolder))
     , m_model(new HistoryModel(this))
 {
     setObjectName(QStringLiteral("frmHistory"));
-    lstHistory = new ReportView(m_model, {170, 140, 175}, this);
+    lstHistory = new ReportView(m_model, m_model->designWidths(), this);
     lstHistory->setObjectName(QStringLiteral("lstHistory"));
     lstHistory->setSortingEnabled(true);
     // Newest first, as the file keeps them; a click sorts by a column.

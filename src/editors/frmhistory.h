@@ -2,8 +2,8 @@
 #pragma once
 
 #include "userdata/playhistory.h"
+#include "widgets/reportmodel.h"
 
-#include <QAbstractTableModel>
 #include <QDialog>
 
 class CopyCommands;
@@ -15,25 +15,27 @@ class SettingsStore;
 
 // The servers joined lately as a list: "Server", "Server IP Address",
 // "Last Played", newest first; a header click sorts.
-class HistoryModel final : public QAbstractTableModel {
+class HistoryModel final : public ReportModel {
     Q_OBJECT
     Q_DISABLE_COPY_MOVE(HistoryModel)
 
 public:
     enum Column { Name, Address, Played, ColumnCount };
+    static constexpr std::array<ListColumn, ColumnCount> Columns{{
+        ListColumn{QT_TRANSLATE_NOOP("ListColumns", "Server"), 170},
+        ListColumn{QT_TRANSLATE_NOOP("ListColumns", "Server IP Address"), 140},
+        ListColumn{QT_TRANSLATE_NOOP("ListColumns", "Last Played"), 175},
+    }};
 
     explicit HistoryModel(QObject* parent = nullptr);
 
     int rowCount(const QModelIndex& parent = {}) const override;
-    int columnCount(const QModelIndex& parent = {}) const override;
     QVariant data(const QModelIndex& index, int role = Qt::DisplayRole) const override;
-    QVariant headerData(int section, Qt::Orientation orientation, int role = Qt::DisplayRole) const override;
     // Text columns without regard to case; the time by the time itself.
     void sort(int column, Qt::SortOrder order = Qt::AscendingOrder) override;
 
     void setEntries(const PlayHistory::List& entries);
     const PlayHistory::List& entries() const { return m_entries; }
-    void retranslate();
 
 private:
     PlayHistory::List m_entries;
