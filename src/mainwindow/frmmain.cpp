@@ -120,6 +120,8 @@ void FrmMain::createControls()
     state.serverList = m_tabs->serverSplitter();
     state.panes = m_details;
     state.firstPaneDefault = [this] { return m_details->playersPaneWidth(); };
+    // Most of the height for the servers, the rest for the selected one.
+    state.serverListDefault = [this] { return m_tabs->serverSplitter()->height() * 3 / 5; };
     state.lists = {{m_playerPane->view(), Keys::PlayerList.columns},
                    {m_serverPane->view(), Keys::ServerList.columns},
                    {m_details->players(), Keys::ServerPlayers.columns},
@@ -220,13 +222,14 @@ void FrmMain::layOutControls()
     titleRow->addWidget(lblAbout);
     titleRow->addStretch();
 
-    auto* findRow = new QHBoxLayout;
-    findRow->addWidget(m_find, 1);
-    findRow->addSpacing(12);
-    findRow->addWidget(lblPlayers);
-    findRow->addSpacing(12);
-    findRow->addWidget(lblServers);
-
+    // The counters, one above the other beside the progress bar: as tall as
+    // the status line, wide enough for five digits in every language, so
+    // nothing moves as they grow.
+    auto* counters = new QVBoxLayout;
+    counters->setSpacing(0);
+    counters->addWidget(lblPlayers);
+    counters->addWidget(lblServers);
+    m_queryBar->addToStatusRow(counters);
     m_queryBar->addToStatusRow(m_joinPanel->stopWaitingButton());
     m_queryBar->addToButtonRow(cmdExit);
 
@@ -235,7 +238,7 @@ void FrmMain::layOutControls()
     main->addWidget(m_tabs, 1);
     main->addWidget(m_selection);
     main->addWidget(m_joinPanel);
-    main->addLayout(findRow);
+    main->addWidget(m_find);
     main->addWidget(m_queryBar);
     main->addWidget(m_dialogs);
 }
@@ -249,6 +252,8 @@ void FrmMain::retranslateUi()
     m_queryBar->retranslate();
     m_dialogs->retranslate();
     cmdExit->setText(tr("Exit"));
+    lblPlayers->setMinimumWidth(lblPlayers->fontMetrics().horizontalAdvance(tr("%n players found", nullptr, 88888)));
+    lblServers->setMinimumWidth(lblServers->fontMetrics().horizontalAdvance(tr("%n servers found", nullptr, 88888)));
     m_joinPanel->retranslate();
     m_find->retranslate();
 

@@ -25,6 +25,8 @@ ListPane::ListPane(SettingsStore& settings, Keys::ListKeys keys, const ReportMod
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(m_view);
     setFocusProxy(m_view);
+    // Extra width goes to the last column instead of staying empty.
+    m_view->header()->setStretchLastSection(true);
     m_view->setItemDelegate(new RowMarkDelegate(m_view));
     connect(m_view, &QAbstractItemView::clicked, this, &ListPane::rowClicked);
     connect(m_view, &ReportView::menuRequested, this, [this](const QModelIndex& index, const QPoint& globalPos) {

@@ -27,9 +27,10 @@ ListTabs::ListTabs(SettingsStore& settings, ServerLists& lists, QWidget* parent)
     m_details = new ServerDetails(settings, rzrPSI);
     rzrPSI->addWidget(m_servers);
     rzrPSI->addWidget(m_details);
-    // The stored size is that of the first pane.
-    rzrPSI->setStretchFactor(0, 0);
-    rzrPSI->setStretchFactor(1, 1);
+    // The stored size is that of the first pane; when the window grows,
+    // the extra height goes to the server list, not to the panes below.
+    rzrPSI->setStretchFactor(0, 1);
+    rzrPSI->setStretchFactor(1, 0);
     m_players = new ListPane(settings, Keys::PlayerList, lists.players(), lists.visiblePlayers(), lists.playerRows(),
                              QStringLiteral("lstPlayerList"), this);
 

@@ -103,6 +103,11 @@ void QueryBar::addToStatusRow(QWidget* control)
     m_statusRow->addWidget(control);
 }
 
+void QueryBar::addToStatusRow(QLayout* controls)
+{
+    m_statusRow->addLayout(controls);
+}
+
 void QueryBar::addToButtonRow(QWidget* control)
 {
     m_buttonRow->addWidget(control);

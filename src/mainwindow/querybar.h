@@ -8,6 +8,7 @@
 class Desktop;
 class QFrame;
 class QHBoxLayout;
+class QLayout;
 class QProgressBar;
 class QPushButton;
 class QStackedLayout;
@@ -29,6 +30,7 @@ public:
     StatusLine* statusLine() const { return lblStatus; }
     // Controls of the window that go at the end of a row.
     void addToStatusRow(QWidget* control);
+    void addToStatusRow(QLayout* controls);
     void addToButtonRow(QWidget* control);
 
     void setStatus(const QString& text, StatusTone tone);

@@ -59,8 +59,9 @@ void WindowState::restoreSplitters()
     const int panesDefault =
         m_controls.firstPaneDefault ? m_controls.firstPaneDefault() : firstPaneSize(*m_controls.panes);
     setFirstPaneSize(*m_controls.panes, m_settings.value(Keys::SplitterPanes, panesDefault));
-    setFirstPaneSize(*m_controls.serverList,
-                     m_settings.value(Keys::SplitterServerList, firstPaneSize(*m_controls.serverList)));
+    const int listDefault =
+        m_controls.serverListDefault ? m_controls.serverListDefault() : firstPaneSize(*m_controls.serverList);
+    setFirstPaneSize(*m_controls.serverList, m_settings.value(Keys::SplitterServerList, listDefault));
 }
 
 void WindowState::saveSplitters()

@@ -38,6 +38,8 @@ public:
         QSplitter* panes = nullptr;      // the two panes side by side
         // The first pane's width before the user ever moved the splitter.
         std::function<int()> firstPaneDefault;
+        // The server list's height on a first start (nothing stored yet).
+        std::function<int()> serverListDefault;
         QList<List> lists;
         QList<Box> boxes;
         HistoryComboBox* playerName = nullptr;

@@ -1,6 +1,10 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "widgets/statusline.h"
 
+#include <QHelpEvent>
+#include <QPainter>
+#include <QToolTip>
+
 StatusLine::StatusLine(QWidget* parent)
     : QLabel(parent)
 {
@@ -12,10 +16,10 @@ StatusLine::StatusLine(QWidget* parent)
     QPalette statusPalette = palette();
     statusPalette.setColor(QPalette::Window, Qt::black);
     setPalette(statusPalette);
-    // Two lines, always: a long message wraps within the line's share of
-    // the row instead of widening it over the progress bar, and the lists
-    // above never move when a message comes or goes.
-    setWordWrap(true);
+    // Two lines, always: a long message is shortened within the line's
+    // share of the row instead of widening it over the progress bar or
+    // wrapping out of sight, and the lists above never move when a message
+    // comes or goes.
     setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
     setFixedHeight(2 * fontMetrics().lineSpacing() + 4);
     setContentsMargins(4, 0, 4, 0);
@@ -30,6 +34,43 @@ void StatusLine::setStatus(const QString& text, StatusTone tone)
     setText(text);
 }
 
+QStringList StatusLine::shownLines() const
+{
+    QStringList lines = text().split(QLatin1Char('\n'));
+    if (lines.size() > 2)
+        lines = QStringList{lines.first(), lines.mid(1).join(QLatin1Char(' '))};
+    const int width = contentsRect().width();
+    for (int i = 0; i < lines.size(); ++i)
+        // The first line says what happens; the second names hosts and
+        // addresses, whose ends tell them apart.
+        lines[i] = fontMetrics().elidedText(lines.at(i), i == 0 ? Qt::ElideRight : Qt::ElideMiddle, width);
+    return lines;
+}
+
+void StatusLine::paintEvent(QPaintEvent*)
+{
+    QPainter painter(this);
+    painter.setPen(palette().color(QPalette::WindowText));
+    const QStringList lines = shownLines();
+    const int spacing = fontMetrics().lineSpacing();
+    const QRect area = contentsRect();
+    int top = area.top() + (area.height() - spacing * int(lines.size())) / 2;
+    for (const QString& line : lines) {
+        painter.drawText(QRect(area.left(), top, area.width(), spacing), Qt::AlignLeft | Qt::AlignVCenter, line);
+        top += spacing;
+    }
+}
+
+bool StatusLine::event(QEvent* event)
+{
+    if (event->type() == QEvent::ToolTip && !text().isEmpty() && shownLines() != text().split(QLatin1Char('\n'))) {
+        const QString whole = toolTip().isEmpty() ? text() : text() + QStringLiteral("\n\n") + toolTip();
+        QToolTip::showText(static_cast<QHelpEvent*>(event)->globalPos(), whole, this);
+        return true;
+    }
+    return QLabel::event(event);
+}
+
 QColor StatusLine::colour(StatusTone tone)
 {
     switch (tone) {
@@ -38,7 +79,7 @@ QColor StatusLine::colour(StatusTone tone)
     case StatusTone::Querying:
         return QColor(255, 255, 0);
     case StatusTone::Done:
-        return QColor(0, 128, 8);
+        return QColor(0, 160, 16); // 6:1 on black, as the other tones
     case StatusTone::Failed:
         return QColor(255, 0, 0);
     case StatusTone::Hint:

@@ -18,6 +18,14 @@ public:
     StatusTone tone() const { return m_tone; }
     // The text colour of a tone on the line's black background.
     static QColor colour(StatusTone tone);
+    // The two lines as drawn: lines beyond the second join it, and each is
+    // shortened with "..." to the line's width. The whole text stays the
+    // label's text, and shows in the tooltip when it was shortened.
+    QStringList shownLines() const;
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+    bool event(QEvent* event) override;
 
 private:
     StatusTone m_tone = StatusTone::Hint;

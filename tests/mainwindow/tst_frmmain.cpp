@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
+#include "mainwindow/serverlistmodel.h"
 #include "presentation/frmabout.h"
 #include "presentation/frmoptions.h"
 #include "testwindow.h"
@@ -78,6 +79,22 @@ private slots:
         QTRY_VERIFY(run.list("lstServerList")->header()->length() <= run.list("lstServerList")->viewport()->width());
         QTRY_VERIFY(run.list("lvwPlayers")->header()->length() <= run.list("lvwPlayers")->viewport()->width());
         QVERIFY(run.list("lvwServerInfo")->width() >= 250);
+    }
+
+    // A larger window shows more servers: the extra height goes to the
+    // server list, the extra width to its last column.
+    void aLargerWindowGivesTheServerListTheRoom()
+    {
+        TestWindow run(*m_settings);
+        QVERIFY(run.show());
+        QTRY_VERIFY(run.list("lstServerList")->height() > run.list("lvwPlayers")->height());
+        const int list = run.list("lstServerList")->height();
+        const int panes = run.list("lvwPlayers")->height();
+        const int lastColumn = run.list("lstServerList")->header()->sectionSize(ServerListModel::Address);
+        run.window->resize(FrmMain::DesignSize + QSize(600, 400));
+        QTRY_COMPARE(run.list("lstServerList")->height(), list + 400);
+        QCOMPARE(run.list("lvwPlayers")->height(), panes);
+        QVERIFY(run.list("lstServerList")->header()->sectionSize(ServerListModel::Address) >= lastColumn + 600);
     }
 
     void listsHaveTheirColumnsInOrder()

@@ -3,6 +3,7 @@
 #include "mainwindow/serverlistmodel.h"
 #include "testports.h"
 #include "testwindow.h"
+#include "widgets/statusline.h"
 
 #include <QAction>
 #include <QApplication>
@@ -99,7 +100,7 @@ private slots:
         QCOMPARE(j.desktop.starts.size(), 2);
         QVERIFY(j.window->isVisible());
         QCOMPARE(j.status(), QStringLiteral("The game could not be started: /opt/quake4/quake4.x86 does not exist."));
-        QCOMPARE(j.statusColour(), QColor(255, 0, 0));
+        QCOMPARE(j.statusColour(), StatusLine::colour(StatusTone::Failed));
 
         j.desktop.startSucceeds = true;
         j.doubleClick(1);
@@ -271,7 +272,7 @@ private slots:
         QVERIFY(QDir(j.dataFile(QString())).mkdir(QStringLiteral("favourites.dat")));
         j.listAction("mPopAdd")->trigger();
         QCOMPARE(j.status(), QStringLiteral("The favourites file could not be written."));
-        QCOMPARE(j.statusColour(), QColor(255, 0, 0));
+        QCOMPARE(j.statusColour(), StatusLine::colour(StatusTone::Failed));
     }
 };
 

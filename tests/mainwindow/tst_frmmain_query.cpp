@@ -15,6 +15,7 @@
 #include "userdata/knownservers.h"
 #include "widgets/historycombobox.h"
 #include "widgets/reportview.h"
+#include "widgets/statusline.h"
 
 #include <QApplication>
 #include <QCheckBox>
@@ -82,7 +83,7 @@ private slots:
         TestWindow w(TestPorts::at(1), StartPort);
         QTest::mouseClick(w.button("cmdGet"), Qt::LeftButton);
         QVERIFY(w.status().startsWith(QStringLiteral("Requesting Server List from\n127.0.0.1")));
-        QCOMPARE(w.statusColour(), QColor(255, 128, 0));
+        QCOMPARE(w.statusColour(), StatusLine::colour(StatusTone::Requesting));
         QVERIFY(!w.button("cmdGet")->isEnabled());
         QVERIFY(!w.button("cmdFav")->isEnabled());
         QVERIFY(!w.button("cmdOptions")->isEnabled());
@@ -91,7 +92,7 @@ private slots:
         QVERIFY(!w.find<QLabel>("lblAbout")->isVisible());
 
         QTRY_COMPARE_WITH_TIMEOUT(w.status(), QStringLiteral("Done"), 8000);
-        QCOMPARE(w.statusColour(), QColor(0, 128, 8));
+        QCOMPARE(w.statusColour(), StatusLine::colour(StatusTone::Done));
         QVERIFY(w.button("cmdGet")->isEnabled());
         QVERIFY(!w.button("cmdCancel")->isVisible());
         QVERIFY(w.find<QLabel>("lblAbout")->isVisible());
@@ -148,11 +149,11 @@ private slots:
         w.settings().save(Keys::Speed.key, QStringLiteral("0"));
         QTest::mouseClick(w.button("cmdGet"), Qt::LeftButton);
         QTRY_VERIFY_WITH_TIMEOUT(w.status().startsWith(QStringLiteral("Querying 60 Servers...")), 4000);
-        QCOMPARE(w.statusColour(), QColor(255, 255, 0));
+        QCOMPARE(w.statusColour(), StatusLine::colour(StatusTone::Querying));
         QTRY_VERIFY_WITH_TIMEOUT(w.find<QProgressBar>("prbProgress")->value() >= 4, 4000);
         QTest::mouseClick(w.button("cmdCancel"), Qt::LeftButton);
         QCOMPARE(w.status(), QStringLiteral("Cancelled"));
-        QCOMPARE(w.statusColour(), QColor(255, 0, 0));
+        QCOMPARE(w.statusColour(), StatusLine::colour(StatusTone::Failed));
         QVERIFY(w.button("cmdGet")->isEnabled());
         const int listed = w.visible("lstServerList")->rowCount();
         QVERIFY(listed > 0 && listed < 60);
@@ -196,7 +197,7 @@ private slots:
                                .arg(TestPorts::local(301)));
         QCOMPARE(fleet.masterRequests(), 2);
         QCOMPARE(w.status(), QStringLiteral("Master Servers Timed Out"));
-        QCOMPARE(w.statusColour(), QColor(255, 0, 0));
+        QCOMPARE(w.statusColour(), StatusLine::colour(StatusTone::Failed));
         QCOMPARE(w.find<QLabel>("lblServers")->text(), QStringLiteral("0 servers found"));
         QVERIFY(w.button("cmdGet")->isEnabled());
         QVERIFY(!w.button("cmdCancel")->isVisible());
@@ -213,7 +214,7 @@ private slots:
         const QRect barBefore = w.find<QProgressBar>("prbProgress")->geometry();
         QTest::mouseClick(w.button("cmdGet"), Qt::LeftButton);
         QVERIFY(w.status().contains(QString::number(StartPort + 2)));
-        QCOMPARE(w.statusColour(), QColor(255, 0, 0));
+        QCOMPARE(w.statusColour(), StatusLine::colour(StatusTone::Failed));
         // The long message wraps within the line: all of it readable, and
         // nothing beside or above it moves.
         w.window->layout()->activate();
@@ -229,7 +230,7 @@ private slots:
         TestWindow w(TestPorts::at(451), 65530);
         QTest::mouseClick(w.button("cmdGet"), Qt::LeftButton);
         QCOMPARE(w.status(), QStringLiteral("The start port 65530 is not valid. Choose another in the options."));
-        QCOMPARE(w.statusColour(), QColor(255, 0, 0));
+        QCOMPARE(w.statusColour(), StatusLine::colour(StatusTone::Failed));
         QVERIFY(w.button("cmdGet")->isEnabled());
         QVERIFY(!w.window->queries().isRunning());
     }
@@ -474,7 +475,7 @@ private slots:
         w.type(find, QStringLiteral("no such server"));
         QCOMPARE(find->palette().color(QPalette::Base), QColor(255, 102, 102));
         QCOMPARE(w.status(), QStringLiteral("Text Not Found"));
-        QCOMPARE(w.statusColour(), QColor(255, 0, 0));
+        QCOMPARE(w.statusColour(), StatusLine::colour(StatusTone::Failed));
         QVERIFY(!list->currentIndex().isValid());
         QCOMPARE(w.find<MulticolorLabel>("mclSName")->caption(), QString());
 

@@ -7,6 +7,7 @@
 #include "testwindow.h"
 #include "update/updateflow.h"
 #include "userdata/knownservers.h"
+#include "widgets/statusline.h"
 
 #include <QDateTime>
 #include <QDir>
@@ -88,7 +89,7 @@ private slots:
         QVERIFY(QDir().mkpath(w.dataFile(QStringLiteral("servers.dat"))));
         QTest::mouseClick(w.button("cmdGet"), Qt::LeftButton);
         QTRY_VERIFY_WITH_TIMEOUT(w.status().startsWith(QStringLiteral("The servers that answered could not be")), 5000);
-        QCOMPARE(w.statusColour(), QColor(255, 0, 0));
+        QCOMPARE(w.statusColour(), StatusLine::colour(StatusTone::Failed));
         QCOMPARE(listedRows(w), 2);
     }
 

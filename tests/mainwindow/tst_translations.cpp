@@ -11,6 +11,7 @@
 #include "update/frmdownload.h"
 #include "update/frmupdate.h"
 #include "userdata/settingsstore.h"
+#include "widgets/statusline.h"
 
 #include <QAbstractButton>
 #include <QComboBox>
@@ -164,6 +165,38 @@ private slots:
                 left.append(it.key() + QStringLiteral(" = \"") + it.value() + QLatin1Char('"'));
         }
         QVERIFY2(left.isEmpty(), qPrintable(left.join(QLatin1Char('\n'))));
+        windows.language.apply(0);
+    }
+
+    // At the window's smallest size in every language, four-digit counts
+    // are read whole and the status line's two lines fit its width.
+    void theCountersAndTheStatusFitTheSmallestWindow()
+    {
+        Windows windows;
+        windows.main.resize(FrmMain::MinimumSize);
+        windows.main.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&windows.main));
+        auto* players = windows.main.findChild<QLabel*>(QStringLiteral("lblPlayers"));
+        auto* servers = windows.main.findChild<QLabel*>(QStringLiteral("lblServers"));
+        auto* status = windows.main.findChild<StatusLine*>(QStringLiteral("lblStatus"));
+        for (int index = 0; index < Language::Count; ++index) {
+            QVERIFY(windows.language.apply(index));
+            QTest::qWait(0);
+            players->setText(QCoreApplication::translate("FrmMain", "%n players found", nullptr, 1555));
+            servers->setText(QCoreApplication::translate("FrmMain", "%n servers found", nullptr, 1555));
+            status->setStatus(QStringLiteral("Querying 1555 Servers...\nWaiting for q4master.idsoftware.com, "
+                                             "master.quakehub.net\nhttps://quakehub.net/api/v1/servers/q4"),
+                              StatusTone::Querying);
+            QTest::qWait(0);
+            for (const QLabel* counter : {players, servers})
+                QVERIFY2(counter->contentsRect().width() >= counter->fontMetrics().horizontalAdvance(counter->text()),
+                         qPrintable(QStringLiteral("%1: %2").arg(index).arg(counter->text())));
+            const QStringList lines = status->shownLines();
+            QCOMPARE(lines.size(), 2);
+            for (const QString& line : lines)
+                QVERIFY(status->fontMetrics().horizontalAdvance(line) <= status->contentsRect().width());
+            QVERIFY(lines.first().startsWith(QStringLiteral("Querying 1555")));
+        }
         windows.language.apply(0);
     }
 
