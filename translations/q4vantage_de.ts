@@ -641,6 +641,14 @@ Auf einen freien Platz warten und beitreten, sobald einer frei wird?</translatio
         <source>&quot;%1&quot; is not a server address. Type a host name or an IP address, followed by a colon and a port from 1 to 65535 when the port is not the game&apos;s.</source>
         <translation>„%1“ ist keine Serveradresse. Geben Sie einen Hostnamen oder eine IP-Adresse ein, gefolgt von einem Doppelpunkt und einem Port von 1 bis 65535, wenn es nicht der Port des Spiels ist.</translation>
     </message>
+    <message>
+        <source>Wait for a Slot</source>
+        <translation>Auf einen Platz warten</translation>
+    </message>
+    <message>
+        <source>Join Anyway</source>
+        <translation>Trotzdem beitreten</translation>
+    </message>
 </context>
 <context>
     <name>JoinPanel</name>

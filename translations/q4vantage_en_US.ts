@@ -636,6 +636,14 @@ Wait for a free slot and join as soon as one opens?</source>
         <source>&quot;%1&quot; is not a server address. Type a host name or an IP address, followed by a colon and a port from 1 to 65535 when the port is not the game&apos;s.</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>Wait for a Slot</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Join Anyway</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>JoinPanel</name>

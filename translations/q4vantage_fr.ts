@@ -641,6 +641,14 @@ Attendre une place libre et rejoindre dès qu&apos;une place se libère ?</trans
         <source>&quot;%1&quot; is not a server address. Type a host name or an IP address, followed by a colon and a port from 1 to 65535 when the port is not the game&apos;s.</source>
         <translation>« %1 » n&apos;est pas une adresse de serveur. Saisissez un nom d&apos;hôte ou une adresse IP, suivi de deux-points et d&apos;un port de 1 à 65535 si ce n&apos;est pas celui du jeu.</translation>
     </message>
+    <message>
+        <source>Wait for a Slot</source>
+        <translation>Attendre une place</translation>
+    </message>
+    <message>
+        <source>Join Anyway</source>
+        <translation>Rejoindre quand même</translation>
+    </message>
 </context>
 <context>
     <name>JoinPanel</name>

@@ -641,6 +641,14 @@ Attendere un posto libero ed entrare appena se ne libera uno?</translation>
         <source>&quot;%1&quot; is not a server address. Type a host name or an IP address, followed by a colon and a port from 1 to 65535 when the port is not the game&apos;s.</source>
         <translation>&quot;%1&quot; non è un indirizzo di server. Digitare un nome host o un indirizzo IP, seguito da due punti e da una porta da 1 a 65535 se non è quella del gioco.</translation>
     </message>
+    <message>
+        <source>Wait for a Slot</source>
+        <translation>Attendi un posto</translation>
+    </message>
+    <message>
+        <source>Join Anyway</source>
+        <translation>Entra comunque</translation>
+    </message>
 </context>
 <context>
     <name>JoinPanel</name>

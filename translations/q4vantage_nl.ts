@@ -641,6 +641,14 @@ Wachten op een vrije plek en deelnemen zodra er een vrijkomt?</translation>
         <source>&quot;%1&quot; is not a server address. Type a host name or an IP address, followed by a colon and a port from 1 to 65535 when the port is not the game&apos;s.</source>
         <translation>&quot;%1&quot; is geen serveradres. Typ een hostnaam of een IP-adres, gevolgd door een dubbele punt en een poort van 1 tot 65535 als het niet de poort van het spel is.</translation>
     </message>
+    <message>
+        <source>Wait for a Slot</source>
+        <translation>Wachten op een plek</translation>
+    </message>
+    <message>
+        <source>Join Anyway</source>
+        <translation>Toch deelnemen</translation>
+    </message>
 </context>
 <context>
     <name>JoinPanel</name>

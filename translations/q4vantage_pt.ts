@@ -641,6 +641,14 @@ Esperar por uma vaga e entrar assim que uma abrir?</translation>
         <source>&quot;%1&quot; is not a server address. Type a host name or an IP address, followed by a colon and a port from 1 to 65535 when the port is not the game&apos;s.</source>
         <translation>&quot;%1&quot; não é um endereço de servidor. Escreva um nome de anfitrião ou um endereço IP, seguido de dois pontos e de uma porta de 1 a 65535 quando não for a do jogo.</translation>
     </message>
+    <message>
+        <source>Wait for a Slot</source>
+        <translation>Esperar por um lugar</translation>
+    </message>
+    <message>
+        <source>Join Anyway</source>
+        <translation>Entrar mesmo assim</translation>
+    </message>
 </context>
 <context>
     <name>JoinPanel</name>

@@ -85,7 +85,9 @@ void JoinFlow::join(const Target& target)
     emit joining();
     QString password = passwordFor(target);
     if (target.passworded && password.isEmpty()) {
-        password = m_desktop.inputText(m_window, target.serverName, tr("Please enter the password for this server"))
+        password = m_desktop
+                       .inputText(m_window, target.serverName, tr("Please enter the password for this server"), {},
+                                  Desktop::Echo::Secret)
                        .value_or(QString());
         if (password.isEmpty() &&
             m_desktop.message(m_window, Desktop::Icon::Question, tr("No Password Provided"), tr("Join Server Anyway?"),
@@ -96,7 +98,8 @@ void JoinFlow::join(const Target& target)
         const auto answer = m_desktop.message(
             m_window, Desktop::Icon::Question, target.serverName,
             tr("%1 is full.\nWait for a free slot and join as soon as one opens?").arg(target.serverName),
-            QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel);
+            QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel,
+            {{QMessageBox::Yes, tr("Wait for a Slot")}, {QMessageBox::No, tr("Join Anyway")}});
         if (answer == QMessageBox::Yes) {
             // Asked now, not when the slot opens minutes later.
             if (!executable().isEmpty())

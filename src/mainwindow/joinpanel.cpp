@@ -11,6 +11,7 @@
 
 #include <QGridLayout>
 #include <QLabel>
+#include <QLineEdit>
 #include <QPushButton>
 
 JoinPanel::JoinPanel(SettingsStore& settings, Desktop& desktop, const QString& favouritesPath,
@@ -24,6 +25,8 @@ JoinPanel::JoinPanel(SettingsStore& settings, Desktop& desktop, const QString& f
     lblPlayerName->setBuddy(cmbPlayerName);
     lblPassword = makeControl<QLabel>(this, "lblPassword");
     cmbPassword = makeControl<HistoryComboBox>(this, "cmbPassword");
+    // Nobody looking over the player's shoulder reads the password.
+    cmbPassword->lineEdit()->setEchoMode(QLineEdit::Password);
     lblPassword->setBuddy(cmbPassword);
     lblPName = makeControl<QLabel>(this, "lblPName");
     mclPName = makeControl<MulticolorLabel>(this, "mclPName");

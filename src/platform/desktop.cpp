@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "platform/desktop.h"
 
+#include <QAbstractButton>
 #include <QApplication>
 #include <QColorDialog>
 #include <QDesktopServices>
@@ -55,9 +56,13 @@ QString Desktop::executablePattern()
 }
 
 QMessageBox::StandardButton QtDesktop::message(QWidget* parent, Icon icon, const QString& title, const QString& text,
-                                               QMessageBox::StandardButtons buttons)
+                                               QMessageBox::StandardButtons buttons, const ButtonTexts& buttonTexts)
 {
     QMessageBox box(toQtIcon(icon), title, text, buttons, parent);
+    for (auto it = buttonTexts.cbegin(); it != buttonTexts.cend(); ++it) {
+        if (QAbstractButton* button = box.button(it.key()))
+            button->setText(it.value());
+    }
     // Messages quote what servers and sites sent: never as markup.
     box.setTextFormat(Qt::PlainText);
     const int result = box.exec();
@@ -65,10 +70,11 @@ QMessageBox::StandardButton QtDesktop::message(QWidget* parent, Icon icon, const
 }
 
 std::optional<QString> QtDesktop::inputText(QWidget* parent, const QString& title, const QString& prompt,
-                                            const QString& initialText)
+                                            const QString& initialText, Echo echo)
 {
     bool ok = false;
-    const QString text = QInputDialog::getText(parent, title, prompt, QLineEdit::Normal, initialText, &ok);
+    const QString text = QInputDialog::getText(
+        parent, title, prompt, echo == Echo::Secret ? QLineEdit::Password : QLineEdit::Normal, initialText, &ok);
     if (!ok)
         return std::nullopt;
     return text;

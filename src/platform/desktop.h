@@ -5,6 +5,7 @@
 
 #include <QColor>
 #include <QCoreApplication>
+#include <QMap>
 #include <QMessageBox>
 #include <QString>
 #include <QStringList>
@@ -39,14 +40,21 @@ public:
     // when the main window closes, so each writes what it holds.
     static void closeOtherWindows(const QWidget* main);
 
+    // Words for buttons that do more than "Yes" or "No" can say.
+    using ButtonTexts = QMap<QMessageBox::StandardButton, QString>;
+    // What the one-line input box shows of what is typed.
+    enum class Echo { Normal, Secret };
+
     // A modal message box; returns the button the user pressed, or
     // QMessageBox::NoButton when the box was closed some other way.
     virtual QMessageBox::StandardButton message(QWidget* parent, Icon icon, const QString& title, const QString& text,
-                                                QMessageBox::StandardButtons buttons) = 0;
+                                                QMessageBox::StandardButtons buttons,
+                                                const ButtonTexts& buttonTexts = {}) = 0;
 
-    // A modal one-line input box; nothing when the user cancelled.
+    // A modal one-line input box; nothing when the user cancelled. A
+    // secret (a password) is shown as dots.
     virtual std::optional<QString> inputText(QWidget* parent, const QString& title, const QString& prompt,
-                                             const QString& initialText = {}) = 0;
+                                             const QString& initialText = {}, Echo echo = Echo::Normal) = 0;
 
     // A modal file-open dialog; an empty text when the user cancelled.
     virtual QString openFileName(QWidget* parent, const QString& title, const QString& folder,
@@ -78,9 +86,10 @@ public:
 class QtDesktop final : public Desktop {
 public:
     QMessageBox::StandardButton message(QWidget* parent, Icon icon, const QString& title, const QString& text,
-                                        QMessageBox::StandardButtons buttons) override;
+                                        QMessageBox::StandardButtons buttons,
+                                        const ButtonTexts& buttonTexts = {}) override;
     std::optional<QString> inputText(QWidget* parent, const QString& title, const QString& prompt,
-                                     const QString& initialText) override;
+                                     const QString& initialText = {}, Echo echo = Echo::Normal) override;
     QString openFileName(QWidget* parent, const QString& title, const QString& folder, const QString& filter) override;
     std::optional<QColor> pickColour(QWidget* parent, const QColor& start) override;
     bool openUrl(const QUrl& url) override;

@@ -273,6 +273,10 @@ private slots:
         w.doubleClickServer(1);
         QCOMPARE(w.desktop.messages.last().text,
                  QStringLiteral("Full is full.\nWait for a free slot and join as soon as one opens?"));
+        // The buttons say what they do.
+        QCOMPARE(w.desktop.messages.last().buttonTexts,
+                 (Desktop::ButtonTexts{{QMessageBox::Yes, QStringLiteral("Wait for a Slot")},
+                                       {QMessageBox::No, QStringLiteral("Join Anyway")}}));
         QVERIFY(w.window->slotWaiter().isWaiting());
         QVERIFY(w.button("cmdStopWaiting")->isVisible());
         QVERIFY(w.status().startsWith(QLatin1String("Full is full (2/2): waiting")));

@@ -193,6 +193,7 @@ private slots:
         j.doubleClick(0);
         QCOMPARE(j.desktop.inputs.last().title, QStringLiteral("Locked"));
         QCOMPARE(j.desktop.inputs.last().prompt, QStringLiteral("Please enter the password for this server"));
+        QCOMPARE(j.desktop.inputs.last().echo, Desktop::Echo::Secret);
         QCOMPARE(j.desktop.messages.last().text, QStringLiteral("Join Server Anyway?"));
         QCOMPARE(j.desktop.messages.last().title, QStringLiteral("No Password Provided"));
         QCOMPARE(j.desktop.starts.size(), 1);

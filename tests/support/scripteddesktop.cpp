@@ -2,9 +2,10 @@
 #include "scripteddesktop.h"
 
 QMessageBox::StandardButton ScriptedDesktop::message(QWidget*, Icon icon, const QString& title, const QString& text,
-                                                     QMessageBox::StandardButtons buttons)
+                                                     QMessageBox::StandardButtons buttons,
+                                                     const ButtonTexts& buttonTexts)
 {
-    messages.append({icon, title, text, buttons});
+    messages.append({icon, title, text, buttons, buttonTexts});
     if (messageAnswers.isEmpty()) {
         ++unexpectedCalls;
         return QMessageBox::Cancel;
@@ -13,9 +14,9 @@ QMessageBox::StandardButton ScriptedDesktop::message(QWidget*, Icon icon, const 
 }
 
 std::optional<QString> ScriptedDesktop::inputText(QWidget*, const QString& title, const QString& prompt,
-                                                  const QString& initialText)
+                                                  const QString& initialText, Echo echo)
 {
-    inputs.append({title, prompt, initialText});
+    inputs.append({title, prompt, initialText, echo});
     if (inputAnswers.isEmpty()) {
         ++unexpectedCalls;
         return std::nullopt;

@@ -20,11 +20,13 @@ public:
         QString title;
         QString text;
         QMessageBox::StandardButtons buttons;
+        ButtonTexts buttonTexts;
     };
     struct Input {
         QString title;
         QString prompt;
         QString initialText;
+        Echo echo = Echo::Normal;
     };
     struct FileRequest {
         QString title;
@@ -61,9 +63,10 @@ public:
     int unexpectedCalls = 0;
 
     QMessageBox::StandardButton message(QWidget* parent, Icon icon, const QString& title, const QString& text,
-                                        QMessageBox::StandardButtons buttons) override;
+                                        QMessageBox::StandardButtons buttons,
+                                        const ButtonTexts& buttonTexts = {}) override;
     std::optional<QString> inputText(QWidget* parent, const QString& title, const QString& prompt,
-                                     const QString& initialText) override;
+                                     const QString& initialText = {}, Echo echo = Echo::Normal) override;
     QString openFileName(QWidget* parent, const QString& title, const QString& folder, const QString& filter) override;
     std::optional<QColor> pickColour(QWidget* parent, const QColor& start) override;
     bool openUrl(const QUrl& url) override;

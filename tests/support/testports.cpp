@@ -11,7 +11,7 @@
 namespace {
 
 constexpr int FirstBlock = 10000;
-constexpr int Blocks = 5; // 10000 to 24999
+constexpr int Blocks = 5;       // 10000 to 24999
 constexpr int WaitRounds = 600; // of 200 ms: two minutes, a test's time limit
 
 bool bindLoopback(int socket, int port)
