@@ -23,8 +23,9 @@ void nameTheProgram()
 }
 
 // --help and --version answer before anything needs a display, so they
-// work over ssh and in scripts. Other options are left for Qt's own
-// (-platform, -style, ...), which the GUI application reads.
+// work over ssh and in scripts, and so does an option nobody knows: it is
+// refused with the usage instead of being ignored. Qt's own options
+// (-platform, -style, ...) are left for the GUI application to read.
 void answerInformationOptions(int argc, char* argv[])
 {
     QCoreApplication probe(argc, argv);
@@ -32,13 +33,33 @@ void answerInformationOptions(int argc, char* argv[])
     QCommandLineParser parser;
     parser.setApplicationDescription(QStringLiteral("A server browser for Quake 4: finds servers and players, "
                                                     "and joins a game with a double click."));
+    parser.setSingleDashWordOptionMode(QCommandLineParser::ParseAsLongOptions);
     parser.addHelpOption();
     parser.addVersionOption();
-    parser.parse(QCoreApplication::arguments());
+    for (const char* name : {"platform", "platformpluginpath", "platformtheme", "plugin", "qwindowgeometry",
+                             "qwindowicon", "qwindowtitle", "session", "display", "geometry", "name", "title", "visual",
+                             "style", "stylesheet", "fontengine", "dialogs", "qmljsdebugger"}) {
+        QCommandLineOption qtOption(QLatin1String(name), QString(), QStringLiteral("value"));
+        qtOption.setFlags(QCommandLineOption::HiddenFromHelp);
+        parser.addOption(qtOption);
+    }
+    for (const char* name : {"reverse", "widgetcount", "nograb", "dograb", "sync"}) {
+        QCommandLineOption qtFlag{QString::fromLatin1(name)};
+        qtFlag.setFlags(QCommandLineOption::HiddenFromHelp);
+        parser.addOption(qtFlag);
+    }
+    const bool understood = parser.parse(QCoreApplication::arguments());
     if (parser.isSet(QStringLiteral("help")))
         parser.showHelp(0);
     if (parser.isSet(QStringLiteral("version")))
         parser.showVersion();
+    if (!understood || !parser.positionalArguments().isEmpty()) {
+        const QString why =
+            !understood ? parser.errorText()
+                        : QStringLiteral("Unexpected argument '%1'.").arg(parser.positionalArguments().constFirst());
+        std::fprintf(stderr, "q4vantage: %s\n\n%s", qPrintable(why), qPrintable(parser.helpText()));
+        std::exit(2);
+    }
 }
 
 [[noreturn]] int exitAtOnce(int exitCode)

@@ -34,6 +34,13 @@ private slots:
         QCOMPARE(help->exitCode(), 0);
         const QByteArray text = help->readAllStandardOutput();
         QVERIFY2(text.contains("Usage:") && text.contains("--version"), text.constData());
+
+        // An option nobody knows is refused with the usage, display or not.
+        std::unique_ptr<QProcess> bogus(startHeadless({QStringLiteral("--bogus")}));
+        QVERIFY(bogus->waitForFinished(10000));
+        QCOMPARE(bogus->exitCode(), 2);
+        const QByteArray refusal = bogus->readAllStandardError();
+        QVERIFY2(refusal.contains("Unknown option 'bogus'") && refusal.contains("Usage:"), refusal.constData());
     }
 
     // A second start while the program runs brings the running window to

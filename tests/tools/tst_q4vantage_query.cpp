@@ -72,6 +72,10 @@ private slots:
         const QJsonObject player = first[QStringLiteral("player_list")].toArray().first().toObject();
         QCOMPARE(player[QStringLiteral("name_plain")].toString(), QStringLiteral("Bob"));
         QCOMPARE(player[QStringLiteral("num")].toInt(), 7);
+
+        // The text summary counts in English: one address, two addresses.
+        QueryReport::Writer text(QueryReport::Format::Text);
+        QVERIFY(text.finish({1, 1, 0, 0, 40, {}}).startsWith("1 address, 1 answered"));
     }
 
     void queriesTheMastersListAndExitsZero()
@@ -250,6 +254,15 @@ private slots:
                                    m_home.path());
         QCOMPARE(silent.exitCode, 1);
         QVERIFY(silent.err.contains("Timed Out"));
+        // JSON is a document whatever happened: the source says why.
+        const Run silentJson =
+            runTool({QStringLiteral("--master"), TestPorts::local(201), QStringLiteral("--start-port"),
+                     QString::number(StartPort), QStringLiteral("--format"), QStringLiteral("json")},
+                    m_home.path());
+        QCOMPARE(silentJson.exitCode, 1);
+        const QJsonObject document = QJsonDocument::fromJson(silentJson.out).object();
+        QCOMPARE(document[QStringLiteral("sources")].toArray().at(0)[QStringLiteral("error")].toString(),
+                 QStringLiteral("did not answer"));
 
         // Favourites with no server: nothing to wait for, a clear word at once.
         const QString empty = m_home.filePath(QStringLiteral("empty.dat"));

@@ -214,10 +214,16 @@ int main(int argc, char* argv[])
         for (const SourceReport& source : session.sourceReports())
             failed.append(QStringLiteral("%1: %2").arg(source.name, source.error));
         std::fprintf(stderr, "q4vantage-query: Master Servers Timed Out (%s)\n", qPrintable(failed.join("; ")));
+        // A script reading JSON gets a document whatever happened: the
+        // sources in it say what each one gave.
+        if (format == QLatin1String("json"))
+            report();
         QCoreApplication::exit(MasterFailed);
     });
     QObject::connect(&session, &QuerySession::failed, &app, [&](const QueryError& error) {
         std::fprintf(stderr, "q4vantage-query: %s\n", qPrintable(error.message()));
+        if (format == QLatin1String("json"))
+            report();
         QCoreApplication::exit(MasterFailed);
     });
 
@@ -226,6 +232,8 @@ int main(int argc, char* argv[])
                               : session.startSources(sources);
     if (error) {
         std::fprintf(stderr, "q4vantage-query: %s\n", qPrintable(error->message()));
+        if (format == QLatin1String("json"))
+            report();
         return error->kind == QueryError::Kind::PortUnavailable ? PortUnavailable : MasterFailed;
     }
     exitCode = QCoreApplication::exec();

@@ -84,19 +84,27 @@ QByteArray Writer::server(const ServerRecord& record)
     return (m_servers == 1 ? QByteArray("{\n    \"servers\": [\n        ") : QByteArray(",\n        ")) + object;
 }
 
+namespace {
+
+QString addresses(int count)
+{
+    return count == 1 ? QStringLiteral("1 address") : QStringLiteral("%1 addresses").arg(count);
+}
+
+} // namespace
+
 QByteArray Writer::finish(const Summary& summary)
 {
     if (m_format == Format::Text) {
         QString out;
         for (const SourceReport& source : summary.sources) {
             out += source.failed() ? QStringLiteral("%1 %2: %3\n").arg(kindName(source.kind), source.name, source.error)
-                                   : QStringLiteral("%1 %2: %3 addresses, %4 skipped\n")
-                                         .arg(kindName(source.kind), source.name)
-                                         .arg(source.addresses)
+                                   : QStringLiteral("%1 %2: %3, %4 skipped\n")
+                                         .arg(kindName(source.kind), source.name, addresses(source.addresses))
                                          .arg(source.skipped);
         }
-        out += QStringLiteral("%1 addresses, %2 answered, %3 timed out, %4 dropped datagrams, %5 ms\n")
-                   .arg(summary.addresses)
+        out += QStringLiteral("%1, %2 answered, %3 timed out, %4 dropped datagrams, %5 ms\n")
+                   .arg(addresses(summary.addresses))
                    .arg(summary.answered)
                    .arg(summary.timedOut)
                    .arg(summary.droppedDatagrams)
