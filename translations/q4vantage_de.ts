@@ -786,6 +786,18 @@ Auf einen freien Platz warten und beitreten, sobald einer frei wird?</translatio
         <source>%1 was added to your friends.</source>
         <translation>%1 wurde zu Ihren Freunden hinzugefügt.</translation>
     </message>
+    <message>
+        <source>&amp;Join</source>
+        <translation>&amp;Beitreten</translation>
+    </message>
+    <message>
+        <source>R&amp;efresh</source>
+        <translation>A&amp;ktualisieren</translation>
+    </message>
+    <message>
+        <source>%1 was added to your favourites.</source>
+        <translation>%1 wurde zu Ihren Favoriten hinzugefügt.</translation>
+    </message>
 </context>
 <context>
     <name>ListTabs</name>
@@ -910,6 +922,10 @@ Auf einen freien Platz warten und beitreten, sobald einer frei wird?</translatio
     <message>
         <source>Rules of the selected server</source>
         <translation>Regeln des ausgewählten Servers</translation>
+    </message>
+    <message>
+        <source>Add To F&amp;riends</source>
+        <translation>Zu F&amp;reunden hinzufügen</translation>
     </message>
 </context>
 <context>

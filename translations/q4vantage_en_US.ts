@@ -781,6 +781,18 @@ Wait for a free slot and join as soon as one opens?</source>
         <source>%1 was added to your friends.</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>&amp;Join</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>R&amp;efresh</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 was added to your favourites.</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>ListTabs</name>
@@ -901,6 +913,10 @@ Wait for a free slot and join as soon as one opens?</source>
     </message>
     <message>
         <source>Rules of the selected server</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Add To F&amp;riends</source>
         <translation type="unfinished"></translation>
     </message>
 </context>

@@ -786,6 +786,18 @@ Attendre une place libre et rejoindre dès qu&apos;une place se libère ?</trans
         <source>%1 was added to your friends.</source>
         <translation>%1 a été ajouté à vos amis.</translation>
     </message>
+    <message>
+        <source>&amp;Join</source>
+        <translation>Re&amp;joindre</translation>
+    </message>
+    <message>
+        <source>R&amp;efresh</source>
+        <translation>Act&amp;ualiser</translation>
+    </message>
+    <message>
+        <source>%1 was added to your favourites.</source>
+        <translation>%1 a été ajouté à vos favoris.</translation>
+    </message>
 </context>
 <context>
     <name>ListTabs</name>
@@ -910,6 +922,10 @@ Attendre une place libre et rejoindre dès qu&apos;une place se libère ?</trans
     <message>
         <source>Rules of the selected server</source>
         <translation>Règles du serveur sélectionné</translation>
+    </message>
+    <message>
+        <source>Add To F&amp;riends</source>
+        <translation>Ajouter aux &amp;amis</translation>
     </message>
 </context>
 <context>

@@ -786,6 +786,18 @@ Attendere un posto libero ed entrare appena se ne libera uno?</translation>
         <source>%1 was added to your friends.</source>
         <translation>%1 è stato aggiunto ai tuoi amici.</translation>
     </message>
+    <message>
+        <source>&amp;Join</source>
+        <translation>&amp;Entra</translation>
+    </message>
+    <message>
+        <source>R&amp;efresh</source>
+        <translation>A&amp;ggiorna</translation>
+    </message>
+    <message>
+        <source>%1 was added to your favourites.</source>
+        <translation>%1 è stato aggiunto ai tuoi preferiti.</translation>
+    </message>
 </context>
 <context>
     <name>ListTabs</name>
@@ -910,6 +922,10 @@ Attendere un posto libero ed entrare appena se ne libera uno?</translation>
     <message>
         <source>Rules of the selected server</source>
         <translation>Regole del server selezionato</translation>
+    </message>
+    <message>
+        <source>Add To F&amp;riends</source>
+        <translation>Aggiungi agli &amp;amici</translation>
     </message>
 </context>
 <context>

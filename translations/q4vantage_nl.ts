@@ -786,6 +786,18 @@ Wachten op een vrije plek en deelnemen zodra er een vrijkomt?</translation>
         <source>%1 was added to your friends.</source>
         <translation>%1 is toegevoegd aan uw vrienden.</translation>
     </message>
+    <message>
+        <source>&amp;Join</source>
+        <translation>&amp;Deelnemen</translation>
+    </message>
+    <message>
+        <source>R&amp;efresh</source>
+        <translation>V&amp;ernieuwen</translation>
+    </message>
+    <message>
+        <source>%1 was added to your favourites.</source>
+        <translation>%1 is toegevoegd aan uw favorieten.</translation>
+    </message>
 </context>
 <context>
     <name>ListTabs</name>
@@ -910,6 +922,10 @@ Wachten op een vrije plek en deelnemen zodra er een vrijkomt?</translation>
     <message>
         <source>Rules of the selected server</source>
         <translation>Regels van de geselecteerde server</translation>
+    </message>
+    <message>
+        <source>Add To F&amp;riends</source>
+        <translation>Toevoegen aan v&amp;rienden</translation>
     </message>
 </context>
 <context>

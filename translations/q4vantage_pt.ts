@@ -786,6 +786,18 @@ Esperar por uma vaga e entrar assim que uma abrir?</translation>
         <source>%1 was added to your friends.</source>
         <translation>%1 foi adicionado aos seus amigos.</translation>
     </message>
+    <message>
+        <source>&amp;Join</source>
+        <translation>&amp;Entrar</translation>
+    </message>
+    <message>
+        <source>R&amp;efresh</source>
+        <translation>Actuali&amp;zar</translation>
+    </message>
+    <message>
+        <source>%1 was added to your favourites.</source>
+        <translation>%1 foi adicionado aos seus favoritos.</translation>
+    </message>
 </context>
 <context>
     <name>ListTabs</name>
@@ -910,6 +922,10 @@ Esperar por uma vaga e entrar assim que uma abrir?</translation>
     <message>
         <source>Rules of the selected server</source>
         <translation>Regras do servidor selecionado</translation>
+    </message>
+    <message>
+        <source>Add To F&amp;riends</source>
+        <translation>Adicionar aos a&amp;migos</translation>
     </message>
 </context>
 <context>

@@ -140,7 +140,6 @@ void FrmMain::connectQueries()
         lblAbout->setVisible(!busy);
     });
     connect(m_queries, &QueryController::started, this, [this] {
-        m_selection->clearNames();
         lblServers->clear();
         lblPlayers->clear();
         m_selection->clear();
@@ -153,10 +152,7 @@ void FrmMain::connectQueries()
     connect(m_queries, &QueryController::updated, this, &FrmMain::applyUpdates);
     // The lists are rebuilt and sorted by the last column click once a
     // query ends; during it rows were appended as they came.
-    connect(m_queries, &QueryController::ended, this, [this] {
-        UpdateServerList();
-        UpdatePlayerList();
-    });
+    connect(m_queries, &QueryController::ended, this, &FrmMain::rebuildLists);
     connect(m_dialogs, &DialogBar::historyQueryRequested, m_queries, &QueryController::startHistoryQuery);
     connect(m_autoRefresh, &AutoRefresh::status, this, &FrmMain::setStatus);
     connect(m_autoRefresh, &AutoRefresh::selectServer, this, [this](const QString& address) {
@@ -188,6 +184,9 @@ void FrmMain::connectLists()
     connect(m_playerPane->view()->selectionModel(), &QItemSelectionModel::currentRowChanged, this,
             &FrmMain::showPlayer);
     connect(m_menu, &ListMenu::selectServer, this, &FrmMain::selectServer);
+    connect(m_menu, &ListMenu::joinRequested, this, [this] { joinFrom(shownList()); });
+    connect(m_menu, &ListMenu::refreshRequested, m_queries, &QueryController::requery);
+    connect(m_details, &ServerDetails::friendRequested, m_menu, &ListMenu::addFriend);
     connect(m_menu, &ListMenu::status, this, &FrmMain::setStatus);
 
     connect(m_find, &FindBar::found, this,
@@ -195,10 +194,7 @@ void FrmMain::connectLists()
     connect(m_find, &FindBar::selectionCleared, m_selection, &ServerSelection::clearNames);
     connect(m_find, &FindBar::status, this, &FrmMain::setStatus);
 
-    connect(m_dialogs, &DialogBar::filtersChanged, this, [this] {
-        UpdateServerList();
-        UpdatePlayerList();
-    });
+    connect(m_dialogs, &DialogBar::filtersChanged, this, &FrmMain::rebuildLists);
     connect(&m_settings, &SettingsStore::changed, this, [this](const QString& key) {
         if (key == Keys::Friends.key)
             m_lists->setFriends(m_settings.value(Keys::Friends));
@@ -323,6 +319,12 @@ void FrmMain::applyUpdates(const QList<ServerRecord>& batch)
     for (const ServerRecord& server : batch)
         m_waiter->answered(server);
     updateCounters();
+}
+
+void FrmMain::rebuildLists()
+{
+    UpdateServerList();
+    UpdatePlayerList();
 }
 
 void FrmMain::UpdateServerList()

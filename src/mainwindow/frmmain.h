@@ -85,6 +85,8 @@ private:
     void updateCounters();
     void addAnswers(const QList<ServerRecord>& batch);
     void applyUpdates(const QList<ServerRecord>& batch);
+    // After a query and after every change of the filters.
+    void rebuildLists();
     void showServer(const QModelIndex& index);
     void showPlayer(const QModelIndex& index);
     void showMenu(ListPane& pane, const QModelIndex& index, const QPoint& at);

@@ -35,6 +35,16 @@ ListMenu::ListMenu(SettingsStore& settings, const ServerLists& lists, QString fa
     mPopSelServer->setObjectName(QStringLiteral("mPopSelServer"));
     mPopAddFriend = mPopupAlt->addAction(QString());
     mPopAddFriend->setObjectName(QStringLiteral("mPopAddFriend"));
+    mPopupAlt->addSeparator();
+    mPopJoin = mPopupAlt->addAction(QString());
+    mPopJoin->setObjectName(QStringLiteral("mPopJoin"));
+    mPopRefresh = mPopupAlt->addAction(QString());
+    mPopRefresh->setObjectName(QStringLiteral("mPopRefresh"));
+    connect(mPopJoin, &QAction::triggered, this, &ListMenu::joinRequested);
+    connect(mPopRefresh, &QAction::triggered, this, [this] {
+        if (const int server = m_shown().selectedServer(); server >= 0)
+            emit refreshRequested(m_lists.server(server).address, m_lists.server(server).port);
+    });
     connect(mPopAddFriend, &QAction::triggered, this, &ListMenu::addToFriends);
     connect(mPopAdd, &QAction::triggered, this, &ListMenu::addToFavourites);
     connect(mPopSelServer, &QAction::triggered, this, [this] {
@@ -61,6 +71,8 @@ void ListMenu::retranslate()
     m_copy->retranslate();
     mPopSelServer->setText(tr("&Select Server"));
     mPopAddFriend->setText(tr("Add To F&riends"));
+    mPopJoin->setText(tr("&Join"));
+    mPopRefresh->setText(tr("R&efresh"));
 }
 
 void ListMenu::addToFriends()
@@ -69,7 +81,11 @@ void ListMenu::addToFriends()
     const int row = players.sourceRow(players.view()->currentIndex());
     if (row < 0)
         return;
-    const QString name = m_lists.players().row(row).plainName;
+    addFriend(m_lists.players().row(row).plainName);
+}
+
+void ListMenu::addFriend(const QString& name)
+{
     QStringList friends = m_settings.value(Keys::Friends);
     if (m_lists.friends().matches(name)) {
         emit status(tr("%1 is one of your friends already.").arg(name), StatusTone::Hint);
@@ -92,6 +108,8 @@ void ListMenu::addToFavourites()
     if (!Favourites::appendToFile(m_favouritesPath, m_lists.server(server).endpointText(), QString(),
                                   m_lists.servers().plainName(server)))
         emit status(tr("The favourites file could not be written."), StatusTone::Failed);
+    else
+        emit status(tr("%1 was added to your favourites.").arg(m_lists.servers().plainName(server)), StatusTone::Done);
 }
 
 void ListMenu::copyAddressOnCtrlC(const ListPane& players)

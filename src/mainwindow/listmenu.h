@@ -17,7 +17,8 @@ class SettingsStore;
 
 // The pop-up menu of the two big lists, for the list on show: "Add To
 // Favourites", the copy commands and, on the player list, "Select Server"
-// and "Add To Friends".
+// and "Add To Friends"; below them, on both, Join and Refresh for the
+// row's server.
 class ListMenu final : public QObject {
     Q_OBJECT
     Q_DISABLE_COPY_MOVE(ListMenu)
@@ -35,8 +36,14 @@ public:
     // Select Server belongs to the player list only.
     void setPlayersShown(bool players);
     void retranslate();
+    // Adds a player's name as a friend and says how that went.
+    void addFriend(const QString& plainName);
 
 signals:
+    // Join: the row's server, as a double click would.
+    void joinRequested();
+    // Refresh: the row's server asked again now.
+    void refreshRequested(const QString& address, int port);
     // Select Server: show the server at this address in the server list.
     void selectServer(const QString& address);
     void status(const QString& text, StatusTone tone);
@@ -57,6 +64,8 @@ private:
     CopyCommands* m_copy = nullptr;
     QAction* mPopSelServer = nullptr;
     QAction* mPopAddFriend = nullptr;
+    QAction* mPopJoin = nullptr;
+    QAction* mPopRefresh = nullptr;
     // Guarded: while the window is torn down the pane may go before its
     // view, which still sends events on its way out.
     QPointer<const ListPane> m_players;

@@ -38,6 +38,14 @@ ServerDetails::ServerDetails(SettingsStore& settings, QWidget* parent)
     m_rulesPane.keys = Keys::ServerRules;
     setUp(m_playersPane, QStringLiteral("mPopupAltPlayers"), QStringLiteral("P"));
     setUp(m_rulesPane, QStringLiteral("mPopupAltServerInfo"), QStringLiteral("SI"));
+    // The same player menu as the player list's: a friend is added here too.
+    m_playersPane.menu->addSeparator();
+    mPopAddFriend = m_playersPane.menu->addAction(QString());
+    mPopAddFriend->setObjectName(QStringLiteral("mPopAddFriendP"));
+    connect(mPopAddFriend, &QAction::triggered, this, [this] {
+        if (const QString name = m_playersModel->plainNameAt(m_players->currentIndex().row()); !name.isEmpty())
+            emit friendRequested(name);
+    });
     retranslate();
 }
 
@@ -79,6 +87,7 @@ void ServerDetails::showServer(const ServerRecord* server)
 void ServerDetails::retranslate()
 {
     m_players->setAccessibleName(tr("Players of the selected server"));
+    mPopAddFriend->setText(tr("Add To F&riends"));
     m_rules->setAccessibleName(tr("Rules of the selected server"));
     m_playersModel->retranslate();
     m_rulesModel->retranslate();

@@ -8,6 +8,7 @@
 #include <QSplitter>
 
 class CopyCommands;
+class QAction;
 class QMenu;
 class ReportView;
 class ServerPlayersModel;
@@ -34,6 +35,10 @@ public:
     void showServer(const ServerRecord* server);
     void retranslate();
 
+signals:
+    // "Add To Friends" on a player of the selected server.
+    void friendRequested(const QString& plainName);
+
 private:
     struct Pane {
         ReportView* view = nullptr;
@@ -52,4 +57,5 @@ private:
     ReportView* m_rules = nullptr;
     Pane m_playersPane;
     Pane m_rulesPane;
+    QAction* mPopAddFriend = nullptr;
 };

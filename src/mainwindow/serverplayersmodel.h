@@ -27,6 +27,8 @@ public:
     void sort(int column, Qt::SortOrder order = Qt::AscendingOrder) override;
 
     void setPlayers(const QList<PlayerRecord>& players);
+    // The name of a row without its colour codes; empty past the end.
+    QString plainNameAt(int row) const { return m_rows.value(row).plainName; }
 
 private:
     struct Row {

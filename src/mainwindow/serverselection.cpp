@@ -57,6 +57,7 @@ void ServerSelection::clearNames()
 
 void ServerSelection::clear()
 {
+    clearNames();
     m_server = -1;
     m_details.showServer(nullptr);
 }

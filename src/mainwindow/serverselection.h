@@ -34,7 +34,7 @@ public:
     void refreshed(int server);
     // The labels only; the panes keep the selected server.
     void clearNames();
-    // The lists were emptied.
+    // The lists were emptied: the names and the panes go too.
     void clear();
     void ShowServerName(const QString& name);
 

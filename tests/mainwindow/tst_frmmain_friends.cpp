@@ -6,7 +6,9 @@
 #include "mainwindow/querycontroller.h"
 #include "mainwindow/serverlistmodel.h"
 #include "mainwindow/serverlists.h"
+#include "mainwindow/serverplayersmodel.h"
 #include "mainwindow/slotwaiter.h"
+#include "presentation/colourcodes.h"
 #include "testports.h"
 #include "testwindow.h"
 #include "userdata/favourites.h"
@@ -156,6 +158,16 @@ private slots:
         QCOMPARE(w.marks(w.playerList(), zed), 0);
         QTest::mouseClick(w.find<QToolButton>("cmdFindFriend"), Qt::LeftButton);
         QCOMPARE(w.status(), QStringLiteral("No friends yet: right-click a player and choose \"Add To Friends\"."));
+
+        // The selected server's players pane has the same entry.
+        w.clickTab(FrmMain::ServersTab);
+        w.clickRow(w.servers(), w.serverRow(0), Qt::LeftButton);
+        auto* pane = w.window->findChild<ReportView*>(QStringLiteral("lvwPlayers"));
+        QVERIFY(pane->model()->rowCount() > 0);
+        w.clickRow(pane, 0, Qt::RightButton);
+        const QString first = pane->model()->index(0, ServerPlayersModel::Name).data().toString();
+        w.window->findChild<QAction*>(QStringLiteral("mPopAddFriendP"))->trigger();
+        QVERIFY(w.status().startsWith(ColourCodes::StripColourCodes(first)));
     }
 
     // Players come and go on the fleet; a friend appears; a server dies.

@@ -261,6 +261,7 @@ private slots:
         QCOMPARE(QGuiApplication::clipboard()->text().split(QStringLiteral("\r\n")).size(), 6);
 
         j.listAction("mPopAdd")->trigger();
+        QCOMPARE(j.status(), QStringLiteral("Open was added to your favourites."));
         j.listAction("mPopAdd")->trigger();
         QFile favourites(j.dataFile(QStringLiteral("favourites.dat")));
         QVERIFY(favourites.open(QIODevice::ReadOnly));
@@ -274,6 +275,12 @@ private slots:
         j.listAction("mPopAdd")->trigger();
         QCOMPARE(j.status(), QStringLiteral("The favourites file could not be written."));
         QCOMPARE(j.statusColour(), StatusLine::colour(StatusTone::Failed));
+
+        // Join from the menu joins the row's server, as a double click does.
+        const int starts = int(j.desktop.starts.size());
+        j.listAction("mPopJoin")->trigger();
+        QCOMPARE(j.desktop.starts.size(), starts + 1);
+        QCOMPARE(j.desktop.starts.last().arguments.last(), j.address(1));
     }
 };
 
