@@ -108,7 +108,7 @@ FrmFavourites::FrmFavourites(SettingsStore& settings, QString dataFolder, QWidge
     layout->setRowStretch(2, 1);
     layout->setColumnStretch(0, 1);
 
-    connect(cmdNew, &QPushButton::clicked, this, &FrmFavourites::newRow);
+    connect(cmdNew, &QPushButton::clicked, this, &FrmFavourites::startNewRow);
     connect(cmdRemove, &QPushButton::clicked, this, [this] {
         if (selectedRow() >= 0)
             removeRow(selectedRow());

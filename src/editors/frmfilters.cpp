@@ -59,7 +59,7 @@ FrmFilters::FrmFilters(SettingsStore& settings, QString dataFolder, QWidget* par
     layout->addWidget(buttons, 6, 0, 1, 5);
     layout->setRowStretch(2, 1);
 
-    connect(cmdNew, &QPushButton::clicked, this, &FrmFilters::newRow);
+    connect(cmdNew, &QPushButton::clicked, this, &FrmFilters::startNewRow);
     connect(cmdRemove, &QPushButton::clicked, this, [this] {
         if (selectedRow() >= 0)
             removeRow(selectedRow());

@@ -56,7 +56,7 @@ EditableListDialog::EditableListDialog(SettingsStore& settings, QAbstractItemMod
     mPopNew = createAction(m_menu, "mPopNew");
     mPopRemove = createAction(m_menu, "mPopRemove");
     connect(mPopEditCell, &QAction::triggered, this, [this] { editCell(selectedRow(), m_list->pressedColumn()); });
-    connect(mPopNew, &QAction::triggered, this, [this] { newRow(); });
+    connect(mPopNew, &QAction::triggered, this, &EditableListDialog::startNewRow);
     connect(mPopRemove, &QAction::triggered, this, [this] {
         if (selectedRow() >= 0)
             removeRow(selectedRow());
@@ -111,10 +111,24 @@ void EditableListDialog::hideEvent(QHideEvent* event)
 
 bool EditableListDialog::eventFilter(QObject* watched, QEvent* event)
 {
-    if (watched == txtEdit && event->type() == QEvent::KeyPress &&
-        static_cast<QKeyEvent*>(event)->key() == Qt::Key_Escape) {
-        cancelEdit();
-        return true;
+    if (watched == txtEdit && event->type() == QEvent::KeyPress) {
+        const int key = static_cast<QKeyEvent*>(event)->key();
+        if (key == Qt::Key_Escape) {
+            cancelEdit();
+            return true;
+        }
+        // Tab and Shift+Tab move to the next and the previous cell of the
+        // row, as in a table: the cell left is committed first.
+        if (key == Qt::Key_Tab || key == Qt::Key_Backtab) {
+            const int row = m_editRow;
+            const int next = m_list->header()->visualIndex(m_editColumn) + (key == Qt::Key_Tab ? 1 : -1);
+            commitEdit();
+            if (row >= 0 && next >= 0 && next < m_model->columnCount())
+                editCell(row, m_list->header()->logicalIndex(next));
+            else
+                m_list->setFocus();
+            return true;
+        }
     }
     return QDialog::eventFilter(watched, event);
 }
@@ -133,6 +147,18 @@ void EditableListDialog::editCell(int row, int column)
     txtEdit->selectAll();
 }
 
+void EditableListDialog::startNewRow()
+{
+    newRow();
+    const int row = m_model->rowCount() - 1;
+    if (row < 0)
+        return;
+    const int first = m_list->header()->logicalIndex(0);
+    m_list->setCurrentIndex(m_model->index(row, first));
+    m_list->scrollTo(m_model->index(row, first));
+    editCell(row, first);
+}
+
 void EditableListDialog::cancelEdit()
 {
     // No row to edit first: the focus leaving the box must not commit.
@@ -148,6 +174,8 @@ void EditableListDialog::commitEdit()
     const int row = m_editRow;
     m_editRow = -1;
     txtEdit->hide();
-    if (row < m_model->rowCount())
+    // Leaving a cell as it was changes nothing: a new row that was only
+    // looked at stays unsaved, as New leaves it.
+    if (row < m_model->rowCount() && txtEdit->text() != m_model->index(row, m_editColumn).data().toString())
         commitCell(row, m_editColumn, txtEdit->text());
 }

@@ -45,6 +45,8 @@ protected:
     SettingsStore& settings() const { return m_settings; }
     int selectedRow() const;
     void retranslateMenu();
+    // New and mPopNew: a new row, selected, its first cell in edit.
+    void startNewRow();
     void commitEdit();
     // Escape in the edit box: the cell keeps its text, the dialog stays open
     // (its Cancel would throw away every change not yet applied).

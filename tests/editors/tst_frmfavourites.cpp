@@ -131,12 +131,11 @@ private slots:
         QVERIFY(QTest::qWaitForWindowExposed(&form));
         button(form, "cmdNew")->click();
         auto* list = form.findChild<ReportView*>(QStringLiteral("lvwFavourites"));
-        list->setFocus(Qt::TabFocusReason);
         auto press = [](Qt::Key key) { QTest::keyClick(QApplication::focusWidget(), key); };
-        press(Qt::Key_End);
-        press(Qt::Key_Return);
+        // New starts the new row's first cell in edit.
         auto* box = form.findChild<QLineEdit*>(QStringLiteral("txtEdit"));
         QVERIFY(box->isVisible());
+        QTRY_COMPARE(QApplication::focusWidget(), box);
         QTest::keyClicks(box, QStringLiteral("Mine"));
         // Escape leaves the cell as it was and the unapplied new row with it.
         press(Qt::Key_Escape);

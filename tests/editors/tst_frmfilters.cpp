@@ -92,6 +92,27 @@ private slots:
         QCOMPARE(changed.count(), 3);
     }
 
+    // New starts the row in edit mode; Tab moves from the variable to the
+    // value as in a table, each cell committed as it is left.
+    void aNewRowIsEditedLikeATable()
+    {
+        FrmFilters form(*m_settings, m_dir->path());
+        form.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&form));
+        QTest::mouseClick(form.findChild<QPushButton*>(QStringLiteral("cmdNew")), Qt::LeftButton);
+        auto* box = form.findChild<QLineEdit*>(QStringLiteral("txtEdit"));
+        QTRY_COMPARE(QApplication::focusWidget(), box);
+        QCOMPARE(box->text(), Filters::NewFilter);
+        QTest::keyClicks(QApplication::focusWidget(), QStringLiteral("map"));
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+        QCOMPARE(form.filters().at(0).variable, QStringLiteral("si_map"));
+        QCOMPARE(QApplication::focusWidget(), box);
+        QTest::keyClicks(QApplication::focusWidget(), QStringLiteral("q4dm*"));
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
+        QCOMPARE(form.filters().at(0), (Filters::VariableFilter{QStringLiteral("si_map"), QStringLiteral("q4dm*")}));
+        QCOMPARE(fileBytes(filtersPath()), QByteArray("si_map\x01q4dm*\r\n"));
+    }
+
     void theKeyboardEditsACellAndTheMenuKeyOpensTheMenu()
     {
         QVERIFY(Filters::writeFile(filtersPath(), {{"si_map", "q4dm*"}}));
