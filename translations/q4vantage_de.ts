@@ -96,6 +96,17 @@
         <source>Recently Played</source>
         <translation>Zuletzt gespielt</translation>
     </message>
+    <message numerus="yes">
+        <source>%n hidden by filters</source>
+        <translation>
+            <numerusform>%n von Filtern ausgeblendet</numerusform>
+            <numerusform>%n von Filtern ausgeblendet</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Servers that answered but do not pass the filters. &quot;Filters&quot; shows them.</source>
+        <translation>Server, die geantwortet haben, aber die Filter nicht bestehen. „Filter“ zeigt sie.</translation>
+    </message>
 </context>
 <context>
     <name>Downloader</name>

@@ -95,6 +95,17 @@
         <source>Recently Played</source>
         <translation type="unfinished"></translation>
     </message>
+    <message numerus="yes">
+        <source>%n hidden by filters</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Servers that answered but do not pass the filters. &quot;Filters&quot; shows them.</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>Downloader</name>

@@ -96,6 +96,17 @@
         <source>Recently Played</source>
         <translation>Joués récemment</translation>
     </message>
+    <message numerus="yes">
+        <source>%n hidden by filters</source>
+        <translation>
+            <numerusform>%n masqué par les filtres</numerusform>
+            <numerusform>%n masqués par les filtres</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Servers that answered but do not pass the filters. &quot;Filters&quot; shows them.</source>
+        <translation>Serveurs qui ont répondu mais ne passent pas les filtres. « Filtres » les montre.</translation>
+    </message>
 </context>
 <context>
     <name>Downloader</name>

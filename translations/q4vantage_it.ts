@@ -96,6 +96,17 @@ hanno risposto %2 server su %3</translation>
         <source>Recently Played</source>
         <translation>Giocati di recente</translation>
     </message>
+    <message numerus="yes">
+        <source>%n hidden by filters</source>
+        <translation>
+            <numerusform>%n nascosto dai filtri</numerusform>
+            <numerusform>%n nascosti dai filtri</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Servers that answered but do not pass the filters. &quot;Filters&quot; shows them.</source>
+        <translation>Server che hanno risposto ma non superano i filtri. «Filtri» li mostra.</translation>
+    </message>
 </context>
 <context>
     <name>Downloader</name>

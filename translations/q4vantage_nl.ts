@@ -96,6 +96,17 @@
         <source>Recently Played</source>
         <translation>Recent gespeeld</translation>
     </message>
+    <message numerus="yes">
+        <source>%n hidden by filters</source>
+        <translation>
+            <numerusform>%n verborgen door filters</numerusform>
+            <numerusform>%n verborgen door filters</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Servers that answered but do not pass the filters. &quot;Filters&quot; shows them.</source>
+        <translation>Servers die antwoordden maar niet door de filters komen. &quot;Filters&quot; toont ze.</translation>
+    </message>
 </context>
 <context>
     <name>Downloader</name>

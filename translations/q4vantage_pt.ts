@@ -96,6 +96,17 @@ responderam %2 de %3 servidores</translation>
         <source>Recently Played</source>
         <translation>Jogados recentemente</translation>
     </message>
+    <message numerus="yes">
+        <source>%n hidden by filters</source>
+        <translation>
+            <numerusform>%n oculto pelos filtros</numerusform>
+            <numerusform>%n ocultos pelos filtros</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Servers that answered but do not pass the filters. &quot;Filters&quot; shows them.</source>
+        <translation>Servidores que responderam mas não passam nos filtros. «Filtros» mostra-os.</translation>
+    </message>
 </context>
 <context>
     <name>Downloader</name>

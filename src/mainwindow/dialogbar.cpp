@@ -24,13 +24,16 @@ DialogBar::DialogBar(SettingsStore& settings, Desktop& desktop, Language& langua
     , cmdFilters(makeControl<QPushButton>(this, "cmdFilters"))
     , cmdOptions(makeControl<QPushButton>(this, "cmdOptions"))
     , cmdRecent(makeControl<QPushButton>(this, "cmdRecent"))
+    , lblHidden(makeControl<QLabel>(this, "lblHidden"))
 {
+    lblHidden->hide();
     m_filters->setObjectName(QStringLiteral("frmFilters"));
     auto* row = new QHBoxLayout(this);
     row->setContentsMargins(0, 0, 0, 0);
     for (QPushButton* button : {cmdOrganise, cmdFilters, cmdOptions, cmdRecent})
         row->addWidget(button);
     row->addStretch();
+    row->addWidget(lblHidden);
 
     connect(cmdOrganise, &QPushButton::clicked, this, [this] {
         auto* editor = new FrmFavourites(m_settings, m_dataFolder, window());
@@ -92,8 +95,17 @@ void DialogBar::setBusy(bool busy)
     cmdOrganise->setEnabled(!busy);
 }
 
+void DialogBar::showHidden(int servers)
+{
+    m_hidden = servers;
+    lblHidden->setText(tr("%n hidden by filters", nullptr, servers));
+    lblHidden->setVisible(servers > 0);
+}
+
 void DialogBar::retranslate()
 {
+    showHidden(m_hidden);
+    lblHidden->setToolTip(tr("Servers that answered but do not pass the filters. \"Filters\" shows them."));
     cmdOrganise->setText(tr("Favourites"));
     cmdFilters->setText(tr("Filters"));
     cmdOptions->setText(tr("Options"));

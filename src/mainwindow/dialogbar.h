@@ -11,6 +11,7 @@ class FrmFilters;
 class FrmHistory;
 class FrmOptions;
 class Language;
+class QLabel;
 class QPushButton;
 class SettingsStore;
 class ThemeService;
@@ -38,6 +39,9 @@ public:
     void joined();
     // No options and no favourites editor while a query runs.
     void setBusy(bool busy);
+    // How many listed servers the filters hide now; said beside the
+    // buttons while it is not none.
+    void showHidden(int servers);
     void retranslate();
 
 signals:
@@ -57,4 +61,6 @@ private:
     QPushButton* cmdFilters = nullptr;
     QPushButton* cmdOptions = nullptr;
     QPushButton* cmdRecent = nullptr;
+    QLabel* lblHidden = nullptr;
+    int m_hidden = 0;
 };

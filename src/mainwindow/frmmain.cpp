@@ -255,8 +255,7 @@ void FrmMain::retranslateUi()
 
     m_tabs->retranslate();
     m_menu->retranslate();
-    m_lists->servers().retranslate();
-    m_lists->players().retranslate();
+    m_lists->retranslate();
 }
 
 ColumnLayout::SortState FrmMain::serverSort() const
@@ -298,6 +297,7 @@ void FrmMain::updateCounters()
 {
     lblServers->setText(tr("%n servers found", nullptr, m_lists->visibleServers().rowCount()));
     lblPlayers->setText(tr("%n players found", nullptr, m_lists->visiblePlayers().rowCount()));
+    m_dialogs->showHidden(m_lists->servers().rowCount() - m_lists->visibleServers().rowCount());
 }
 
 void FrmMain::addAnswers(const QList<ServerRecord>& batch)

@@ -102,3 +102,9 @@ void ServerLists::setRules(const QList<Filters::VariableFilter>& filters, Filter
 {
     m_visibility.setRules(filters, builtIn);
 }
+
+void ServerLists::retranslate()
+{
+    m_servers.retranslate();
+    m_players.retranslate();
+}

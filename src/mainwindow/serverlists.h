@@ -43,6 +43,8 @@ public:
     void setClock(std::function<qint64()> nowMs) { m_nowMs = std::move(nowMs); }
 
     void clear();
+    // The column captions follow the interface language.
+    void retranslate();
     void append(const QList<ServerRecord>& batch);
     // A listed server answered again: its rows take the new answer where
     // they are, so order, selection and scroll position stay; whether it

@@ -342,6 +342,9 @@ private slots:
         QCOMPARE(w.visible("lstServerList")->rowCount(), servers);
         QCOMPARE(w.visible("lstPlayerList")->rowCount(), players);
         QCOMPARE(w.find<QLabel>("lblServers")->text(), QStringLiteral("%1 servers found").arg(servers));
+        // The window says that filters hide servers, and how many.
+        QVERIFY(w.find<QLabel>("lblHidden")->isVisible());
+        QCOMPARE(w.find<QLabel>("lblHidden")->text(), QStringLiteral("%1 hidden by filters").arg(40 - servers));
         for (int row = 0; row < servers; ++row)
             QCOMPARE(w.cell("lstServerList", row, ServerListModel::Map), QString::fromLatin1(map));
         QFile saved(w.dataFile(QStringLiteral("filters.dat")));
