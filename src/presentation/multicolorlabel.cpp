@@ -87,10 +87,12 @@ void MulticolorLabel::paintEvent(QPaintEvent*)
         const QString character(m_caption.at(i));
         const QColor colour = m_colours.at(i);
         // Each character keeps its colour; one that would vanish into the
-        // background (white on light grey) gets a thin outline that does not.
+        // background (white on light grey) gets a shadow below and to the
+        // right that does not. A ring all round would leave thin strokes
+        // looking hollow.
         if (Contrast::ratio(colour, background) < Contrast::Legible) {
             painter.setPen(Contrast::outlineFor(colour));
-            for (const QPoint offset : {QPoint(-1, 0), QPoint(1, 0), QPoint(0, -1), QPoint(0, 1)})
+            for (const QPoint offset : {QPoint(1, 0), QPoint(0, 1), QPoint(1, 1)})
                 painter.drawText(x + offset.x(), baseline + offset.y(), character);
         }
         painter.setPen(colour);

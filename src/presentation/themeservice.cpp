@@ -82,6 +82,9 @@ QString ThemeService::styleSheet(const ThemeFile::Theme& theme, const QPalette& 
     sheet += QStringLiteral("QLineEdit, QComboBox, QComboBox QAbstractItemView { background-color: %1; color: %2; "
                             "selection-background-color: %3; selection-color: %4; }")
                  .arg(textBack, textText, selected, onSelected);
+    // A box that cannot be used looks it: the form's colour behind a greyed text.
+    sheet += QStringLiteral("QLineEdit:disabled, QComboBox:disabled { background-color: %1; color: %2; }")
+                 .arg(colourOf(theme.formBack).name(), system.color(QPalette::Disabled, QPalette::Text).name());
 
     const QString progressBack = colourOf(theme.progressBack).name();
     const QString progressBar = colourOf(theme.progressBar).name();
