@@ -30,7 +30,6 @@
 #include "widgets/reportview.h"
 
 #include <QCloseEvent>
-#include <QHBoxLayout>
 #include <QLabel>
 #include <QPushButton>
 #include <QVBoxLayout>
@@ -214,10 +213,6 @@ void FrmMain::connectJoin()
 
 void FrmMain::layOutControls()
 {
-    auto* titleRow = new QHBoxLayout;
-    titleRow->addWidget(lblAbout);
-    titleRow->addStretch();
-
     // The counters, one above the other beside the progress bar: as tall as
     // the status line, wide enough for five digits in every language, so
     // nothing moves as they grow.
@@ -230,7 +225,7 @@ void FrmMain::layOutControls()
     m_queryBar->addToButtonRow(cmdExit);
 
     auto* main = new QVBoxLayout(this);
-    main->addLayout(titleRow);
+    main->addWidget(lblAbout, 0, Qt::AlignLeft);
     main->addWidget(m_tabs, 1);
     main->addWidget(m_selection);
     main->addWidget(m_joinPanel);
