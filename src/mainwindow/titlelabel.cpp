@@ -4,6 +4,7 @@
 #include "presentation/frmabout.h"
 
 #include <QMouseEvent>
+#include <QShortcut>
 
 TitleLabel::TitleLabel(Desktop& desktop, QWidget* parent)
     : QLabel(parent)
@@ -19,6 +20,9 @@ TitleLabel::TitleLabel(Desktop& desktop, QWidget* parent)
     QSizePolicy keepPlace = sizePolicy();
     keepPlace.setRetainSizeWhenHidden(true);
     setSizePolicy(keepPlace);
+    // On the window, not on the title: the title is hidden during a query.
+    auto* aboutKey = new QShortcut(QKeySequence(Qt::Key_F1), parent);
+    connect(aboutKey, &QShortcut::activated, this, [this] { FrmAbout::openFor(m_desktop, window()); });
 }
 
 void TitleLabel::mouseReleaseEvent(QMouseEvent* event)

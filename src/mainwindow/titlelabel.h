@@ -6,8 +6,9 @@
 class Desktop;
 
 // The program's name above the lists, in large bold letters; a click
-// shows the About box. It keeps its place while hidden, so the lists are
-// not laid out again (slow with many rows).
+// shows the About box. It keeps its place while hidden (during a query),
+// so the lists are not laid out again (slow with many rows); F1 shows the
+// About box whether the title is shown or not.
 class TitleLabel final : public QLabel {
     Q_OBJECT
     Q_DISABLE_COPY_MOVE(TitleLabel)

@@ -6,6 +6,7 @@
 #include "widgets/historycombobox.h"
 
 #include <QAction>
+#include <QApplication>
 #include <QComboBox>
 #include <QHeaderView>
 #include <QLabel>
@@ -353,6 +354,12 @@ private slots:
         QTest::mouseClick(about->findChild<QPushButton*>(QStringLiteral("cmdOK")), Qt::LeftButton);
         QTRY_VERIFY(!run.window->findChild<FrmAbout*>(QStringLiteral("frmAbout")));
         QCOMPARE(run.desktop.unexpectedCalls, 0);
+
+        // F1 opens it too, also while the title is hidden by a query.
+        run.find<QLabel>("lblAbout")->hide();
+        run.focus(run.find<QWidget>("lstServerList"));
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_F1);
+        QTRY_VERIFY(run.window->findChild<FrmAbout*>(QStringLiteral("frmAbout")));
     }
 
     void theHomePageOpensInTheBrowser()
