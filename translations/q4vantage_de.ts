@@ -401,6 +401,22 @@
         <source>The filters could not be saved to %1; this change lasts until the program ends.</source>
         <translation>Die Filter konnten nicht in %1 gespeichert werden; diese Änderung gilt nur bis zum Programmende.</translation>
     </message>
+    <message>
+        <source>(ticked: listed)</source>
+        <translation>(angehakt: angezeigt)</translation>
+    </message>
+    <message>
+        <source>Ticked: servers without players are listed; unticked: they are hidden</source>
+        <translation>Angehakt: Server ohne Spieler werden angezeigt; nicht angehakt: sie werden ausgeblendet</translation>
+    </message>
+    <message>
+        <source>Ticked: full servers are listed; unticked: they are hidden</source>
+        <translation>Angehakt: volle Server werden angezeigt; nicht angehakt: sie werden ausgeblendet</translation>
+    </message>
+    <message>
+        <source>Ticked: servers with a password are listed; unticked: they are hidden</source>
+        <translation>Angehakt: Server mit Passwort werden angezeigt; nicht angehakt: sie werden ausgeblendet</translation>
+    </message>
 </context>
 <context>
     <name>FrmHistory</name>
@@ -1120,6 +1136,29 @@ Auf einen freien Platz warten und beitreten, sobald einer frei wird?</translatio
     <message>
         <source>Check the network connection, or add a master server or a server list that works in Options, on the &quot;Servers&quot; tab.</source>
         <translation>Prüfen Sie die Netzwerkverbindung, oder fügen Sie in den Optionen auf der Registerkarte „Server“ einen funktionierenden Master-Server oder eine Serverliste hinzu.</translation>
+    </message>
+    <message>
+        <source>%1 not found</source>
+        <translation>%1 nicht gefunden</translation>
+    </message>
+    <message>
+        <source>%1 did not answer</source>
+        <translation>%1 hat nicht geantwortet</translation>
+    </message>
+    <message>
+        <source>Options, &quot;Servers&quot; tab, adds sources</source>
+        <translation>Optionen, Reiter „Server“, nimmt Quellen auf</translation>
+    </message>
+</context>
+<context>
+    <name>ThemeFile</name>
+    <message>
+        <source>Dark</source>
+        <translation>Dunkel</translation>
+    </message>
+    <message>
+        <source>Desktop Colours</source>
+        <translation>Farben des Desktops</translation>
     </message>
 </context>
 <context>

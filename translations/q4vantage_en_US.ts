@@ -397,6 +397,22 @@
         <source>The filters could not be saved to %1; this change lasts until the program ends.</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>(ticked: listed)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Ticked: servers without players are listed; unticked: they are hidden</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Ticked: full servers are listed; unticked: they are hidden</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Ticked: servers with a password are listed; unticked: they are hidden</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>FrmHistory</name>
@@ -1111,6 +1127,29 @@ Wait for a free slot and join as soon as one opens?</source>
     </message>
     <message>
         <source>Check the network connection, or add a master server or a server list that works in Options, on the &quot;Servers&quot; tab.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 not found</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 did not answer</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Options, &quot;Servers&quot; tab, adds sources</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>ThemeFile</name>
+    <message>
+        <source>Dark</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Desktop Colours</source>
         <translation type="unfinished"></translation>
     </message>
 </context>

@@ -401,6 +401,22 @@
         <source>The filters could not be saved to %1; this change lasts until the program ends.</source>
         <translation>Les filtres n&apos;ont pas pu être enregistrés dans %1 ; cette modification ne dure que jusqu&apos;à la fermeture du programme.</translation>
     </message>
+    <message>
+        <source>(ticked: listed)</source>
+        <translation>(coché : affiché)</translation>
+    </message>
+    <message>
+        <source>Ticked: servers without players are listed; unticked: they are hidden</source>
+        <translation>Coché : les serveurs sans joueurs sont affichés ; décoché : ils sont masqués</translation>
+    </message>
+    <message>
+        <source>Ticked: full servers are listed; unticked: they are hidden</source>
+        <translation>Coché : les serveurs pleins sont affichés ; décoché : ils sont masqués</translation>
+    </message>
+    <message>
+        <source>Ticked: servers with a password are listed; unticked: they are hidden</source>
+        <translation>Coché : les serveurs avec mot de passe sont affichés ; décoché : ils sont masqués</translation>
+    </message>
 </context>
 <context>
     <name>FrmHistory</name>
@@ -1120,6 +1136,29 @@ Attendre une place libre et rejoindre dès qu&apos;une place se libère ?</trans
     <message>
         <source>Check the network connection, or add a master server or a server list that works in Options, on the &quot;Servers&quot; tab.</source>
         <translation>Vérifiez la connexion réseau, ou ajoutez un serveur maître ou une liste de serveurs qui fonctionne dans les Options, onglet « Serveurs ».</translation>
+    </message>
+    <message>
+        <source>%1 not found</source>
+        <translation>%1 introuvable</translation>
+    </message>
+    <message>
+        <source>%1 did not answer</source>
+        <translation>%1 n'a pas répondu</translation>
+    </message>
+    <message>
+        <source>Options, &quot;Servers&quot; tab, adds sources</source>
+        <translation>Options, onglet « Serveurs », ajoute des sources</translation>
+    </message>
+</context>
+<context>
+    <name>ThemeFile</name>
+    <message>
+        <source>Dark</source>
+        <translation>Sombre</translation>
+    </message>
+    <message>
+        <source>Desktop Colours</source>
+        <translation>Couleurs du bureau</translation>
     </message>
 </context>
 <context>

@@ -401,6 +401,22 @@ hanno risposto %2 server su %3</translation>
         <source>The filters could not be saved to %1; this change lasts until the program ends.</source>
         <translation>Impossibile salvare i filtri in %1; questa modifica vale solo fino alla chiusura del programma.</translation>
     </message>
+    <message>
+        <source>(ticked: listed)</source>
+        <translation>(spuntato: elencato)</translation>
+    </message>
+    <message>
+        <source>Ticked: servers without players are listed; unticked: they are hidden</source>
+        <translation>Spuntato: i server senza giocatori sono elencati; non spuntato: sono nascosti</translation>
+    </message>
+    <message>
+        <source>Ticked: full servers are listed; unticked: they are hidden</source>
+        <translation>Spuntato: i server pieni sono elencati; non spuntato: sono nascosti</translation>
+    </message>
+    <message>
+        <source>Ticked: servers with a password are listed; unticked: they are hidden</source>
+        <translation>Spuntato: i server con password sono elencati; non spuntato: sono nascosti</translation>
+    </message>
 </context>
 <context>
     <name>FrmHistory</name>
@@ -1120,6 +1136,29 @@ Attendere un posto libero ed entrare appena se ne libera uno?</translation>
     <message>
         <source>Check the network connection, or add a master server or a server list that works in Options, on the &quot;Servers&quot; tab.</source>
         <translation>Controllare la connessione di rete, oppure aggiungere un master server o un elenco di server funzionante nelle Opzioni, scheda &quot;Server&quot;.</translation>
+    </message>
+    <message>
+        <source>%1 not found</source>
+        <translation>%1 non trovato</translation>
+    </message>
+    <message>
+        <source>%1 did not answer</source>
+        <translation>%1 non ha risposto</translation>
+    </message>
+    <message>
+        <source>Options, &quot;Servers&quot; tab, adds sources</source>
+        <translation>Opzioni, scheda &quot;Server&quot;, aggiunge fonti</translation>
+    </message>
+</context>
+<context>
+    <name>ThemeFile</name>
+    <message>
+        <source>Dark</source>
+        <translation>Scuro</translation>
+    </message>
+    <message>
+        <source>Desktop Colours</source>
+        <translation>Colori del desktop</translation>
     </message>
 </context>
 <context>

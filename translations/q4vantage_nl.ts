@@ -401,6 +401,22 @@
         <source>The filters could not be saved to %1; this change lasts until the program ends.</source>
         <translation>De filters konden niet in %1 worden opgeslagen; deze wijziging geldt tot het programma stopt.</translation>
     </message>
+    <message>
+        <source>(ticked: listed)</source>
+        <translation>(aangevinkt: getoond)</translation>
+    </message>
+    <message>
+        <source>Ticked: servers without players are listed; unticked: they are hidden</source>
+        <translation>Aangevinkt: servers zonder spelers worden getoond; niet aangevinkt: ze worden verborgen</translation>
+    </message>
+    <message>
+        <source>Ticked: full servers are listed; unticked: they are hidden</source>
+        <translation>Aangevinkt: volle servers worden getoond; niet aangevinkt: ze worden verborgen</translation>
+    </message>
+    <message>
+        <source>Ticked: servers with a password are listed; unticked: they are hidden</source>
+        <translation>Aangevinkt: servers met wachtwoord worden getoond; niet aangevinkt: ze worden verborgen</translation>
+    </message>
 </context>
 <context>
     <name>FrmHistory</name>
@@ -1120,6 +1136,29 @@ Wachten op een vrije plek en deelnemen zodra er een vrijkomt?</translation>
     <message>
         <source>Check the network connection, or add a master server or a server list that works in Options, on the &quot;Servers&quot; tab.</source>
         <translation>Controleer de netwerkverbinding, of voeg in Opties, op het tabblad &quot;Servers&quot;, een masterserver of een serverlijst toe die werkt.</translation>
+    </message>
+    <message>
+        <source>%1 not found</source>
+        <translation>%1 niet gevonden</translation>
+    </message>
+    <message>
+        <source>%1 did not answer</source>
+        <translation>%1 antwoordde niet</translation>
+    </message>
+    <message>
+        <source>Options, &quot;Servers&quot; tab, adds sources</source>
+        <translation>Opties, tabblad &quot;Servers&quot;, voegt bronnen toe</translation>
+    </message>
+</context>
+<context>
+    <name>ThemeFile</name>
+    <message>
+        <source>Dark</source>
+        <translation>Donker</translation>
+    </message>
+    <message>
+        <source>Desktop Colours</source>
+        <translation>Kleuren van het bureaublad</translation>
     </message>
 </context>
 <context>

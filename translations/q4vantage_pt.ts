@@ -401,6 +401,22 @@ responderam %2 de %3 servidores</translation>
         <source>The filters could not be saved to %1; this change lasts until the program ends.</source>
         <translation>Não foi possível guardar os filtros em %1; esta alteração dura até o programa terminar.</translation>
     </message>
+    <message>
+        <source>(ticked: listed)</source>
+        <translation>(marcado: listado)</translation>
+    </message>
+    <message>
+        <source>Ticked: servers without players are listed; unticked: they are hidden</source>
+        <translation>Marcado: os servidores sem jogadores são listados; desmarcado: são ocultados</translation>
+    </message>
+    <message>
+        <source>Ticked: full servers are listed; unticked: they are hidden</source>
+        <translation>Marcado: os servidores cheios são listados; desmarcado: são ocultados</translation>
+    </message>
+    <message>
+        <source>Ticked: servers with a password are listed; unticked: they are hidden</source>
+        <translation>Marcado: os servidores com palavra-passe são listados; desmarcado: são ocultados</translation>
+    </message>
 </context>
 <context>
     <name>FrmHistory</name>
@@ -1120,6 +1136,29 @@ Esperar por uma vaga e entrar assim que uma abrir?</translation>
     <message>
         <source>Check the network connection, or add a master server or a server list that works in Options, on the &quot;Servers&quot; tab.</source>
         <translation>Verifique a ligação à rede, ou adicione um servidor mestre ou uma lista de servidores que funcione nas Opções, no separador &quot;Servidores&quot;.</translation>
+    </message>
+    <message>
+        <source>%1 not found</source>
+        <translation>%1 não encontrado</translation>
+    </message>
+    <message>
+        <source>%1 did not answer</source>
+        <translation>%1 não respondeu</translation>
+    </message>
+    <message>
+        <source>Options, &quot;Servers&quot; tab, adds sources</source>
+        <translation>Opções, separador «Servidores», acrescenta fontes</translation>
+    </message>
+</context>
+<context>
+    <name>ThemeFile</name>
+    <message>
+        <source>Dark</source>
+        <translation>Escuro</translation>
+    </message>
+    <message>
+        <source>Desktop Colours</source>
+        <translation>Cores do ambiente de trabalho</translation>
     </message>
 </context>
 <context>

@@ -36,6 +36,9 @@ FrmFilters::FrmFilters(SettingsStore& settings, QString dataFolder, QWidget* par
     chkIncludeFull->setObjectName(QStringLiteral("chkIncludeFull"));
     chkIncludePassworded = new QCheckBox(this);
     chkIncludePassworded->setObjectName(QStringLiteral("chkIncludePassworded"));
+    lblBuiltInHint = new QLabel(this);
+    lblBuiltInHint->setObjectName(QStringLiteral("lblBuiltInHint"));
+    lblBuiltInHint->setEnabled(false); // drawn as a hint, not as a control's caption
     lblExample = new QLabel(this);
     lblExample->setObjectName(QStringLiteral("lblExample"));
     auto* buttons = new QDialogButtonBox(QDialogButtonBox::Close, this);
@@ -54,6 +57,7 @@ FrmFilters::FrmFilters(SettingsStore& settings, QString dataFolder, QWidget* par
     layout->addWidget(chkIncludeEmpty, 3, 1);
     layout->addWidget(chkIncludeFull, 3, 2);
     layout->addWidget(chkIncludePassworded, 3, 3);
+    layout->addWidget(lblBuiltInHint, 3, 4);
     layout->addWidget(lblExample, 4, 0, 1, 5);
     layout->addWidget(messageLine(), 5, 0, 1, 5);
     layout->addWidget(buttons, 6, 0, 1, 5);
@@ -106,6 +110,10 @@ void FrmFilters::retranslateUi()
     chkIncludeEmpty->setText(tr("Empty"));
     chkIncludeFull->setText(tr("Full"));
     chkIncludePassworded->setText(tr("Passworded"));
+    lblBuiltInHint->setText(tr("(ticked: listed)"));
+    chkIncludeEmpty->setToolTip(tr("Ticked: servers without players are listed; unticked: they are hidden"));
+    chkIncludeFull->setToolTip(tr("Ticked: full servers are listed; unticked: they are hidden"));
+    chkIncludePassworded->setToolTip(tr("Ticked: servers with a password are listed; unticked: they are hidden"));
     lblExample->setText(tr("Example 1: si_map                 mp/q4dm5") + QLatin1Char('\n') +
                         tr("Example 2: sv_punkbuster     1"));
     retranslateMenu();

@@ -47,6 +47,7 @@ private:
     QPushButton* cmdNew = nullptr;
     QPushButton* cmdRemove = nullptr;
     QLabel* lblBuiltIn = nullptr;
+    QLabel* lblBuiltInHint = nullptr; // says what a tick means
     QCheckBox* chkIncludeEmpty = nullptr;
     QCheckBox* chkIncludeFull = nullptr;
     QCheckBox* chkIncludePassworded = nullptr;

@@ -60,7 +60,8 @@ QueryController::QueryController(SettingsStore& settings, const QString& dataFol
         [this] {
             reportSources();
             emit busyChanged(false);
-            emit status(tr("Master Servers Timed Out"), StatusTone::Failed);
+            emit status(tr("Master Servers Timed Out") + QLatin1Char('\n') + m_sources.timedOutLine(),
+                        StatusTone::Failed);
             emit progress(0, 1);
             emit masterTimedOut();
         },

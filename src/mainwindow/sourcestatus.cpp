@@ -5,11 +5,27 @@
 
 #include <QUrl>
 
+namespace {
+
+// A failed source in the few words the status line has room for: the full
+// error is in the tooltip and the box.
+QString reasonOf(const SourceReport& report, const QString& shortName)
+{
+    if (report.queryError && report.queryError->kind == QueryError::Kind::MasterNotFound)
+        return SourceStatus::tr("%1 not found").arg(shortName);
+    if (report.timedOut)
+        return SourceStatus::tr("%1 did not answer").arg(shortName);
+    return SourceStatus::tr("%1: %2").arg(shortName, report.error);
+}
+
+} // namespace
+
 SourceStatus SourceStatus::of(const QList<SourceReport>& reports)
 {
     QStringList lines;
     QStringList failed;
     QStringList awaited;
+    QStringList reasons;
     for (const SourceReport& report : reports) {
         // The status line names a list by its host; the tooltip in full.
         const QString shortName = report.kind == SourceReport::Kind::List ? QUrl(report.name).host() : report.name;
@@ -21,6 +37,7 @@ SourceStatus SourceStatus::of(const QList<SourceReport>& reports)
         if (report.failed()) {
             failed.append(shortName);
             lines.append(tr("%1: %2").arg(report.name, report.error));
+            reasons.append(reasonOf(report, shortName));
             continue;
         }
         QString line = tr("%1: %n servers", nullptr, report.addresses).arg(report.name);
@@ -32,8 +49,9 @@ SourceStatus SourceStatus::of(const QList<SourceReport>& reports)
     }
     failed.removeDuplicates();
     awaited.removeDuplicates();
+    reasons.removeDuplicates();
     return SourceStatus{lines.join(QLatin1Char('\n')), failed.join(QStringLiteral(", ")),
-                        awaited.join(QStringLiteral(", "))};
+                        awaited.join(QStringLiteral(", ")), reasons.join(QStringLiteral("; "))};
 }
 
 QString SourceStatus::queryingText(int count) const
@@ -43,6 +61,12 @@ QString SourceStatus::queryingText(int count) const
                          : !failed.isEmpty() ? tr("No list from %1").arg(failed)
                                              : QString();
     return more.isEmpty() ? text : text + QLatin1Char('\n') + more;
+}
+
+QString SourceStatus::timedOutLine() const
+{
+    const QString where = tr("Options, \"Servers\" tab, adds sources");
+    return reasons.isEmpty() ? where : reasons + QStringLiteral(" \u2013 ") + where;
 }
 
 QString SourceStatus::timedOutText() const

@@ -20,8 +20,12 @@ public:
     // The box of "Master Servers Timed Out": what each source said and
     // where to turn when none works.
     QString timedOutText() const;
+    // The status line after "Master Servers Timed Out": why each source
+    // gave nothing, short, and where to add one that works.
+    QString timedOutLine() const;
 
     QString summary; // one line per source
     QString failed;  // the hosts that gave nothing, comma-separated
     QString awaited; // the hosts not heard from yet
+    QString reasons; // each failed host with its reason in a word or two
 };

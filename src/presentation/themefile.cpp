@@ -4,6 +4,7 @@
 #include "query/lenientnumber.h"
 #include "userdata/datafield.h"
 
+#include <QCoreApplication>
 #include <QDir>
 #include <QFile>
 
@@ -53,6 +54,22 @@ Theme systemTheme(const QString& name)
     theme.progressType = Segmented;
     theme.tabStyle = SmallTabs;
     return theme;
+}
+
+QList<Theme> shippedThemes()
+{
+    Theme dark;
+    dark.name = QCoreApplication::translate("ThemeFile", "Dark");
+    dark.formBack = rgbColour(45, 45, 48);
+    dark.listBack = rgbColour(30, 30, 30);
+    dark.listText = rgbColour(220, 220, 220);
+    dark.textBack = rgbColour(30, 30, 30);
+    dark.textText = rgbColour(230, 230, 230);
+    dark.progressType = Smooth;
+    dark.progressBack = rgbColour(30, 30, 30);
+    dark.progressBar = rgbColour(86, 156, 214);
+    dark.tabStyle = SmallTabs;
+    return {dark, systemTheme(QCoreApplication::translate("ThemeFile", "Desktop Colours"))};
 }
 
 Themes parse(const QByteArray& bytes)

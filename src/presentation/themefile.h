@@ -58,6 +58,11 @@ struct Theme {
 // The system colours and styles a missing file, and "Defaults", give.
 Theme systemTheme(const QString& name = DefaultName);
 
+// The themes the program brings along, named in the language in use: a
+// dark one, and the desktop's own colours (which follow its palette). They
+// are offered beside the saved ones and join the file once saved.
+QList<Theme> shippedThemes();
+
 struct Themes {
     QString current = DefaultName;
     QList<Theme> list; // file order; names may repeat, the first wins

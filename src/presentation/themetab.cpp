@@ -13,6 +13,8 @@
 #include <QLabel>
 #include <QPushButton>
 
+#include <algorithm>
+
 namespace {
 
 // The swatches in the order of the theme's fields and their names.
@@ -98,18 +100,37 @@ void ThemeTab::load()
 {
     showTheme(m_themeService.applied());
     m_themes = ThemeFile::readFile(m_themeService.filePath()).value_or(ThemeFile::Themes{});
-    for (const ThemeFile::Theme& theme : std::as_const(m_themes.list))
-        cmbThemes->addItem(theme.name);
-    const int current = cmbThemes->findText(m_themes.current, Qt::MatchExactly | Qt::MatchCaseSensitive);
-    if (current >= 0) {
-        cmbThemes->setCurrentIndex(current);
-        chooseTheme(current);
+    const bool saved = ThemeFile::currentTheme(m_themes).has_value();
+    fillThemes(saved ? m_themes.current : QString());
+    if (saved) {
+        chooseTheme(cmbThemes->currentIndex());
     } else {
         // The file gains a theme the first time the dialog opens.
-        cmbThemes->setCurrentIndex(-1);
         saveTheme(ThemeFile::DefaultName);
     }
     m_loaded = true;
+}
+
+QList<ThemeFile::Theme> ThemeTab::offered() const
+{
+    QList<ThemeFile::Theme> themes = m_themes.list;
+    for (const ThemeFile::Theme& shipped : ThemeFile::shippedThemes()) {
+        if (std::none_of(themes.cbegin(), themes.cend(),
+                         [&shipped](const ThemeFile::Theme& theme) { return theme.name == shipped.name; }))
+            themes.append(shipped);
+    }
+    return themes;
+}
+
+void ThemeTab::fillThemes(const QString& chosen)
+{
+    cmbThemes->clear();
+    for (const ThemeFile::Theme& theme : offered())
+        cmbThemes->addItem(theme.name);
+    // The first of a repeated name, as the file reads.
+    cmbThemes->setCurrentIndex(
+        chosen.isEmpty() ? -1 : cmbThemes->findText(chosen, Qt::MatchExactly | Qt::MatchCaseSensitive));
+    cmdRemove->setEnabled(cmbThemes->currentIndex() >= 0 && cmbThemes->currentIndex() < m_themes.list.size());
 }
 
 bool ThemeTab::save()
@@ -160,11 +181,14 @@ void ThemeTab::pickColour(ColourSwatch* swatch)
 
 void ThemeTab::chooseTheme(int index)
 {
-    if (index < 0 || index >= m_themes.list.size())
+    const QList<ThemeFile::Theme> themes = offered();
+    // Only a saved theme can be removed; a shipped one is saved by OK.
+    cmdRemove->setEnabled(index >= 0 && index < m_themes.list.size());
+    if (index < 0 || index >= themes.size())
         return;
-    showTheme(m_themes.list.at(index));
+    showTheme(themes.at(index));
     // Shown on both windows even while the dialog is still opening.
-    m_themeService.apply(shownTheme(m_themes.list.at(index).name));
+    m_themeService.apply(shownTheme(themes.at(index).name));
 }
 
 void ThemeTab::saveThemeAsked()
@@ -177,13 +201,8 @@ void ThemeTab::saveThemeAsked()
 
 bool ThemeTab::saveTheme(const QString& name)
 {
-    const ThemeFile::Theme theme = shownTheme(name);
-    const bool known = std::any_of(m_themes.list.cbegin(), m_themes.list.cend(),
-                                   [&name](const ThemeFile::Theme& saved) { return saved.name == name; });
-    ThemeFile::saveTheme(m_themes, theme);
-    if (!known)
-        cmbThemes->addItem(name);
-    cmbThemes->setCurrentIndex(cmbThemes->findText(name, Qt::MatchExactly | Qt::MatchCaseSensitive));
+    ThemeFile::saveTheme(m_themes, shownTheme(name));
+    fillThemes(name);
     return writeThemes();
 }
 
@@ -193,7 +212,9 @@ void ThemeTab::removeTheme()
     if (index < 0 || index >= m_themes.list.size())
         return;
     m_themes.list.removeAt(index);
-    cmbThemes->removeItem(index);
+    // The saved theme that moved into its place is shown, as a list does.
+    fillThemes(m_themes.list.isEmpty() ? QString()
+                                       : m_themes.list.at(std::min(index, int(m_themes.list.size()) - 1)).name);
     if (writeThemes())
         m_themeService.applyFile();
 }

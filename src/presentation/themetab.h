@@ -40,6 +40,10 @@ signals:
     void message(const QString& text);
 
 private:
+    // The saved themes in file order, then the shipped ones not saved
+    // under their names: the entries of cmbThemes.
+    QList<ThemeFile::Theme> offered() const;
+    void fillThemes(const QString& chosen);
     void showTheme(const ThemeFile::Theme& theme);
     void applyLive();
     void pickColour(ColourSwatch* swatch);

@@ -6,9 +6,11 @@
 #include <QKeyEvent>
 #include <QMetaMethod>
 #include <QMouseEvent>
+#include <QStyle>
 
 ReportView::ReportView(QAbstractItemModel* model, const QList<int>& designWidths, QWidget* parent)
     : QTableView(parent)
+    , m_givenWidths(designWidths)
 {
     setModel(model);
     setShowGrid(false);
@@ -35,10 +37,41 @@ ReportView::ReportView(QAbstractItemModel* model, const QList<int>& designWidths
     for (int column = 0; column < designWidths.size(); ++column)
         columnsHeader->resizeSection(column, designWidths.at(column));
 
+    // A new language or a new sort column can need wider titles.
+    connect(model, &QAbstractItemModel::headerDataChanged, this, &ReportView::fitTitles);
+    connect(columnsHeader, &QHeaderView::sortIndicatorChanged, this, &ReportView::fitTitles);
+
     connect(this, &QAbstractItemView::doubleClicked, this, [this](const QModelIndex& index) {
         if (m_lastButton == Qt::LeftButton)
             emit rowDoubleClicked(index);
     });
+}
+
+void ReportView::fitTitles()
+{
+    QHeaderView* header = horizontalHeader();
+    const QFontMetrics metrics(header->font());
+    const int margins = 2 * header->style()->pixelMetric(QStyle::PM_HeaderMargin, nullptr, header) + 4;
+    const int arrow = header->style()->pixelMetric(QStyle::PM_HeaderMarkSize, nullptr, header) +
+                      header->style()->pixelMetric(QStyle::PM_HeaderMargin, nullptr, header);
+    for (int column = 0; column < m_givenWidths.size() && column < header->count(); ++column) {
+        if (header->sectionSize(column) != m_givenWidths.at(column))
+            continue;
+        const QString title = model()->headerData(column, Qt::Horizontal).toString();
+        const bool sorted = header->isSortIndicatorShown() && header->sortIndicatorSection() == column;
+        const int needed = metrics.horizontalAdvance(title) + margins + (sorted ? arrow : 0);
+        if (needed > header->sectionSize(column)) {
+            header->resizeSection(column, needed);
+            m_givenWidths[column] = needed;
+        }
+    }
+}
+
+void ReportView::showEvent(QShowEvent* event)
+{
+    // Stored widths are in place by the first show.
+    fitTitles();
+    QTableView::showEvent(event);
 }
 
 int ReportView::selectedRow() const

@@ -23,6 +23,10 @@ public:
     // The column under the pointer at the last press (-1 past the last),
     // or the current column when the menu was opened from the keyboard.
     int pressedColumn() const { return m_pressedColumn; }
+    // Widens each column that still has the width the program gave it
+    // until its title, and the sort arrow on the sorted one, is read whole.
+    // A width the user chose is left alone.
+    void fitTitles();
 
 signals:
     // A button went down on the rows, before the list reacts to it.
@@ -40,12 +44,14 @@ protected:
     void mouseReleaseEvent(QMouseEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void contextMenuEvent(QContextMenuEvent* event) override;
+    void showEvent(QShowEvent* event) override;
 
 private:
     // The menu of the selected row, opened from the keyboard: below the
     // row's first cell, where the user is looking.
     void requestMenuOnSelection();
 
+    QList<int> m_givenWidths; // the design width, or the one fitTitles() set
     Qt::MouseButton m_lastButton = Qt::NoButton;
     int m_pressedColumn = 0;
 };

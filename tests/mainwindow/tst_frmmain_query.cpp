@@ -2,6 +2,7 @@
 #include "editors/frmfilters.h"
 #include "filewrites.h"
 #include "fleet.h"
+#include "listedwindow.h"
 #include "mainwindow/playerlistmodel.h"
 #include "mainwindow/querycontroller.h"
 #include "mainwindow/serverlistmodel.h"
@@ -39,35 +40,6 @@
 namespace {
 
 const quint16 StartPort = TestPorts::at(2000);
-
-// Types a new variable filter into the filters editor, as a user would.
-void addFilter(const TestWindow& w, const QString& variable, const QString& value)
-{
-    auto* filters = w.window->findChild<FrmFilters*>(QStringLiteral("frmFilters"));
-    filters->findChild<QPushButton*>(QStringLiteral("cmdNew"))->click();
-    const int row = filters->filters().size() - 1;
-    auto* box = filters->findChild<QLineEdit*>(QStringLiteral("txtEdit"));
-    filters->editCell(row, 0);
-    box->setText(variable);
-    QTest::keyClick(box, Qt::Key_Return);
-    filters->editCell(row, 1);
-    box->setText(value);
-    QTest::keyClick(box, Qt::Key_Return);
-}
-
-// A window that has listed a running fleet.
-struct Listed : RunningFleet, TestWindow {
-    Listed(int servers, quint16 masterPort, bool refreshOnClick)
-        : RunningFleet(fleetOf(servers, masterPort))
-        , TestWindow(masterPort, StartPort, [refreshOnClick](SettingsStore& settings) {
-            settings.save(Keys::RefreshServers.key, QLatin1String(refreshOnClick ? "1" : "0"));
-        })
-    {
-        if (!queryMasters())
-            qFatal("the query did not finish");
-    }
-};
-
 } // namespace
 
 class TestFrmMainQuery final : public QObject {
@@ -196,7 +168,9 @@ private slots:
                                           "Options, on the \"Servers\" tab.")
                                .arg(TestPorts::local(301)));
         QCOMPARE(fleet.masterRequests(), 2);
-        QCOMPARE(w.status(), QStringLiteral("Master Servers Timed Out"));
+        QCOMPARE(w.status(), QStringLiteral("Master Servers Timed Out\n%1 did not answer \u2013 Options, \"Servers\" "
+                                            "tab, adds sources")
+                                 .arg(TestPorts::local(301)));
         QCOMPARE(w.statusColour(), StatusLine::colour(StatusTone::Failed));
         QCOMPARE(w.find<QLabel>("lblServers")->text(), QStringLiteral("0 servers found"));
         QVERIFY(w.button("cmdGet")->isEnabled());
@@ -299,6 +273,10 @@ private slots:
         const QRect cell = list->visualRect(list->model()->index(row, 0));
         QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, cell.center());
         QTRY_COMPARE(w.cell("lstServerList", row, ServerListModel::Name), QStringLiteral("Renamed"));
+        // The selected server's name is drawn in its colours.
+        auto* serverName = w.find<MulticolorLabel>("mclSName");
+        QCOMPARE(serverName->caption(), QStringLiteral("Renamed"));
+        QCOMPARE(serverName->color(1).rgb(), ColourCodes::ShowServerName(u"^1Re^7named").colours.first());
         QCOMPARE(fleet.servers().at(target).requests, requests + 1);
         QCOMPARE(w.cell("lstServerList", row, ServerListModel::Map), QStringLiteral("q4dm9"));
         QCOMPARE(w.cell("lstServerList", row, ServerListModel::Players), QStringLiteral("2/8"));
@@ -398,181 +376,6 @@ private slots:
         QCOMPARE(w.visible("lstServerList")->rowCount(), 6);
         for (int row = 0; row < 6; ++row)
             QVERIFY(w.cell("lstServerList", row, ServerListModel::Address) != TestPorts::local(852));
-    }
-
-    void columnClicksFlipSortAndPersist()
-    {
-        SimFleet fleet(fleetOf(30, TestPorts::at(901)));
-        QVERIFY(!fleet.start());
-        TestWindow w(TestPorts::at(901), StartPort);
-        QHeaderView* header = w.find<ReportView>("lstServerList")->header();
-        emit header->sectionClicked(ServerListModel::Ping);
-        QVERIFY2(!w.settings().contains(u"SSortOrder"), "an empty list ignores the click");
-        QCOMPARE(w.window->serverSort(), (ColumnLayout::SortState{0, 1}));
-
-        QVERIFY(w.queryMasters());
-        const auto numbers = [&w](int column) {
-            QList<int> values;
-            for (int row = 0; row < w.visible("lstServerList")->rowCount(); ++row)
-                values.append(w.cell("lstServerList", row, column).section(QLatin1Char('/'), 0, 0).toInt());
-            return values;
-        };
-        emit header->sectionClicked(ServerListModel::Players);
-        QList<int> players = numbers(ServerListModel::Players);
-        QVERIFY(std::is_sorted(players.begin(), players.end()));
-        QCOMPARE(w.settings().get(u"SSortOrder"), QStringLiteral("0"));
-        QCOMPARE(w.settings().get(u"SSortKey"), QStringLiteral("2"));
-        // Another column: the direction still flips, so it sorts descending.
-        emit header->sectionClicked(ServerListModel::Map);
-        QStringList maps;
-        for (int row = 0; row < 30; ++row)
-            maps.append(w.cell("lstServerList", row, ServerListModel::Map));
-        QVERIFY(std::is_sorted(maps.rbegin(), maps.rend()));
-        QCOMPARE(w.settings().get(u"SSortOrder"), QStringLiteral("1"));
-        emit header->sectionClicked(ServerListModel::Players);
-        players = numbers(ServerListModel::Players);
-        QVERIFY(std::is_sorted(players.begin(), players.end()));
-
-        // The next query's rows come unsorted and are sorted when it ends.
-        QVERIFY(w.queryMasters());
-        players = numbers(ServerListModel::Players);
-        QVERIFY(std::is_sorted(players.begin(), players.end()));
-        QCOMPARE(players.size(), 30);
-    }
-
-    void findSelectsAndMarksMisses()
-    {
-        Listed w(20, TestPorts::at(1101), false);
-        auto* find = w.find<HistoryComboBox>("cmbFind");
-        auto* list = w.find<ReportView>("lstServerList");
-        const QColor normal = find->palette().color(QPalette::Base);
-
-        w.type(find, QStringLiteral("#1"));
-        // Typing searches from the top: "#1" is in "... #1", "... #10" and up.
-        QVERIFY(list->currentIndex().isValid());
-        QVERIFY(list->currentIndex().data().toString().contains(QStringLiteral("#1")));
-        const int first = list->currentIndex().row();
-        QVERIFY(w.find<MulticolorLabel>("mclSName")->caption().contains(QStringLiteral("#1")));
-        // Find next moves on, and wraps round to the first again.
-        // The first Find moves on from the match typing selected; Enter in
-        // the box is the same as Find.
-        QTest::mouseClick(w.button("cmdFind"), Qt::LeftButton);
-        QVERIFY(list->currentIndex().row() != first);
-        QSet<int> seen{first, list->currentIndex().row()};
-        for (int i = 0; i < 11; ++i) {
-            QTest::keyClick(w.focus(find), Qt::Key_Return);
-            seen.insert(list->currentIndex().row());
-        }
-        QCOMPARE(seen.size(), 11); // #1 and #10 to #19
-        QCOMPARE(find->entries(), QStringList{"#1"});
-        // Leaving the box keeps the match it found.
-        const int found = list->currentIndex().row();
-        w.focus(w.find<HistoryComboBox>("cmbPlayerName"));
-        QCOMPARE(list->currentIndex().row(), found);
-
-        const auto clearBox = [&] {
-            QTest::keyClick(w.focus(find), Qt::Key_A, Qt::ControlModifier);
-            QTest::keyClick(QApplication::focusWidget(), Qt::Key_Backspace);
-        };
-        clearBox();
-        w.type(find, QStringLiteral("no such server"));
-        QCOMPARE(find->palette().color(QPalette::Base), QColor(255, 102, 102));
-        QCOMPARE(w.status(), QStringLiteral("Text Not Found"));
-        QCOMPARE(w.statusColour(), StatusLine::colour(StatusTone::Failed));
-        QVERIFY(!list->currentIndex().isValid());
-        QCOMPARE(w.find<MulticolorLabel>("mclSName")->caption(), QString());
-
-        // Typed over the selected text: the box is never empty on the way.
-        QTest::keyClick(w.focus(find), Qt::Key_A, Qt::ControlModifier);
-        w.type(find, QStringLiteral("#5"));
-        QCOMPARE(find->palette().color(QPalette::Base), normal);
-        QCOMPARE(w.status(), QStringLiteral("Text Not Found")); // only an empty search clears it
-        clearBox();
-        QCOMPARE(w.status(), QString());
-        QVERIFY(list->selectionModel()->selectedRows().isEmpty());
-
-        // An empty box: cmdFind remembers the empty text once.
-        QTest::mouseClick(w.button("cmdFind"), Qt::LeftButton);
-        QTest::mouseClick(w.button("cmdFind"), Qt::LeftButton);
-        QCOMPARE(find->entries(), (QStringList{"#1", ""}));
-    }
-
-    void playerViewCopiesAndSelectsTheServer()
-    {
-        Listed w(12, TestPorts::at(1201), false);
-        w.find<QTabBar>("tabSelect")->setCurrentIndex(FrmMain::PlayersTab);
-        auto* players = w.find<ReportView>("lstPlayerList");
-        QVERIFY(players->isVisible());
-        players->setCurrentIndex(players->model()->index(3, 0));
-        const auto& row = w.window->lists().players().row(3);
-        const ServerRecord& server = w.window->lists().servers().record(row.server);
-        QCOMPARE(w.find<MulticolorLabel>("mclPName")->caption(),
-                 ColourCodes::ShowPlayerName(server.players.at(row.player).name).text);
-        QTest::keyClick(players, Qt::Key_C, Qt::ControlModifier);
-        QCOMPARE(QGuiApplication::clipboard()->text(), server.endpointText());
-
-        w.find<QAction>("mPopSelServer")->trigger();
-        QCOMPARE(w.find<QTabBar>("tabSelect")->currentIndex(), int(FrmMain::ServersTab));
-        auto* servers = w.find<ReportView>("lstServerList");
-        QCOMPARE(servers->model()->index(servers->currentIndex().row(), ServerListModel::Address).data().toString(),
-                 server.endpointText());
-        QCOMPARE(w.find<ReportView>("lvwPlayers")->model()->rowCount(), server.players.size());
-        QCOMPARE(w.find<ReportView>("lvwServerInfo")->model()->rowCount(), server.tokens.size() / 2);
-
-        // A server hidden by the filters takes its players with it, so no
-        // player is left to select a filtered-out server from.
-        addFilter(w, QStringLiteral("si_name"), QStringLiteral("-nothing"));
-        QCOMPARE(servers->model()->rowCount(), 0);
-        QCOMPARE(players->model()->rowCount(), 0);
-    }
-
-    void rightClickOpensTheMenuWithoutRefreshing()
-    {
-        Listed w(3, TestPorts::at(1301), true);
-        SimFleet& fleet = w.fleet;
-        const int requests = fleet.infoRequests();
-        auto* list = w.find<ReportView>("lstServerList");
-        const QPoint cell = list->visualRect(list->model()->index(1, 0)).center();
-        QTest::mousePress(list->viewport(), Qt::RightButton, {}, cell);
-        QTest::mouseRelease(list->viewport(), Qt::RightButton, {}, cell);
-        auto* menu = w.find<QMenu>("mPopupAlt");
-        QVERIFY(menu->isVisible());
-        menu->hide();
-        QCOMPARE(list->currentIndex().row(), 1);
-        QVERIFY(!w.find<MulticolorLabel>("mclSName")->caption().isEmpty());
-        QTest::qWait(100);
-        QCOMPARE(fleet.infoRequests(), requests);
-        // The press saved the column orders.
-        QVERIFY(w.settings().contains(u"SColumnOrder0"));
-
-        // A press that moves nothing leaves the file alone; one after a
-        // column was moved writes it once.
-        FileWrites writes(w.settings().filePath());
-        QVERIFY(writes.isWatching());
-        QTest::mousePress(list->viewport(), Qt::LeftButton, {}, cell);
-        QTest::mouseRelease(list->viewport(), Qt::LeftButton, {}, cell);
-        QCOMPARE(writes.take(), 0);
-        list->horizontalHeader()->moveSection(7, 0);
-        QTest::mousePress(list->viewport(), Qt::LeftButton, {}, cell);
-        QTest::mouseRelease(list->viewport(), Qt::LeftButton, {}, cell);
-        QCOMPARE(writes.take(), 1);
-        QCOMPARE(w.settings().get(u"SColumnOrder0"), QStringLiteral("7"));
-    }
-
-    void clickedNamesAreDrawnInColour()
-    {
-        Listed w(3, TestPorts::at(801), false);
-        auto* list = w.find<ReportView>("lstServerList");
-        QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, list->visualRect(list->model()->index(0, 0)).center());
-        const ServerRecord& server = w.window->lists().servers().record(w.window->lists().servers().store().indexOf(
-            QStringLiteral("127.0.0.1"),
-            w.cell("lstServerList", 0, ServerListModel::Address).section(QLatin1Char(':'), 1).toInt()));
-        auto* serverName = w.find<MulticolorLabel>("mclSName");
-        QCOMPARE(serverName->caption(), ColourCodes::ShowServerName(server.name).text);
-        QCOMPARE(serverName->color(1).rgb(), ColourCodes::ShowServerName(server.name).colours.first());
-        QCOMPARE(w.find<QLabel>("lblSName")->text(), QStringLiteral("Server Name:"));
-        QCOMPARE(w.find<MulticolorLabel>("mclPName")->caption(), QString());
-        QCOMPARE(w.find<QLabel>("lblPName")->text(), QString());
     }
 };
 

@@ -2,6 +2,7 @@
 #include "fleet.h"
 #include "httpresponder.h"
 #include "mainwindow/querycontroller.h"
+#include "query/hostlookup.h"
 #include "query/lanquery.h"
 #include "testports.h"
 #include "testwindow.h"
@@ -111,13 +112,21 @@ private slots:
         QCOMPARE(listedRows(w), 6);
         QCOMPARE(w.desktop.messages.size(), 0);
 
-        // Not wanted: the documented time-out with its Retry box.
+        // Not wanted: the documented time-out with its Retry box; the status
+        // line says at once why each master gave nothing, and where to turn.
         w.settings().save(Keys::QueryKnownServers.key, QStringLiteral("0"));
+        w.settings().save(Keys::MasterServer.key, QStringLiteral("master.invalid,") + TestPorts::local(251));
+        HostLookup::setResolver([](const QString&) { return HostLookup::Result{{}, QStringLiteral("Unknown host")}; });
         w.desktop.messageAnswers.enqueue(QMessageBox::Cancel);
         QTest::mouseClick(w.button("cmdGet"), Qt::LeftButton);
         QTRY_COMPARE_WITH_TIMEOUT(w.desktop.messages.size(), 1, 6000);
-        QVERIFY(w.desktop.messages.first().text.startsWith(QStringLiteral("Master Servers Timed Out\n\n")));
-        QCOMPARE(w.status(), QStringLiteral("Master Servers Timed Out"));
+        HostLookup::setResolver({});
+        QVERIFY(w.desktop.messages.first().text.startsWith(
+            QStringLiteral("Master Servers Timed Out\n\nmaster.invalid: Master server master.invalid not found")));
+        QCOMPARE(w.status(), QStringLiteral("Master Servers Timed Out\nmaster.invalid not found; %1 did not answer "
+                                            "\u2013 Options, \"Servers\" tab, adds sources")
+                                 .arg(TestPorts::local(251)));
+        QCOMPARE(w.find<StatusLine>("lblStatus")->shownLines().size(), 2);
         QCOMPARE(listedRows(w), 0);
     }
 

@@ -1,103 +1,13 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
-#include "presentation/colourswatch.h"
-#include "presentation/frmoptions.h"
-#include "presentation/language.h"
-#include "presentation/startportrule.h"
-#include "presentation/themeservice.h"
-#include "query/masteraddress.h"
-#include "scripteddesktop.h"
-#include "userdata/knownservers.h"
-#include "userdata/settingsstore.h"
+#include "optionsdialog.h"
 
-#include <QApplication>
-#include <QCheckBox>
-#include <QComboBox>
-#include <QDir>
-#include <QFile>
-#include <QLabel>
-#include <QLineEdit>
-#include <QListWidget>
-#include <QPushButton>
-#include <QSpinBox>
-#include <QTableView>
-#include <QTabWidget>
-#include <QTemporaryDir>
-#include <QTest>
-
-// The options dialog as a user works it: its own settings, data folder and
-// scripted desktop; a fresh dialog per test.
-class TestFrmOptions final : public QObject {
+// The options dialog's settings, ports, executable and server sources.
+class TestFrmOptions final : public OptionsDialogTest {
     Q_OBJECT
 
-    std::unique_ptr<QTemporaryDir> m_dir;
-    std::unique_ptr<SettingsStore> m_settings;
-    std::unique_ptr<ScriptedDesktop> m_desktop;
-    std::unique_ptr<Language> m_language;
-    std::unique_ptr<ThemeService> m_themes;
-    std::unique_ptr<FrmOptions> m_form;
-
-    FrmOptions& open()
-    {
-        m_form = std::make_unique<FrmOptions>(*m_settings, *m_desktop, *m_language, *m_themes, m_dir->path());
-        m_form->show();
-        if (!QTest::qWaitForWindowExposed(m_form.get()))
-            qFatal("the options dialog did not show");
-        return *m_form;
-    }
-    template <typename T> T* find(const char* name) const
-    {
-        T* child = m_form->findChild<T*>(QLatin1String(name));
-        if (!child)
-            qFatal("no control named %s", name);
-        return child;
-    }
-    void click(const char* name) const { QTest::mouseClick(find<QAbstractButton>(name), Qt::LeftButton); }
-    // Types into a box as a user does: focus it, select all, type.
-    void type(const char* name, const QString& text) const
-    {
-        auto* box = find<QLineEdit>(name);
-        box->setFocus(Qt::MouseFocusReason);
-        QTest::keyClick(box, Qt::Key_A, Qt::ControlModifier);
-        QTest::keyClick(box, Qt::Key_Delete);
-        QTest::keyClicks(box, text);
-    }
-    void choose(const char* combo, int index) const
-    {
-        auto* box = find<QComboBox>(combo);
-        box->setFocus(Qt::MouseFocusReason);
-        // Home, then Down to the entry: the keys a user presses on a closed box.
-        QTest::keyClick(box, Qt::Key_Home);
-        for (int i = 0; i < index; ++i)
-            QTest::keyClick(box, Qt::Key_Down);
-    }
-    QByteArray themesFile() const
-    {
-        QFile file(m_themes->filePath());
-        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-    }
-    // What a list shows as its background under the theme now applied.
-    static QColor listBase()
-    {
-        QTableView list;
-        list.ensurePolished();
-        return list.viewport()->palette().color(list.viewport()->backgroundRole());
-    }
-
 private slots:
-    void init()
-    {
-        m_dir = std::make_unique<QTemporaryDir>();
-        m_settings = std::make_unique<SettingsStore>(m_dir->filePath(QStringLiteral("settings.ini")));
-        m_desktop = std::make_unique<ScriptedDesktop>();
-        m_language = std::make_unique<Language>();
-        m_themes = std::make_unique<ThemeService>(m_dir->path());
-        m_themes->applyFile();
-    }
-    void cleanup()
-    {
-        m_form.reset();
-        QCOMPARE(m_desktop->unexpectedCalls, 0);
-    }
+    void init() { setUp(); }
+    void cleanup() { tearDown(); }
 
     void startPortRule_data()
     {
@@ -216,94 +126,6 @@ private slots:
         click("cmdDefaults");
         QCOMPARE(find<ColourSwatch>("lstBackColour")->value(), ThemeFile::WindowBackground);
         QCOMPARE(listBase(), m_themes->toColor(ThemeFile::WindowBackground));
-    }
-
-    void cancelKeepsTheLanguageShownButUnsavedAndPutsTheThemeBack()
-    {
-        open();
-        QCOMPARE(ThemeFile::readFile(m_themes->filePath())->list.size(), 1); // "Default", made at first opening
-        choose("cmbLanguage", 1);
-        QCOMPARE(m_language->current(), 1);
-        m_desktop->colourAnswers << QColor(200, 0, 0);
-        find<QTabWidget>("tabOptions")->setCurrentIndex(FrmOptions::ThemeTab);
-        click("lstBackColour");
-        QCOMPARE(listBase(), QColor(200, 0, 0));
-        click("cmdCancel");
-        QVERIFY(!m_form->isVisible());
-        QCOMPARE(m_language->current(), 1);
-        QVERIFY(!m_settings->contains(Keys::Language.key));
-        QCOMPARE(listBase(), m_themes->toColor(ThemeFile::WindowBackground));
-        m_language->apply(0);
-    }
-
-    void themesAreSavedChosenAndRemoved()
-    {
-        open();
-        find<QTabWidget>("tabOptions")->setCurrentIndex(FrmOptions::ThemeTab);
-        m_desktop->colourAnswers << QColor(0, 0, 128);
-        click("frmBackColour");
-        choose("cmbTab", 1);
-        m_desktop->inputAnswers << QString(QStringLiteral("Navy"));
-        click("cmdSave");
-        QCOMPARE(m_desktop->inputs.last().prompt, QStringLiteral("Please enter a name for this theme"));
-        ThemeFile::Themes saved = *ThemeFile::readFile(m_themes->filePath());
-        QCOMPARE(saved.current, QStringLiteral("Navy"));
-        QCOMPARE(saved.list.size(), 2);
-        QCOMPARE(saved.list.at(1).formBack, ThemeFile::rgbColour(0, 0, 128));
-        QCOMPARE(saved.list.at(1).tabStyle, qint16(ThemeFile::LargeTabs));
-
-        // An empty answer saves nothing; the same name again replaces.
-        m_desktop->inputAnswers << QString();
-        click("cmdSave");
-        QCOMPARE(ThemeFile::readFile(m_themes->filePath())->list.size(), 2);
-        m_desktop->colourAnswers << QColor(0, 0, 64);
-        click("frmBackColour");
-        m_desktop->inputAnswers << QString(QStringLiteral("Navy"));
-        click("cmdSave");
-        saved = *ThemeFile::readFile(m_themes->filePath());
-        QCOMPARE(saved.list.size(), 2);
-        QCOMPARE(saved.list.at(1).formBack, ThemeFile::rgbColour(0, 0, 64));
-
-        // Choosing "Default" shows it at once; removing it rewrites the file.
-        auto* themes = find<QComboBox>("cmbThemes");
-        themes->setFocus(Qt::MouseFocusReason);
-        QTest::keyClick(themes, Qt::Key_Up);
-        QCOMPARE(themes->currentText(), QStringLiteral("Default"));
-        QCOMPARE(find<ColourSwatch>("frmBackColour")->value(), ThemeFile::ButtonFace);
-        QCOMPARE(QApplication::palette().color(QPalette::Window), m_themes->toColor(ThemeFile::ButtonFace));
-        click("cmdRemove");
-        saved = *ThemeFile::readFile(m_themes->filePath());
-        QCOMPARE(saved.list.size(), 1);
-        QCOMPARE(saved.list.first().name, QStringLiteral("Navy"));
-        QCOMPARE(themes->count(), 1);
-    }
-
-    void okSavesTheShownThemeUnderItsName()
-    {
-        open();
-        find<QTabWidget>("tabOptions")->setCurrentIndex(FrmOptions::ThemeTab);
-        choose("cmbScroll", 2);
-        click("cmdOK");
-        const ThemeFile::Themes saved = *ThemeFile::readFile(m_themes->filePath());
-        QCOMPARE(saved.current, QStringLiteral("Default"));
-        QCOMPARE(ThemeFile::currentTheme(saved)->progressType, qint16(ThemeFile::Smooth));
-        // The next start shows it.
-        ThemeService again(m_dir->path());
-        again.applyFile();
-        QCOMPARE(again.applied().progressType, qint16(ThemeFile::Smooth));
-    }
-
-    void aThemeFileThatCannotBeWrittenNeverBlocksTheSettings()
-    {
-        QVERIFY(QDir(m_dir->path()).mkdir(ThemeFile::FileName));
-        open();
-        auto* message = find<QLabel>("lblMessage");
-        QVERIFY(message->isVisible());
-        QVERIFY2(message->text().contains(QDir::toNativeSeparators(m_themes->filePath())), qPrintable(message->text()));
-        choose("cmbSpeed", 1);
-        click("cmdOK");
-        QVERIFY(!m_form->isVisible());
-        QCOMPARE(m_settings->get(Keys::Speed.key), QStringLiteral("1"));
     }
 
     void browsePutsTheChosenExecutableInTheBox()

@@ -1,12 +1,9 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "fleet.h"
 #include "httpresponder.h"
-#include "peakmemory.h"
-#include "query/httpproxy.h"
 #include "query/lanquery.h"
 #include "query/masterquery.h"
 #include "query/querysession.h"
-#include "query/serverlistfetch.h"
 #include "query/serversources.h"
 #include "testports.h"
 
@@ -319,112 +316,6 @@ private slots:
         QCOMPARE(reports.at(4).error, QStringLiteral("HTTP 404 Not Found"));
     }
 
-    void aSlowListCostsOnlyItsTimeOut()
-    {
-        HttpResponder web;
-        web.set(QStringLiteral("/slow"), {200, "127.0.0.1:1\n", "text/plain", ServerListFetch::TimeoutMs + 3000});
-        ServerSources sources;
-        QSignalSpy finished(&sources, &ServerSources::finished);
-        SourcePlan plan;
-        plan.listUrls = {web.url(QStringLiteral("/slow"))};
-        QElapsedTimer clock;
-        clock.start();
-        QVERIFY(!sources.start(plan, PoolPort + 400));
-        QTRY_COMPARE_WITH_TIMEOUT(finished.count(), 1, ServerListFetch::TimeoutMs + 2000);
-        const qint64 elapsed = clock.elapsed();
-        const auto reports = sources.reports();
-        QVERIFY2(elapsed >= ServerListFetch::TimeoutMs - 50,
-                 qPrintable(QStringLiteral("after %1 ms: %2").arg(elapsed).arg(reports.first().error)));
-        QVERIFY(elapsed < ServerListFetch::TimeoutMs + 1000);
-        QCOMPARE(reports.first().error, QStringLiteral("no reply within 5 seconds"));
-    }
-
-    void aHugeListIsCutWithoutFreezing()
-    {
-        QByteArray body;
-        for (int i = 0; i < 100000; ++i)
-            body += "10." + QByteArray::number(i / 65536) + '.' + QByteArray::number(i / 256 % 256) + '.' +
-                    QByteArray::number(i % 256) + ":28004\n";
-        HttpResponder web;
-        web.set(QStringLiteral("/huge"), {200, body, "text/plain", 0});
-        ServerSources sources;
-        QSignalSpy listed(&sources, &ServerSources::listed);
-        QSignalSpy finished(&sources, &ServerSources::finished);
-        // The event loop keeps turning while the list comes in.
-        QElapsedTimer clock;
-        qint64 longestGap = 0;
-        QTimer ticker;
-        ticker.setInterval(5);
-        connect(&ticker, &QTimer::timeout, this, [&] { longestGap = std::max(longestGap, clock.restart()); });
-        SourcePlan plan;
-        plan.listUrls = {web.url(QStringLiteral("/huge"))};
-        QVERIFY(!sources.start(plan, PoolPort + 400));
-        clock.start();
-        ticker.start();
-        QTRY_COMPARE_WITH_TIMEOUT(finished.count(), 1, 5000);
-        QCOMPARE(listed.count(), 1);
-        const auto table = listed.first().at(0).value<AddressTable>();
-        const auto reports = sources.reports();
-        QCOMPARE(table.count(), ServerListReader::MaxAddresses);
-        QVERIFY(reports.first().truncated);
-        QVERIFY2(longestGap < 500, qPrintable(QStringLiteral("the loop stood still %1 ms").arg(longestGap)));
-    }
-
-    // A site that never ends its header or its body costs only its own
-    // list: the other list is read, memory stays near the cap, and the next
-    // query fetches every list again.
-    void anEndlessListCostsOnlyItself_data()
-    {
-        QTest::addColumn<QByteArray>("head");
-        QTest::addColumn<QByteArray>("again");
-        QTest::newRow("endless header line")
-            << QByteArray("HTTP/1.1 200 OK\r\nX-Filler: ") << QByteArray(64 * 1024, 'a');
-        QTest::newRow("endless chunked body") << QByteArray("HTTP/1.1 200 OK\r\nTransfer-Encoding: chunked\r\n\r\n")
-                                              << QByteArray("10000\r\n") + QByteArray(0x10000, 'b') + "\r\n";
-    }
-    void anEndlessListCostsOnlyItself()
-    {
-        QFETCH(QByteArray, head);
-        QFETCH(QByteArray, again);
-        HttpResponder web;
-        HttpResponder::Reply endless;
-        endless.raw = true;
-        endless.body = head;
-        endless.again = again;
-        endless.repeat = 100000;
-        web.set(QStringLiteral("/endless"), endless);
-        web.set(QStringLiteral("/good"), {200, "127.0.0.1:28004\n", "text/plain", 0});
-        ServerSources sources;
-        QSignalSpy listed(&sources, &ServerSources::listed);
-        QSignalSpy finished(&sources, &ServerSources::finished);
-        SourcePlan plan;
-        plan.listUrls = {web.url(QStringLiteral("/endless")), web.url(QStringLiteral("/good"))};
-        // The window must never stand still for a stuck site.
-        QElapsedTimer beat;
-        qint64 longestGap = 0;
-        QTimer ticker;
-        ticker.setInterval(5);
-        connect(&ticker, &QTimer::timeout, this, [&] { longestGap = std::max(longestGap, beat.restart()); });
-        beat.start();
-        ticker.start();
-        for (int round = 1; round <= 2; ++round) {
-            QElapsedTimer clock;
-            clock.start();
-            const qint64 before = peakMemoryMb(true);
-            QVERIFY(!sources.start(plan, PoolPort + 400));
-            QTRY_COMPARE_WITH_TIMEOUT(finished.count(), round, ServerListFetch::TimeoutMs + 2000);
-            const qint64 grown = peakMemoryMb(false) - before;
-            qInfo("round %d: %lld ms, peak %lld MB above the start", round, clock.elapsed(), grown);
-            QVERIFY2(!PeakMemoryIsMeaningful || grown < ServerListFetch::MaxReplyBytes / (1024 * 1024) + 24,
-                     qPrintable(QStringLiteral("%1 MB more").arg(grown)));
-            QVERIFY2(clock.elapsed() < ServerListFetch::TimeoutMs + 300, qPrintable(QString::number(clock.elapsed())));
-            QVERIFY2(listed.count() == round, qPrintable(sources.reports().at(1).error));
-            QVERIFY(sources.reports().at(0).failed());
-            QCOMPARE(sources.reports().at(1).addresses, 1);
-        }
-        QVERIFY2(longestGap < 500, qPrintable(QStringLiteral("the loop stood still %1 ms").arg(longestGap)));
-    }
-
     // A list can aim every reader's browser at one server, and name it in
     // many ways: it is asked once. A list naming the program's own query
     // ports makes no phantom servers.
@@ -457,33 +348,6 @@ private slots:
         QCOMPARE(fleet.infoRequests(), 1);
         QCOMPARE(session.scheduler().skippedCount(), ports.masterPort() - ports.startPort + 1 + 1);
         QCOMPARE(session.scheduler().timedOutCount(), 0);
-    }
-
-    void listsGoThroughTheProxy()
-    {
-        // The responder plays the proxy: a request through a proxy names the
-        // whole address on its request line.
-        HttpResponder proxy;
-        proxy.set(QStringLiteral("http://lists.invalid/q4"), {200, "127.0.0.1:28004\n", "text/plain", 0});
-        ServerSources sources;
-        QSignalSpy listed(&sources, &ServerSources::listed);
-        QSignalSpy finished(&sources, &ServerSources::finished);
-        SourcePlan plan;
-        plan.listUrls = {QUrl(QStringLiteral("http://lists.invalid/q4"))};
-        plan.proxy = httpProxy(true, QStringLiteral("127.0.0.1:%1").arg(proxy.url({}).port()));
-        QVERIFY(!sources.start(plan, PoolPort + 400));
-        QTRY_COMPARE_WITH_TIMEOUT(finished.count(), 1, 5000);
-        QCOMPARE(endpoints(listed.first().at(0).value<AddressTable>()), QStringList{"127.0.0.1:28004"});
-        QVERIFY(proxy.lastRequest().startsWith("GET http://lists.invalid/q4 "));
-
-        QCOMPARE(httpProxy(false, QStringLiteral("proxy:3128")).type(), QNetworkProxy::NoProxy);
-        QCOMPARE(httpProxy(true, QString()).type(), QNetworkProxy::NoProxy);
-        const QNetworkProxy named = httpProxy(true, QStringLiteral("http://user:pw@proxy.lan:3128"));
-        QCOMPARE(named.type(), QNetworkProxy::HttpProxy);
-        QCOMPARE(named.hostName(), QStringLiteral("proxy.lan"));
-        QCOMPARE(named.port(), 3128);
-        QCOMPARE(named.user(), QStringLiteral("user"));
-        QCOMPARE(httpProxy(true, QStringLiteral("proxy.lan")).port(), 8080);
     }
 
     void laterMastersMovePastTakenPorts()

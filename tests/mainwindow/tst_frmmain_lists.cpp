@@ -1,0 +1,184 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+#include "filewrites.h"
+#include "listedwindow.h"
+#include "mainwindow/playerlistmodel.h"
+#include "mainwindow/serverlistmodel.h"
+#include "mainwindow/serverlists.h"
+#include "presentation/colourcodes.h"
+#include "presentation/multicolorlabel.h"
+#include "widgets/historycombobox.h"
+
+#include <QApplication>
+#include <QClipboard>
+#include <QGuiApplication>
+#include <QMenu>
+#include <QTabBar>
+
+// The lists of a window that has listed a fleet, as a user works them:
+// sorting, finding, the player view and the list's menu.
+class TestFrmMainLists final : public QObject {
+    Q_OBJECT
+
+private slots:
+    void columnClicksFlipSortAndPersist()
+    {
+        SimFleet fleet(fleetOf(30, TestPorts::at(901)));
+        QVERIFY(!fleet.start());
+        TestWindow w(TestPorts::at(901), TestPorts::at(2000));
+        QHeaderView* header = w.find<ReportView>("lstServerList")->header();
+        emit header->sectionClicked(ServerListModel::Ping);
+        QVERIFY2(!w.settings().contains(u"SSortOrder"), "an empty list ignores the click");
+        QCOMPARE(w.window->serverSort(), (ColumnLayout::SortState{0, 1}));
+
+        QVERIFY(w.queryMasters());
+        const auto numbers = [&w](int column) {
+            QList<int> values;
+            for (int row = 0; row < w.visible("lstServerList")->rowCount(); ++row)
+                values.append(w.cell("lstServerList", row, column).section(QLatin1Char('/'), 0, 0).toInt());
+            return values;
+        };
+        emit header->sectionClicked(ServerListModel::Players);
+        QList<int> players = numbers(ServerListModel::Players);
+        QVERIFY(std::is_sorted(players.begin(), players.end()));
+        QCOMPARE(w.settings().get(u"SSortOrder"), QStringLiteral("0"));
+        QCOMPARE(w.settings().get(u"SSortKey"), QStringLiteral("2"));
+        // Another column: the direction still flips, so it sorts descending.
+        emit header->sectionClicked(ServerListModel::Map);
+        QStringList maps;
+        for (int row = 0; row < 30; ++row)
+            maps.append(w.cell("lstServerList", row, ServerListModel::Map));
+        QVERIFY(std::is_sorted(maps.rbegin(), maps.rend()));
+        QCOMPARE(w.settings().get(u"SSortOrder"), QStringLiteral("1"));
+        emit header->sectionClicked(ServerListModel::Players);
+        players = numbers(ServerListModel::Players);
+        QVERIFY(std::is_sorted(players.begin(), players.end()));
+
+        // The next query's rows come unsorted and are sorted when it ends.
+        QVERIFY(w.queryMasters());
+        players = numbers(ServerListModel::Players);
+        QVERIFY(std::is_sorted(players.begin(), players.end()));
+        QCOMPARE(players.size(), 30);
+    }
+
+    void findSelectsAndMarksMisses()
+    {
+        Listed w(20, TestPorts::at(1101), false);
+        auto* find = w.find<HistoryComboBox>("cmbFind");
+        auto* list = w.find<ReportView>("lstServerList");
+        const QColor normal = find->palette().color(QPalette::Base);
+
+        w.type(find, QStringLiteral("#1"));
+        // Typing searches from the top: "#1" is in "... #1", "... #10" and up.
+        QVERIFY(list->currentIndex().isValid());
+        QVERIFY(list->currentIndex().data().toString().contains(QStringLiteral("#1")));
+        const int first = list->currentIndex().row();
+        QVERIFY(w.find<MulticolorLabel>("mclSName")->caption().contains(QStringLiteral("#1")));
+        // Find next moves on, and wraps round to the first again.
+        // The first Find moves on from the match typing selected; Enter in
+        // the box is the same as Find.
+        QTest::mouseClick(w.button("cmdFind"), Qt::LeftButton);
+        QVERIFY(list->currentIndex().row() != first);
+        QSet<int> seen{first, list->currentIndex().row()};
+        for (int i = 0; i < 11; ++i) {
+            QTest::keyClick(w.focus(find), Qt::Key_Return);
+            seen.insert(list->currentIndex().row());
+        }
+        QCOMPARE(seen.size(), 11); // #1 and #10 to #19
+        QCOMPARE(find->entries(), QStringList{"#1"});
+        // Leaving the box keeps the match it found.
+        const int found = list->currentIndex().row();
+        w.focus(w.find<HistoryComboBox>("cmbPlayerName"));
+        QCOMPARE(list->currentIndex().row(), found);
+
+        const auto clearBox = [&] {
+            QTest::keyClick(w.focus(find), Qt::Key_A, Qt::ControlModifier);
+            QTest::keyClick(QApplication::focusWidget(), Qt::Key_Backspace);
+        };
+        clearBox();
+        w.type(find, QStringLiteral("no such server"));
+        QCOMPARE(find->palette().color(QPalette::Base), QColor(255, 102, 102));
+        QCOMPARE(w.status(), QStringLiteral("Text Not Found"));
+        QCOMPARE(w.statusColour(), StatusLine::colour(StatusTone::Failed));
+        QVERIFY(!list->currentIndex().isValid());
+        QCOMPARE(w.find<MulticolorLabel>("mclSName")->caption(), QString());
+
+        // Typed over the selected text: the box is never empty on the way.
+        QTest::keyClick(w.focus(find), Qt::Key_A, Qt::ControlModifier);
+        w.type(find, QStringLiteral("#5"));
+        QCOMPARE(find->palette().color(QPalette::Base), normal);
+        QCOMPARE(w.status(), QStringLiteral("Text Not Found")); // only an empty search clears it
+        clearBox();
+        QCOMPARE(w.status(), QString());
+        QVERIFY(list->selectionModel()->selectedRows().isEmpty());
+
+        // An empty box: cmdFind remembers the empty text once.
+        QTest::mouseClick(w.button("cmdFind"), Qt::LeftButton);
+        QTest::mouseClick(w.button("cmdFind"), Qt::LeftButton);
+        QCOMPARE(find->entries(), (QStringList{"#1", ""}));
+    }
+
+    void playerViewCopiesAndSelectsTheServer()
+    {
+        Listed w(12, TestPorts::at(1201), false);
+        w.find<QTabBar>("tabSelect")->setCurrentIndex(FrmMain::PlayersTab);
+        auto* players = w.find<ReportView>("lstPlayerList");
+        QVERIFY(players->isVisible());
+        players->setCurrentIndex(players->model()->index(3, 0));
+        const auto& row = w.window->lists().players().row(3);
+        const ServerRecord& server = w.window->lists().servers().record(row.server);
+        QCOMPARE(w.find<MulticolorLabel>("mclPName")->caption(),
+                 ColourCodes::ShowPlayerName(server.players.at(row.player).name).text);
+        QTest::keyClick(players, Qt::Key_C, Qt::ControlModifier);
+        QCOMPARE(QGuiApplication::clipboard()->text(), server.endpointText());
+
+        w.find<QAction>("mPopSelServer")->trigger();
+        QCOMPARE(w.find<QTabBar>("tabSelect")->currentIndex(), int(FrmMain::ServersTab));
+        auto* servers = w.find<ReportView>("lstServerList");
+        QCOMPARE(servers->model()->index(servers->currentIndex().row(), ServerListModel::Address).data().toString(),
+                 server.endpointText());
+        QCOMPARE(w.find<ReportView>("lvwPlayers")->model()->rowCount(), server.players.size());
+        QCOMPARE(w.find<ReportView>("lvwServerInfo")->model()->rowCount(), server.tokens.size() / 2);
+
+        // A server hidden by the filters takes its players with it, so no
+        // player is left to select a filtered-out server from.
+        addFilter(w, QStringLiteral("si_name"), QStringLiteral("-nothing"));
+        QCOMPARE(servers->model()->rowCount(), 0);
+        QCOMPARE(players->model()->rowCount(), 0);
+    }
+
+    void rightClickOpensTheMenuWithoutRefreshing()
+    {
+        Listed w(3, TestPorts::at(1301), true);
+        SimFleet& fleet = w.fleet;
+        const int requests = fleet.infoRequests();
+        auto* list = w.find<ReportView>("lstServerList");
+        const QPoint cell = list->visualRect(list->model()->index(1, 0)).center();
+        QTest::mousePress(list->viewport(), Qt::RightButton, {}, cell);
+        QTest::mouseRelease(list->viewport(), Qt::RightButton, {}, cell);
+        auto* menu = w.find<QMenu>("mPopupAlt");
+        QVERIFY(menu->isVisible());
+        menu->hide();
+        QCOMPARE(list->currentIndex().row(), 1);
+        QVERIFY(!w.find<MulticolorLabel>("mclSName")->caption().isEmpty());
+        QTest::qWait(100);
+        QCOMPARE(fleet.infoRequests(), requests);
+        // The press saved the column orders.
+        QVERIFY(w.settings().contains(u"SColumnOrder0"));
+
+        // A press that moves nothing leaves the file alone; one after a
+        // column was moved writes it once.
+        FileWrites writes(w.settings().filePath());
+        QVERIFY(writes.isWatching());
+        QTest::mousePress(list->viewport(), Qt::LeftButton, {}, cell);
+        QTest::mouseRelease(list->viewport(), Qt::LeftButton, {}, cell);
+        QCOMPARE(writes.take(), 0);
+        list->horizontalHeader()->moveSection(7, 0);
+        QTest::mousePress(list->viewport(), Qt::LeftButton, {}, cell);
+        QTest::mouseRelease(list->viewport(), Qt::LeftButton, {}, cell);
+        QCOMPARE(writes.take(), 1);
+        QCOMPARE(w.settings().get(u"SColumnOrder0"), QStringLiteral("7"));
+    }
+};
+
+QTEST_MAIN(TestFrmMainLists)
+#include "tst_frmmain_lists.moc"

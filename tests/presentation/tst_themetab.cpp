@@ -1,0 +1,135 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+#include "optionsdialog.h"
+#include "presentation/contrast.h"
+
+// The options dialog's themes: chosen, saved, removed, put back on Cancel.
+class TestThemeTab final : public OptionsDialogTest {
+    Q_OBJECT
+
+private slots:
+    void init() { setUp(); }
+    void cleanup() { tearDown(); }
+
+    void cancelKeepsTheLanguageShownButUnsavedAndPutsTheThemeBack()
+    {
+        open();
+        QCOMPARE(ThemeFile::readFile(m_themes->filePath())->list.size(), 1); // "Default", made at first opening
+        choose("cmbLanguage", 1);
+        QCOMPARE(m_language->current(), 1);
+        m_desktop->colourAnswers << QColor(200, 0, 0);
+        find<QTabWidget>("tabOptions")->setCurrentIndex(FrmOptions::ThemeTab);
+        click("lstBackColour");
+        QCOMPARE(listBase(), QColor(200, 0, 0));
+        click("cmdCancel");
+        QVERIFY(!m_form->isVisible());
+        QCOMPARE(m_language->current(), 1);
+        QVERIFY(!m_settings->contains(Keys::Language.key));
+        QCOMPARE(listBase(), m_themes->toColor(ThemeFile::WindowBackground));
+        m_language->apply(0);
+    }
+
+    void themesAreSavedChosenAndRemoved()
+    {
+        open();
+        find<QTabWidget>("tabOptions")->setCurrentIndex(FrmOptions::ThemeTab);
+        m_desktop->colourAnswers << QColor(0, 0, 128);
+        click("frmBackColour");
+        choose("cmbTab", 1);
+        m_desktop->inputAnswers << QString(QStringLiteral("Navy"));
+        click("cmdSave");
+        QCOMPARE(m_desktop->inputs.last().prompt, QStringLiteral("Please enter a name for this theme"));
+        ThemeFile::Themes saved = *ThemeFile::readFile(m_themes->filePath());
+        QCOMPARE(saved.current, QStringLiteral("Navy"));
+        QCOMPARE(saved.list.size(), 2);
+        QCOMPARE(saved.list.at(1).formBack, ThemeFile::rgbColour(0, 0, 128));
+        QCOMPARE(saved.list.at(1).tabStyle, qint16(ThemeFile::LargeTabs));
+
+        // An empty answer saves nothing; the same name again replaces.
+        m_desktop->inputAnswers << QString();
+        click("cmdSave");
+        QCOMPARE(ThemeFile::readFile(m_themes->filePath())->list.size(), 2);
+        m_desktop->colourAnswers << QColor(0, 0, 64);
+        click("frmBackColour");
+        m_desktop->inputAnswers << QString(QStringLiteral("Navy"));
+        click("cmdSave");
+        saved = *ThemeFile::readFile(m_themes->filePath());
+        QCOMPARE(saved.list.size(), 2);
+        QCOMPARE(saved.list.at(1).formBack, ThemeFile::rgbColour(0, 0, 64));
+
+        // Choosing "Default" shows it at once; removing it rewrites the file.
+        auto* themes = find<QComboBox>("cmbThemes");
+        themes->setFocus(Qt::MouseFocusReason);
+        QTest::keyClick(themes, Qt::Key_Up);
+        QCOMPARE(themes->currentText(), QStringLiteral("Default"));
+        QCOMPARE(find<ColourSwatch>("frmBackColour")->value(), ThemeFile::ButtonFace);
+        QCOMPARE(QApplication::palette().color(QPalette::Window), m_themes->toColor(ThemeFile::ButtonFace));
+        click("cmdRemove");
+        saved = *ThemeFile::readFile(m_themes->filePath());
+        QCOMPARE(saved.list.size(), 1);
+        QCOMPARE(saved.list.first().name, QStringLiteral("Navy"));
+        // Navy, then the shipped themes.
+        QCOMPARE(themes->currentText(), QStringLiteral("Navy"));
+        QCOMPARE(themes->count(), 1 + ThemeFile::shippedThemes().size());
+    }
+
+    // The shipped dark theme: chosen from the list, shown at once, readable,
+    // and saved under its name by OK; saved, it is listed once.
+    void aShippedThemeIsChosenAndSavedByOk()
+    {
+        open();
+        find<QTabWidget>("tabOptions")->setCurrentIndex(FrmOptions::ThemeTab);
+        auto* themes = find<QComboBox>("cmbThemes");
+        QCOMPARE(themes->count(), 1 + ThemeFile::shippedThemes().size());
+        QVERIFY(find<QPushButton>("cmdRemove")->isEnabled()); // "Default" is saved
+        themes->setFocus(Qt::MouseFocusReason);
+        QTest::keyClick(themes, Qt::Key_Down);
+        const ThemeFile::Theme dark = ThemeFile::shippedThemes().first();
+        QCOMPARE(themes->currentText(), dark.name);
+        QVERIFY2(!find<QPushButton>("cmdRemove")->isEnabled(), "nothing saved to remove yet");
+        const QPalette shown = QApplication::palette();
+        QCOMPARE(shown.color(QPalette::Window), m_themes->toColor(dark.formBack));
+        QVERIFY(Contrast::ratio(shown.color(QPalette::WindowText), shown.color(QPalette::Window)) >= 4.5);
+        QVERIFY(Contrast::ratio(m_themes->toColor(dark.listText), listBase()) >= 4.5);
+        click("cmdOK");
+        const ThemeFile::Themes saved = *ThemeFile::readFile(m_themes->filePath());
+        QCOMPARE(saved.current, dark.name);
+        QCOMPARE(saved.list.size(), 2);
+        QCOMPARE(saved.list.at(1), dark);
+
+        open();
+        QCOMPARE(find<QComboBox>("cmbThemes")->count(), 1 + ThemeFile::shippedThemes().size());
+        QCOMPARE(find<QComboBox>("cmbThemes")->currentText(), dark.name);
+        QVERIFY(find<QPushButton>("cmdRemove")->isEnabled());
+    }
+
+    void okSavesTheShownThemeUnderItsName()
+    {
+        open();
+        find<QTabWidget>("tabOptions")->setCurrentIndex(FrmOptions::ThemeTab);
+        choose("cmbScroll", 2);
+        click("cmdOK");
+        const ThemeFile::Themes saved = *ThemeFile::readFile(m_themes->filePath());
+        QCOMPARE(saved.current, QStringLiteral("Default"));
+        QCOMPARE(ThemeFile::currentTheme(saved)->progressType, qint16(ThemeFile::Smooth));
+        // The next start shows it.
+        ThemeService again(m_dir->path());
+        again.applyFile();
+        QCOMPARE(again.applied().progressType, qint16(ThemeFile::Smooth));
+    }
+
+    void aThemeFileThatCannotBeWrittenNeverBlocksTheSettings()
+    {
+        QVERIFY(QDir(m_dir->path()).mkdir(ThemeFile::FileName));
+        open();
+        auto* message = find<QLabel>("lblMessage");
+        QVERIFY(message->isVisible());
+        QVERIFY2(message->text().contains(QDir::toNativeSeparators(m_themes->filePath())), qPrintable(message->text()));
+        choose("cmbSpeed", 1);
+        click("cmdOK");
+        QVERIFY(!m_form->isVisible());
+        QCOMPARE(m_settings->get(Keys::Speed.key), QStringLiteral("1"));
+    }
+};
+
+QTEST_MAIN(TestThemeTab)
+#include "tst_themetab.moc"
