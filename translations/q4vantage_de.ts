@@ -584,6 +584,14 @@
         <source>Friends</source>
         <translation>Freunde</translation>
     </message>
+    <message>
+        <source>Keep passwords in the desktop&apos;s keyring</source>
+        <translation>Passwörter im Schlüsselbund des Desktops aufbewahren</translation>
+    </message>
+    <message>
+        <source>Unticked, or on a desktop without a keyring, the passwords are kept in the settings file as plain text.</source>
+        <translation>Nicht angehakt, oder auf einem Desktop ohne Schlüsselbund, stehen die Passwörter im Klartext in der Einstellungsdatei.</translation>
+    </message>
 </context>
 <context>
     <name>FrmUpdate</name>

@@ -580,6 +580,14 @@
         <source>Friends</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>Keep passwords in the desktop&apos;s keyring</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Unticked, or on a desktop without a keyring, the passwords are kept in the settings file as plain text.</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>FrmUpdate</name>

@@ -584,6 +584,14 @@
         <source>Friends</source>
         <translation>Amis</translation>
     </message>
+    <message>
+        <source>Keep passwords in the desktop&apos;s keyring</source>
+        <translation>Garder les mots de passe dans le trousseau du bureau</translation>
+    </message>
+    <message>
+        <source>Unticked, or on a desktop without a keyring, the passwords are kept in the settings file as plain text.</source>
+        <translation>Décoché, ou sur un bureau sans trousseau, les mots de passe restent en clair dans le fichier de réglages.</translation>
+    </message>
 </context>
 <context>
     <name>FrmUpdate</name>
@@ -1143,7 +1151,7 @@ Attendre une place libre et rejoindre dès qu&apos;une place se libère ?</trans
     </message>
     <message>
         <source>%1 did not answer</source>
-        <translation>%1 n'a pas répondu</translation>
+        <translation>%1 n&apos;a pas répondu</translation>
     </message>
     <message>
         <source>Options, &quot;Servers&quot; tab, adds sources</source>

@@ -584,6 +584,14 @@ hanno risposto %2 server su %3</translation>
         <source>Friends</source>
         <translation>Amici</translation>
     </message>
+    <message>
+        <source>Keep passwords in the desktop&apos;s keyring</source>
+        <translation>Conserva le password nel portachiavi del desktop</translation>
+    </message>
+    <message>
+        <source>Unticked, or on a desktop without a keyring, the passwords are kept in the settings file as plain text.</source>
+        <translation>Se non spuntato, o su un desktop senza portachiavi, le password restano in chiaro nel file delle impostazioni.</translation>
+    </message>
 </context>
 <context>
     <name>FrmUpdate</name>

@@ -584,6 +584,14 @@
         <source>Friends</source>
         <translation>Vrienden</translation>
     </message>
+    <message>
+        <source>Keep passwords in the desktop&apos;s keyring</source>
+        <translation>Wachtwoorden bewaren in de sleutelbos van het bureaublad</translation>
+    </message>
+    <message>
+        <source>Unticked, or on a desktop without a keyring, the passwords are kept in the settings file as plain text.</source>
+        <translation>Niet aangevinkt, of op een bureaublad zonder sleutelbos, staan de wachtwoorden leesbaar in het instellingenbestand.</translation>
+    </message>
 </context>
 <context>
     <name>FrmUpdate</name>

@@ -584,6 +584,14 @@ responderam %2 de %3 servidores</translation>
         <source>Friends</source>
         <translation>Amigos</translation>
     </message>
+    <message>
+        <source>Keep passwords in the desktop&apos;s keyring</source>
+        <translation>Guardar as palavras-passe no porta-chaves do ambiente de trabalho</translation>
+    </message>
+    <message>
+        <source>Unticked, or on a desktop without a keyring, the passwords are kept in the settings file as plain text.</source>
+        <translation>Desmarcado, ou num ambiente de trabalho sem porta-chaves, as palavras-passe ficam em texto simples no ficheiro de definições.</translation>
+    </message>
 </context>
 <context>
     <name>FrmUpdate</name>

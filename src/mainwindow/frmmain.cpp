@@ -52,6 +52,7 @@ FrmMain::FrmMain(SettingsStore& settings, Desktop& desktop, Language& language, 
     retranslateUi();
 
     m_state->restore();
+    m_joinPanel->restorePasswords();
     showView(m_tabs->playersShown());
     if (m_language.apply(m_settings.value(Keys::Language)))
         retranslateUi();
@@ -126,9 +127,7 @@ void FrmMain::createControls()
                    {m_details->players(), Keys::ServerPlayers.columns},
                    {m_details->rules(), Keys::ServerRules.columns}};
     state.playerName = m_joinPanel->playerName();
-    state.password = m_joinPanel->password();
-    state.boxes = {
-        {m_find->box(), Keys::FindBox}, {state.playerName, Keys::PlayerNameBox}, {state.password, Keys::PasswordBox}};
+    state.boxes = {{m_find->box(), Keys::FindBox}, {state.playerName, Keys::PlayerNameBox}};
     m_state = new WindowState(m_settings, state);
 }
 
@@ -396,5 +395,6 @@ void FrmMain::closeEvent(QCloseEvent* event)
     const SettingsStore::Batch batch(m_settings);
     Desktop::closeOtherWindows(this);
     m_state->writeOnClose();
+    m_joinPanel->savePasswords();
     event->accept();
 }

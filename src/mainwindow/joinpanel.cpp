@@ -2,6 +2,7 @@
 #include "mainwindow/joinpanel.h"
 
 #include "mainwindow/joinflow.h"
+#include "mainwindow/passwordkeeper.h"
 #include "mainwindow/slotwaiter.h"
 #include "platform/desktop.h"
 #include "presentation/colourcodes.h"
@@ -13,6 +14,21 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QStyledItemDelegate>
+
+namespace {
+
+// Draws each entry as the password box does: one dot per character.
+class MaskedItemDelegate final : public QStyledItemDelegate {
+public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+    QString displayText(const QVariant& value, const QLocale&) const override
+    {
+        return QString(value.toString().size(), QChar(0x25CF));
+    }
+};
+
+} // namespace
 
 JoinPanel::JoinPanel(SettingsStore& settings, Desktop& desktop, const QString& favouritesPath,
                      const QString& historyPath, ListedServer listed, QWidget* window)
@@ -25,8 +41,11 @@ JoinPanel::JoinPanel(SettingsStore& settings, Desktop& desktop, const QString& f
     lblPlayerName->setBuddy(cmbPlayerName);
     lblPassword = makeControl<QLabel>(this, "lblPassword");
     cmbPassword = makeControl<HistoryComboBox>(this, "cmbPassword");
-    // Nobody looking over the player's shoulder reads the password.
+    // Nobody looking over the player's shoulder reads the password, in the
+    // box or in its list of remembered ones.
     cmbPassword->lineEdit()->setEchoMode(QLineEdit::Password);
+    cmbPassword->setItemDelegate(new MaskedItemDelegate(cmbPassword));
+    m_passwords = new PasswordKeeper(settings, desktop.secrets(), *cmbPassword, this);
     lblPassword->setBuddy(cmbPassword);
     lblPName = makeControl<QLabel>(this, "lblPName");
     mclPName = makeControl<MulticolorLabel>(this, "mclPName");
@@ -82,6 +101,16 @@ void JoinPanel::ShowPlayerName(const QString& name)
 {
     mclPName->setColouredText(ColourCodes::ShowPlayerName(name));
     lblPName->setText(mclPName->caption().isEmpty() ? QString() : tr("Player Name:"));
+}
+
+void JoinPanel::restorePasswords()
+{
+    m_passwords->restore();
+}
+
+void JoinPanel::savePasswords()
+{
+    m_passwords->writeOnClose();
 }
 
 void JoinPanel::retranslate()

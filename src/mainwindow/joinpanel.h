@@ -8,6 +8,7 @@
 class Desktop;
 class HistoryComboBox;
 class JoinFlow;
+class PasswordKeeper;
 class MulticolorLabel;
 class QLabel;
 class QPushButton;
@@ -40,6 +41,10 @@ public:
 
     void ShowPlayerName(const QString& name);
     void retranslate();
+    // The password and the remembered ones: from the keyring or the
+    // settings file, and back at the end.
+    void restorePasswords();
+    void savePasswords();
 
 signals:
     // Join was clicked: the boxes are remembered, the selected server waits.
@@ -57,4 +62,5 @@ private:
     QPushButton* cmdStopWaiting = nullptr;
     JoinFlow* m_flow = nullptr;
     SlotWaiter* m_waiter = nullptr;
+    PasswordKeeper* m_passwords = nullptr;
 };

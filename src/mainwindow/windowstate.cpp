@@ -46,7 +46,6 @@ WindowState::WindowState(SettingsStore& settings, Controls controls)
 void WindowState::restore()
 {
     m_controls.playerName->setEditText(m_settings.value(Keys::PlayerName));
-    m_controls.password->setEditText(m_settings.value(Keys::Password));
     m_controls.tabs->setCurrentIndex(m_settings.value(Keys::Tab) == PlayersTab ? PlayersTab : ServersTab);
     for (const List& list : std::as_const(m_controls.lists))
         ColumnLayout::restore(m_settings, list.prefix, *list.view->header());
@@ -114,7 +113,6 @@ void WindowState::writeOnClose()
     const SettingsStore::Batch batch(m_settings);
     m_settings.set(Keys::Maximized, m_controls.window->isMaximized());
     m_settings.set(Keys::PlayerName, m_controls.playerName->currentText());
-    m_settings.set(Keys::Password, m_controls.password->currentText());
     m_settings.set(Keys::Tab, m_controls.tabs->currentIndex());
     for (const Box& box : std::as_const(m_controls.boxes))
         m_settings.set(box.entries, box.box->entries());

@@ -43,7 +43,6 @@ public:
         QList<List> lists;
         QList<Box> boxes;
         HistoryComboBox* playerName = nullptr;
-        HistoryComboBox* password = nullptr;
     };
 
     WindowState(SettingsStore& settings, Controls controls);

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "platform/clock.h"
+#include "platform/secretstore.h"
 
 #include <QColor>
 #include <QCoreApplication>
@@ -73,6 +74,8 @@ public:
 
     // The time and the slow timers (minutes, not the query's milliseconds).
     virtual Clock& clock() = 0;
+    // The desktop's keyring.
+    virtual SecretStore& secrets() = 0;
 
     // The tray icon is there only while the user wants notifications.
     virtual void setNotifying(bool on) = 0;
@@ -95,6 +98,7 @@ public:
     bool openUrl(const QUrl& url) override;
     bool startDetached(const QString& program, const QStringList& arguments, const QString& workingFolder) override;
     Clock& clock() override { return m_clock; }
+    SecretStore& secrets() override { return m_secrets; }
     void setNotifying(bool on) override;
     bool notify(const QString& title, const QString& text, std::function<void()> clicked) override;
 
@@ -105,6 +109,7 @@ public:
 
 private:
     SystemClock m_clock;
+    KeyringSecretStore m_secrets;
     std::unique_ptr<QSystemTrayIcon> m_tray;
     std::function<void()> m_clicked;
 };

@@ -108,6 +108,7 @@ void FrmOptions::buildSettingsTab(QWidget* page)
     lblPath = makeControl<QLabel>(page, "lblPath");
     txtPath = makeControl<QLineEdit>(page, "txtPath");
     cmdBrowse = makeControl<QPushButton>(page, "cmdBrowse");
+    chkKeyring = makeControl<QCheckBox>(page, "chkKeyring");
 
     auto* grid = new QGridLayout(page);
     grid->addWidget(lblLanguage, 0, 0);
@@ -127,7 +128,8 @@ void FrmOptions::buildSettingsTab(QWidget* page)
     grid->addWidget(lblPath, 9, 0, 1, 4);
     grid->addWidget(txtPath, 10, 0, 1, 3);
     grid->addWidget(cmdBrowse, 10, 3);
-    grid->setRowStretch(11, 1);
+    grid->addWidget(chkKeyring, 11, 0, 1, 4);
+    grid->setRowStretch(12, 1);
     grid->setColumnStretch(1, 1);
     grid->setColumnStretch(3, 1);
 
@@ -158,6 +160,9 @@ void FrmOptions::retranslateUi()
         cmbSpeed->setItemText(i, speeds.at(i));
     chkAutoUpdate->setText(tr("Automatically Check For Updates"));
     chkCloseAfterJoin->setText(tr("Close After Joining"));
+    chkKeyring->setText(tr("Keep passwords in the desktop's keyring"));
+    chkKeyring->setToolTip(tr("Unticked, or on a desktop without a keyring, the passwords are kept in the settings "
+                              "file as plain text."));
     chkRefresh->setText(tr("Refresh Server On Selection"));
     lblPort->setText(tr("Port Range:"));
     lblPortDesc->setText(tr("Note: Port Range is dependant on the query speed."));
@@ -188,6 +193,7 @@ void FrmOptions::load()
     cmbSpeed->setCurrentIndex(speed >= 0 && speed <= 5 ? speed : 5);
     chkAutoUpdate->setChecked(m_settings.value(Keys::AutoUpdate));
     chkCloseAfterJoin->setChecked(m_settings.value(Keys::CloseAfterJoin));
+    chkKeyring->setChecked(m_settings.value(Keys::PasswordsInKeyring));
     // The text as stored: the rule below trims it as if it had been typed.
     txtStartPort->setText(m_settings.get(Keys::StartPort.key, QString::number(Keys::StartPort.defaultValue)));
     chkProxy->setChecked(m_settings.value(Keys::Proxy));
@@ -237,6 +243,7 @@ void FrmOptions::resetToDefaults()
     cmbSpeed->setCurrentIndex(5);
     chkAutoUpdate->setChecked(true);
     chkCloseAfterJoin->setChecked(true);
+    chkKeyring->setChecked(Keys::PasswordsInKeyring.defaultValue);
     txtStartPort->setText(QString::number(Keys::StartPort.defaultValue));
     chkProxy->setChecked(false);
     txtProxy->clear();
@@ -266,6 +273,7 @@ bool FrmOptions::save()
         m_settings.set(Keys::Language, cmbLanguage->currentIndex());
         m_settings.set(Keys::AutoUpdate, chkAutoUpdate->isChecked());
         m_settings.set(Keys::CloseAfterJoin, chkCloseAfterJoin->isChecked());
+        m_settings.set(Keys::PasswordsInKeyring, chkKeyring->isChecked());
         m_settings.save(Keys::StartPort.key, txtStartPort->text());
         m_settings.set(Keys::Proxy, chkProxy->isChecked());
         m_settings.set(Keys::ProxyAddress, txtProxy->text());

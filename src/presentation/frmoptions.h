@@ -65,6 +65,7 @@ private:
     QComboBox* cmbSpeed = nullptr;
     QCheckBox* chkAutoUpdate = nullptr;
     QCheckBox* chkCloseAfterJoin = nullptr;
+    QCheckBox* chkKeyring = nullptr; // passwords in the keyring, not the file
     QLabel* lblPort = nullptr;
     QLineEdit* txtStartPort = nullptr;
     QLabel* lblPortTo = nullptr;

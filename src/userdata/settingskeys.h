@@ -86,6 +86,9 @@ inline constexpr FlagSetting NotifyFriends{u"NotifyFriends", true};
 inline constexpr NumberSetting NotifyPlayerCount{u"NotifyPlayerCount", 0};
 // Joining a full server offers to wait for a free slot.
 inline constexpr FlagSetting OfferSlotWait{u"OfferSlotWait", true};
+// The join password and the remembered ones live in the desktop's keyring
+// when it has one; off, or without one, in Password and PasswordBox.
+inline constexpr FlagSetting PasswordsInKeyring{u"PasswordsInKeyring", true};
 
 // List prefixes: columns use the first, sorting the second (the selected
 // server's player pane is the one list where they differ).

@@ -14,6 +14,7 @@
 #include <QLineEdit>
 #include <QPushButton>
 #include <QSplitter>
+#include <QStyledItemDelegate>
 #include <QTabBar>
 #include <QTemporaryDir>
 #include <QTest>
@@ -394,6 +395,10 @@ private slots:
             run.type(password, QStringLiteral("2"), Qt::Key_Return);
             QCOMPARE(name->entries(), QStringList{"Fragger"});
             QCOMPARE(password->entries(), (QStringList{"pw1", "pw12"}));
+            // The list of remembered passwords shows dots, as the box does.
+            QCOMPARE(
+                qobject_cast<QStyledItemDelegate*>(password->itemDelegate())->displayText(QStringLiteral("pw12"), {}),
+                QString(4, QChar(0x25CF)));
 
             // Picked from the list and not edited: Delete forgets it.
             password->setCurrentIndex(0);

@@ -70,6 +70,13 @@ private slots:
         QCOMPARE(find<QLineEdit>("txtEndPort")->text(), QStringLiteral("31"));
         click("chkProxy");
         QVERIFY(!find<QLineEdit>("txtProxy")->isEnabled());
+
+        // Passwords go to the keyring unless the user wants the file.
+        QVERIFY(find<QCheckBox>("chkKeyring")->isChecked());
+        click("chkKeyring");
+        type("txtStartPort", QStringLiteral("12000"));
+        click("cmdOK");
+        QCOMPARE(m_settings->value(Keys::PasswordsInKeyring), false);
     }
 
     void saveRefusesAStartPortBelow1023()

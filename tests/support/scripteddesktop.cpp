@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "scripteddesktop.h"
 
+#include <QTimer>
+
 QMessageBox::StandardButton ScriptedDesktop::message(QWidget*, Icon icon, const QString& title, const QString& text,
                                                      QMessageBox::StandardButtons buttons,
                                                      const ButtonTexts& buttonTexts)
@@ -62,4 +64,21 @@ bool ScriptedDesktop::notify(const QString& title, const QString& text, std::fun
         ++unexpectedCalls;
     notifications.append({title, text, std::move(clicked)});
     return notificationsShown;
+}
+
+void MemorySecrets::read(const QString& key, QObject* context,
+                         std::function<void(Answer answer, const QString& value)> done)
+{
+    const Answer answer = !available ? Answer::Unavailable : values.contains(key) ? Answer::Found : Answer::Missing;
+    QTimer::singleShot(0, context,
+                       [done = std::move(done), answer, value = values.value(key)] { done(answer, value); });
+}
+
+void MemorySecrets::write(const QString& key, const QString& value, QObject* context, std::function<void(bool ok)> done)
+{
+    if (available) {
+        values.insert(key, value);
+        ++writes;
+    }
+    QTimer::singleShot(0, context, [done = std::move(done), ok = available] { done(ok); });
 }

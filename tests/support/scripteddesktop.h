@@ -4,10 +4,24 @@
 #include "manualclock.h"
 #include "platform/desktop.h"
 
+#include <QHash>
 #include <QList>
 #include <QQueue>
 
 #include <optional>
+
+// A keyring in memory: answers on the next turn of the event loop, as the
+// real one does; unavailable, it answers Unavailable to everything.
+class MemorySecrets final : public SecretStore {
+public:
+    bool available = true;
+    QHash<QString, QString> values;
+    int writes = 0;
+
+    void read(const QString& key, QObject* context,
+              std::function<void(Answer answer, const QString& value)> done) override;
+    void write(const QString& key, const QString& value, QObject* context, std::function<void(bool ok)> done) override;
+};
 
 // Answers modal boxes and file dialogs from a script the test writes in
 // advance, and records every call, so a test can check what the user was
@@ -60,6 +74,7 @@ public:
     bool notifying = false;
     bool notificationsShown = true; // false: a desktop without a tray
     ManualClock manualClock;
+    MemorySecrets keyring;
     int unexpectedCalls = 0;
 
     QMessageBox::StandardButton message(QWidget* parent, Icon icon, const QString& title, const QString& text,
@@ -72,6 +87,7 @@ public:
     bool openUrl(const QUrl& url) override;
     bool startDetached(const QString& program, const QStringList& arguments, const QString& workingFolder) override;
     Clock& clock() override { return manualClock; }
+    SecretStore& secrets() override { return keyring; }
     void setNotifying(bool on) override { notifying = on; }
     bool notify(const QString& title, const QString& text, std::function<void()> clicked) override;
 };

@@ -56,6 +56,7 @@ private slots:
             {Keys::NotifyFriends.key, u"NotifyFriends"},
             {Keys::NotifyPlayerCount.key, u"NotifyPlayerCount"},
             {Keys::OfferSlotWait.key, u"OfferSlotWait"},
+            {Keys::PasswordsInKeyring.key, u"PasswordsInKeyring"},
         };
         for (const auto& [key, name] : keys)
             QCOMPARE(key.toString(), name.toString());
