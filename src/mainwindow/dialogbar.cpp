@@ -102,6 +102,14 @@ void DialogBar::showHidden(int servers)
     lblHidden->setVisible(servers > 0);
 }
 
+void DialogBar::placeFocusAfter(QWidget* last)
+{
+    for (QWidget* next : {cmdOrganise, cmdFilters, cmdOptions, cmdRecent}) {
+        setTabOrder(last, next);
+        last = next;
+    }
+}
+
 void DialogBar::retranslate()
 {
     showHidden(m_hidden);

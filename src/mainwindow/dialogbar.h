@@ -43,6 +43,9 @@ public:
     // buttons while it is not none.
     void showHidden(int servers);
     void retranslate();
+    // The bar is made before the rest of the window but sits at its
+    // bottom: Tab reaches its buttons after last.
+    void placeFocusAfter(QWidget* last);
 
 signals:
     void filtersChanged();

@@ -25,7 +25,7 @@
 #include "userdata/favourites.h"
 #include "userdata/playhistory.h"
 #include "userdata/settingsstore.h"
-#include "widgets/historycombobox.h"
+#include "widgets/mnemonics.h"
 #include "widgets/namedcontrol.h"
 #include "widgets/reportview.h"
 
@@ -52,7 +52,6 @@ FrmMain::FrmMain(SettingsStore& settings, Desktop& desktop, Language& language, 
     retranslateUi();
 
     m_state->restore();
-    m_joinPanel->restorePasswords();
     showView(m_tabs->playersShown());
     if (m_language.apply(m_settings.value(Keys::Language)))
         retranslateUi();
@@ -222,6 +221,8 @@ void FrmMain::layOutControls()
     m_queryBar->addToStatusRow(counters);
     m_queryBar->addToStatusRow(m_joinPanel->stopWaitingButton());
     m_queryBar->addToButtonRow(cmdExit);
+    m_dialogs->placeFocusAfter(cmdExit);
+    m_queryBar->setFocus();
 
     auto* main = new QVBoxLayout(this);
     main->addWidget(lblAbout, 0, Qt::AlignLeft);
@@ -250,6 +251,7 @@ void FrmMain::retranslateUi()
     m_tabs->retranslate();
     m_menu->retranslate();
     m_lists->retranslate();
+    Mnemonics::assign(this);
 }
 
 ColumnLayout::SortState FrmMain::serverSort() const
@@ -299,10 +301,7 @@ void FrmMain::addAnswers(const QList<ServerRecord>& batch)
     m_lists->append(batch);
     updateCounters();
     // A query the user runs meanwhile asks the awaited server too.
-    if (m_waiter->isWaiting()) {
-        for (const ServerRecord& server : batch)
-            m_waiter->answered(server);
-    }
+    m_waiter->answered(batch);
 }
 
 void FrmMain::applyUpdates(const QList<ServerRecord>& batch)
@@ -310,8 +309,7 @@ void FrmMain::applyUpdates(const QList<ServerRecord>& batch)
     const QList<int> indexes = m_lists->replace(batch);
     if (indexes.contains(m_selection->server()) && m_selection->server() >= 0)
         m_selection->refreshed(m_selection->server());
-    for (const ServerRecord& server : batch)
-        m_waiter->answered(server);
+    m_waiter->answered(batch);
     updateCounters();
 }
 

@@ -46,6 +46,7 @@ JoinPanel::JoinPanel(SettingsStore& settings, Desktop& desktop, const QString& f
     cmbPassword->lineEdit()->setEchoMode(QLineEdit::Password);
     cmbPassword->setItemDelegate(new MaskedItemDelegate(cmbPassword));
     m_passwords = new PasswordKeeper(settings, desktop.secrets(), *cmbPassword, this);
+    m_passwords->restore();
     lblPassword->setBuddy(cmbPassword);
     lblPName = makeControl<QLabel>(this, "lblPName");
     mclPName = makeControl<MulticolorLabel>(this, "mclPName");
@@ -101,11 +102,6 @@ void JoinPanel::ShowPlayerName(const QString& name)
 {
     mclPName->setColouredText(ColourCodes::ShowPlayerName(name));
     lblPName->setText(mclPName->caption().isEmpty() ? QString() : tr("Player Name:"));
-}
-
-void JoinPanel::restorePasswords()
-{
-    m_passwords->restore();
 }
 
 void JoinPanel::savePasswords()

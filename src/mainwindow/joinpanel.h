@@ -41,9 +41,8 @@ public:
 
     void ShowPlayerName(const QString& name);
     void retranslate();
-    // The password and the remembered ones: from the keyring or the
-    // settings file, and back at the end.
-    void restorePasswords();
+    // The password and the remembered ones back where they came from (the
+    // keyring or the settings file), at the end.
     void savePasswords();
 
 signals:

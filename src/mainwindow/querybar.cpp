@@ -80,6 +80,9 @@ QueryBar::QueryBar(QueryController& queries, Desktop& desktop, QWidget* parent)
         if (cmdCancel->isEnabled() && cmdCancel->isVisible())
             cmdCancel->click();
     });
+    // The window starts with the focus on "Query Masters": the first thing
+    // to do, one key away.
+    setFocusProxy(cmdGet);
     connect(cmdGet, &QPushButton::clicked, &queries, &QueryController::startMasterQuery);
     connect(cmdFav, &QPushButton::clicked, &queries, &QueryController::startFavouritesQuery);
     connect(cmdLan, &QPushButton::clicked, &queries, &QueryController::startLanQuery);
@@ -129,9 +132,17 @@ void QueryBar::retranslate()
 
 void QueryBar::setBusy(bool busy)
 {
+    // A query started from the keyboard leaves the focus on Cancel, and
+    // its end puts it back on the button that started it.
+    QWidget* focused = focusWidget();
+    const bool ours = focused == cmdGet || focused == cmdFav || focused == cmdLan || focused == cmdCancel;
+    if (busy && ours && focused != cmdCancel)
+        m_starter = focused;
     cmdGet->setEnabled(!busy);
     cmdFav->setEnabled(!busy);
     cmdLan->setEnabled(!busy);
     cmdCancel->setEnabled(busy);
     m_swap->setCurrentWidget(busy ? cmdCancel : cmdLan);
+    if (ours)
+        (busy ? cmdCancel : m_starter ? m_starter : cmdGet)->setFocus(Qt::OtherFocusReason);
 }

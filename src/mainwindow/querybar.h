@@ -45,6 +45,7 @@ private:
     QPushButton* cmdLan = nullptr;
     QPushButton* cmdCancel = nullptr;
     QStackedLayout* m_swap = nullptr;
+    QWidget* m_starter = nullptr; // the button a keyboard query came from
     QHBoxLayout* m_statusRow = nullptr;
     QHBoxLayout* m_buttonRow = nullptr;
     StatusLine* lblStatus = nullptr;

@@ -57,6 +57,14 @@ void SlotWaiter::stop()
     emit status(tr("Stopped waiting for a free slot."), StatusTone::Hint);
 }
 
+void SlotWaiter::answered(const QList<ServerRecord>& batch)
+{
+    if (!m_waiting)
+        return;
+    for (const ServerRecord& server : batch)
+        answered(server);
+}
+
 void SlotWaiter::answered(const ServerRecord& server)
 {
     if (!m_waiting || server.address != m_address || server.port != m_port)

@@ -52,6 +52,7 @@ public:
     void stop();
     // A new answer of any server; only the awaited one counts.
     void answered(const ServerRecord& server);
+    void answered(const QList<ServerRecord>& batch);
 
 signals:
     // Ask the server again (one request).

@@ -12,6 +12,7 @@
 #include "userdata/settingskeys.h"
 #include "userdata/settingsstore.h"
 #include "widgets/messageline.h"
+#include "widgets/mnemonics.h"
 #include "widgets/namedcontrol.h"
 
 #include <QCheckBox>
@@ -176,6 +177,7 @@ void FrmOptions::retranslateUi()
     cmdCancel->setText(tr("Cancel"));
     cmdApply->setText(tr("Apply"));
     cmdDefaults->setText(tr("Defaults"));
+    Mnemonics::assign(this);
 }
 
 void FrmOptions::changeEvent(QEvent* event)

@@ -79,6 +79,10 @@ QString ThemeService::styleSheet(const ThemeFile::Theme& theme, const QPalette& 
                                    "alternate-background-color: %1; selection-background-color: %3; "
                                    "selection-color: %4; }")
                         .arg(listBack, listText, selected, onSelected);
+    // The list with the keyboard shows it, an empty one too.
+    sheet += QStringLiteral("QTableView, QTreeView, QListView { border: 1px solid palette(mid); } "
+                            "QTableView:focus, QTreeView:focus, QListView:focus { border: 1px solid %1; }")
+                 .arg(selected);
     sheet += QStringLiteral("QLineEdit, QComboBox, QComboBox QAbstractItemView { background-color: %1; color: %2; "
                             "selection-background-color: %3; selection-color: %4; }")
                  .arg(textBack, textText, selected, onSelected);

@@ -5,6 +5,7 @@
 #include "widgets/columnlayout.h"
 #include "widgets/copycommands.h"
 #include "widgets/messageline.h"
+#include "widgets/mnemonics.h"
 #include "widgets/reportview.h"
 
 #include <QAction>
@@ -96,8 +97,16 @@ void EditableListDialog::retranslateMenu()
 void EditableListDialog::changeEvent(QEvent* event)
 {
     QDialog::changeEvent(event);
-    if (event->type() == QEvent::LanguageChange)
+    if (event->type() == QEvent::LanguageChange) {
         retranslateUi();
+        Mnemonics::assign(this);
+    }
+}
+
+void EditableListDialog::showEvent(QShowEvent* event)
+{
+    Mnemonics::assign(this);
+    QDialog::showEvent(event);
 }
 
 void EditableListDialog::hideEvent(QHideEvent* event)

@@ -61,6 +61,7 @@ protected:
     void keepColumnOrder() { m_keepsOrder = true; }
 
     void changeEvent(QEvent* event) override;
+    void showEvent(QShowEvent* event) override;
     void hideEvent(QHideEvent* event) override;
     bool eventFilter(QObject* watched, QEvent* event) override;
 

@@ -148,6 +148,19 @@ private slots:
         QCOMPARE(w.status(), QStringLiteral("Cancelled"));
         QTest::keyClick(QApplication::focusWidget(), Qt::Key_F, Qt::ControlModifier);
         QCOMPARE(QApplication::focusWidget(), w.find<QWidget>("cmbFind"));
+        // The button's own Alt+letter, from the find box.
+        const QString caption = w.button("cmdGet")->text();
+        const QChar letter = caption.at(caption.indexOf(QLatin1Char('&')) + 1).toUpper();
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key(letter.unicode()), Qt::AltModifier);
+        QTRY_VERIFY(w.window->queries().isRunning()); // a mnemonic clicks as a user sees it: a moment later
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Escape);
+        // Started with Space on the button: the focus waits on Cancel, and
+        // comes back to the button when the query ends.
+        QTest::keyClick(w.focus(w.button("cmdGet")), Qt::Key_Space);
+        QVERIFY(w.window->queries().isRunning());
+        QCOMPARE(QApplication::focusWidget(), w.button("cmdCancel"));
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Escape);
+        QCOMPARE(QApplication::focusWidget(), w.button("cmdGet"));
     }
 
     void masterTimeOutOffersRetry()

@@ -11,6 +11,7 @@
 #include "update/frmdownload.h"
 #include "update/frmupdate.h"
 #include "userdata/settingsstore.h"
+#include "widgets/mnemonics.h"
 #include "widgets/statusline.h"
 
 #include <QAbstractButton>
@@ -18,7 +19,9 @@
 #include <QGroupBox>
 #include <QHeaderView>
 #include <QLabel>
+#include <QRegularExpression>
 #include <QSet>
+#include <QStackedWidget>
 #include <QTabBar>
 #include <QTabWidget>
 #include <QTemporaryDir>
@@ -31,7 +34,7 @@ QMap<QString, QString> textsOf(QWidget* window)
 {
     QMap<QString, QString> texts;
     const auto add = [&texts](const QObject* control, const QString& part, const QString& text) {
-        texts.insert(control->objectName() + part, text);
+        texts.insert(control->objectName() + part, Mnemonics::plain(text));
     };
     if (!window->windowTitle().isEmpty())
         add(window, QStringLiteral(":title"), window->windowTitle());
@@ -165,6 +168,58 @@ private slots:
                 left.append(it.key() + QStringLiteral(" = \"") + it.value() + QLatin1Char('"'));
         }
         QVERIFY2(left.isEmpty(), qPrintable(left.join(QLatin1Char('\n'))));
+        windows.language.apply(0);
+    }
+
+    // Every captioned control of the main window and the options has its
+    // own Alt+letter in every language.
+    void everyCaptionHasItsOwnLetter()
+    {
+        Windows windows;
+        for (int index = 0; index < Language::Count; ++index) {
+            QVERIFY(windows.language.apply(index));
+            QTest::qWait(0);
+            for (QWidget* window : std::initializer_list<QWidget*>{&windows.main, &windows.options}) {
+                // Controls shown together: those outside the tab pages, and
+                // those of one page.
+                QMap<const QWidget*, QStringList> shownTogether;
+                for (const QWidget* control : window->findChildren<QWidget*>()) {
+                    const auto* button = qobject_cast<const QAbstractButton*>(control);
+                    const auto* label = qobject_cast<const QLabel*>(control);
+                    const QString text = button ? button->text() : label && label->buddy() ? label->text() : QString();
+                    if (control->window() != window || text.isEmpty())
+                        continue;
+                    const QWidget* page = nullptr;
+                    for (const QWidget* w = control; w != window; w = w->parentWidget())
+                        if (qobject_cast<const QStackedWidget*>(w->parentWidget()))
+                            page = w;
+                    shownTogether[page].append(text);
+                }
+                for (const QTabBar* tabs : window->findChildren<QTabBar*>())
+                    for (int i = 0; i < tabs->count(); ++i)
+                        shownTogether[nullptr].append(tabs->tabText(i));
+                for (auto it = shownTogether.cbegin(); it != shownTogether.cend(); ++it) {
+                    const QStringList captions = shownTogether.value(nullptr) + (it.key() ? it.value() : QStringList());
+                    QSet<QChar> letters;
+                    QStringList unmarked;
+                    for (const QString& caption : captions) {
+                        const qsizetype at = caption.indexOf(QRegularExpression(QStringLiteral("&[^&]")));
+                        if (at < 0) {
+                            unmarked.append(caption);
+                            continue;
+                        }
+                        QVERIFY2(!letters.contains(caption.at(at + 1).toLower()), qPrintable(caption));
+                        letters.insert(caption.at(at + 1).toLower());
+                    }
+                    // A caption goes without only when the others took all its letters.
+                    for (const QString& caption : std::as_const(unmarked))
+                        for (const QChar c : caption)
+                            QVERIFY2(!c.isLetterOrNumber() || letters.contains(c.toLower()),
+                                     qPrintable(
+                                         QStringLiteral("%1: %2 in %3").arg(index).arg(caption, captions.join(u'|'))));
+                }
+            }
+        }
         windows.language.apply(0);
     }
 
