@@ -134,6 +134,11 @@ void ThemeService::apply(const ThemeFile::Theme& theme)
     const QColor onForm = form.lightnessF() < 0.5 ? QColor(Qt::white) : QColor(Qt::black);
     windows.setColor(QPalette::WindowText, onForm);
     windows.setColor(QPalette::ButtonText, onForm);
+    // A control that cannot be used looks it: its caption half way to the form.
+    const QColor dimmed = QColor::fromRgbF((onForm.redF() + form.redF()) / 2, (onForm.greenF() + form.greenF()) / 2,
+                                           (onForm.blueF() + form.blueF()) / 2);
+    windows.setColor(QPalette::Disabled, QPalette::WindowText, dimmed);
+    windows.setColor(QPalette::Disabled, QPalette::ButtonText, dimmed);
     QApplication::setPalette(windows);
 
     // Lists and boxes by style sheet: a palette set for a class reaches

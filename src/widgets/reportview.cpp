@@ -34,8 +34,11 @@ ReportView::ReportView(QAbstractItemModel* model, const QList<int>& designWidths
     columnsHeader->setStretchLastSection(false);
     columnsHeader->setSectionsClickable(true);
     columnsHeader->setSectionsMovable(true);
-    for (int column = 0; column < designWidths.size(); ++column)
+    for (int column = 0; column < designWidths.size(); ++column) {
         columnsHeader->resizeSection(column, designWidths.at(column));
+        // The header may not go as narrow as the design asks.
+        m_givenWidths[column] = columnsHeader->sectionSize(column);
+    }
 
     // A new language or a new sort column can need wider titles.
     connect(model, &QAbstractItemModel::headerDataChanged, this, &ReportView::fitTitles);

@@ -89,6 +89,11 @@ private slots:
         const QPalette shown = QApplication::palette();
         QCOMPARE(shown.color(QPalette::Window), m_themes->toColor(dark.formBack));
         QVERIFY(Contrast::ratio(shown.color(QPalette::WindowText), shown.color(QPalette::Window)) >= 4.5);
+        // Remove, disabled here, looks it: dimmer than an enabled caption, still legible.
+        const QColor disabled = shown.color(QPalette::Disabled, QPalette::ButtonText);
+        QVERIFY(Contrast::ratio(disabled, shown.color(QPalette::Button)) <
+                Contrast::ratio(shown.color(QPalette::Active, QPalette::ButtonText), shown.color(QPalette::Button)));
+        QVERIFY(Contrast::ratio(disabled, shown.color(QPalette::Button)) >= Contrast::Legible);
         QVERIFY(Contrast::ratio(m_themes->toColor(dark.listText), listBase()) >= 4.5);
         click("cmdOK");
         const ThemeFile::Themes saved = *ThemeFile::readFile(m_themes->filePath());

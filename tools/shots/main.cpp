@@ -12,6 +12,7 @@
 #include "mainwindow/querycontroller.h"
 #include "platform/desktop.h"
 #include "presentation/language.h"
+#include "presentation/themefile.h"
 #include "simfleet.h"
 #include "update/downloader.h"
 #include "update/frmdownload.h"
@@ -21,6 +22,7 @@
 #include "widgets/reportview.h"
 
 #include <QApplication>
+#include <QComboBox>
 #include <QDialog>
 #include <QDir>
 #include <QEventLoop>
@@ -143,6 +145,15 @@ bool shootLanguage(SimFleet& fleet, int language, const QDir& out)
     ok = save(options, out, QStringLiteral("options-settings")) && ok;
     tabs->setCurrentIndex(1);
     ok = save(options, out, QStringLiteral("options-theme")) && ok;
+    // The shipped dark theme, chosen as a user chooses it: shown at once on
+    // every window, put back by Cancel.
+    auto* themes = child<QComboBox>(options, "cmbThemes");
+    const int dark = themes->findText(ThemeFile::shippedThemes().first().name);
+    themes->setCurrentIndex(dark);
+    emit themes->activated(dark);
+    settle();
+    ok = save(options, out, QStringLiteral("options-theme-dark")) && ok;
+    ok = save(&main, out, QStringLiteral("main-dark")) && ok;
     tabs->setCurrentIndex(2);
     ok = save(options, out, QStringLiteral("options-servers")) && ok;
     tabs->setCurrentIndex(3);
