@@ -12,6 +12,7 @@
 #include "update/frmupdate.h"
 #include "userdata/settingsstore.h"
 #include "widgets/mnemonics.h"
+#include "widgets/reportview.h"
 #include "widgets/statusline.h"
 
 #include <QAbstractButton>
@@ -21,6 +22,7 @@
 #include <QLabel>
 #include <QRegularExpression>
 #include <QSet>
+#include <QStyle>
 #include <QStackedWidget>
 #include <QTabBar>
 #include <QTabWidget>
@@ -217,6 +219,41 @@ private slots:
                             QVERIFY2(!c.isLetterOrNumber() || letters.contains(c.toLower()),
                                      qPrintable(
                                          QStringLiteral("%1: %2 in %3").arg(index).arg(caption, captions.join(u'|'))));
+                }
+            }
+        }
+        windows.language.apply(0);
+    }
+
+    // A column title is read whole at its first-start width in every
+    // language, and the sorted column's beside its arrow.
+    void columnTitlesAreReadWhole()
+    {
+        Windows windows;
+        windows.main.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&windows.main));
+        auto* servers = windows.main.findChild<ReportView*>(QStringLiteral("lstServerList"));
+        for (int index = 0; index < Language::Count; ++index) {
+            QVERIFY(windows.language.apply(index));
+            QTest::qWait(0);
+            servers->header()->setSortIndicator(2, Qt::AscendingOrder); // "Players"
+            for (const ReportView* list : windows.main.findChildren<ReportView*>()) {
+                const QHeaderView* header = list->header();
+                for (int column = 0; column < header->count(); ++column) {
+                    // The last column of the two big lists takes what width is left.
+                    if (header->stretchLastSection() && header->visualIndex(column) == header->count() - 1)
+                        continue;
+                    const QString title = header->model()->headerData(column, Qt::Horizontal).toString();
+                    int needed = header->fontMetrics().horizontalAdvance(title) +
+                                 2 * header->style()->pixelMetric(QStyle::PM_HeaderMargin, nullptr, header);
+                    if (header->isSortIndicatorShown() && header->sortIndicatorSection() == column)
+                        needed += header->style()->pixelMetric(QStyle::PM_HeaderMarkSize, nullptr, header);
+                    QVERIFY2(header->sectionSize(column) >= needed,
+                             qPrintable(QStringLiteral("%1: %2 \"%3\" %4 < %5")
+                                            .arg(index)
+                                            .arg(list->objectName(), title)
+                                            .arg(header->sectionSize(column))
+                                            .arg(needed)));
                 }
             }
         }
