@@ -4,10 +4,22 @@
 #include <QApplication>
 #include <QStyle>
 
+namespace {
+
+// The desktop's own colours, as the platform gives them (a dark desktop's
+// are dark), taken before any theme replaced the application's palette.
+const QPalette& desktopPalette()
+{
+    static const QPalette palette = QApplication::palette();
+    return palette;
+}
+
+} // namespace
+
 ThemeService::ThemeService(QString dataFolder, QObject* parent)
     : QObject(parent)
     , m_dataFolder(std::move(dataFolder))
-    , m_system(QApplication::style()->standardPalette())
+    , m_system(desktopPalette())
     , m_applied(ThemeFile::systemTheme())
 {
 }
