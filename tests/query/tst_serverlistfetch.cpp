@@ -1,4 +1,6 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
+#include "endpoints.h"
+#include "fleet.h"
 #include "httpresponder.h"
 #include "peakmemory.h"
 #include "query/httpproxy.h"
@@ -14,14 +16,6 @@
 namespace {
 
 const quint16 PoolPort = TestPorts::at(2000);
-
-QStringList endpoints(const AddressTable& table)
-{
-    QStringList texts;
-    for (const AddressEntry& entry : table.entries())
-        texts.append(entry.endpointText());
-    return texts;
-}
 
 // The longest the event loop stood still while this lived.
 struct LoopWatch {

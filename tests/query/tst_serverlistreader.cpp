@@ -1,20 +1,9 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
+#include "endpoints.h"
 #include "query/masteraddress.h"
 #include "query/serverlistreader.h"
 
 #include <QTest>
-
-namespace {
-
-QStringList endpoints(const AddressTable& table)
-{
-    QStringList texts;
-    for (const AddressEntry& entry : table.entries())
-        texts.append(entry.endpointText());
-    return texts;
-}
-
-} // namespace
 
 class TestServerListReader final : public QObject {
     Q_OBJECT

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
+#include "endpoints.h"
 #include "fleet.h"
 #include "httpresponder.h"
 #include "query/lanquery.h"
@@ -20,14 +21,6 @@ const quint16 PoolPort = TestPorts::at(2000);
 MasterAddress masterAt(quint16 port)
 {
     return MasterAddress{QStringLiteral("127.0.0.1"), port};
-}
-
-QStringList endpoints(const AddressTable& table)
-{
-    QStringList texts;
-    for (const AddressEntry& entry : table.entries())
-        texts.append(entry.endpointText());
-    return texts;
 }
 
 QStringList fleetEndpoints(const SimFleet& fleet, int from = 0, int count = -1)
