@@ -12,6 +12,8 @@
 //   q4vantage-bench parse     infoResponse parsing throughput
 //   q4vantage-bench sources   a silent master beside a published list and 30
 //                             live servers: when the window lists them
+//   q4vantage-bench countries one country lookup per answering server: the
+//                             cost on Debian's location database
 //   q4vantage-bench filter    re-filtering 10,000 servers and 150,000 players,
 //                             with 50 friends marked, and a refresh of every
 //                             server applied in place
@@ -485,7 +487,8 @@ int parse()
 
 } // namespace
 
-int sources(); // bench_sources.cpp
+int sources();   // bench_sources.cpp
+int countries(); // bench_countries.cpp
 
 int main(int argc, char* argv[])
 {
@@ -507,6 +510,8 @@ int main(int argc, char* argv[])
         return filter();
     if (which == QLatin1String("sources"))
         return sources();
-    std::fprintf(stderr, "usage: q4vantage-bench pool|cost|window|windowping|parse|filter|sources\n");
+    if (which == QLatin1String("countries"))
+        return countries();
+    std::fprintf(stderr, "usage: q4vantage-bench pool|cost|window|windowping|parse|filter|sources|countries\n");
     return 2;
 }

@@ -21,6 +21,8 @@ depends=$(dpkg-deb -f "$deb" Depends)
 echo "package: $(basename "$deb"), depends: $depends"
 grep -q libqt6widgets6 <<<"$depends"
 grep -q libqt6keychain1 <<<"$depends"
+grep -q libloc1 <<<"$depends"
+dpkg-deb -f "$deb" Recommends | grep -q libloc-database
 
 desktop-file-validate "$root/usr/share/applications/q4vantage.desktop"
 appstreamcli validate --no-net "$root/usr/share/metainfo/org.q4vantage.Q4Vantage.metainfo.xml" >/dev/null

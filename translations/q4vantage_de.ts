@@ -64,6 +64,21 @@
     </message>
 </context>
 <context>
+    <name>Countries</name>
+    <message>
+        <source>Countries: %1</source>
+        <translation>Länder: %1</translation>
+    </message>
+    <message>
+        <source>Countries: no location database is set, so no flags are shown.</source>
+        <translation>Länder: keine Standortdatenbank eingestellt, daher werden keine Flaggen gezeigt.</translation>
+    </message>
+    <message>
+        <source>Countries: no flags are shown, as %1 (the package libloc-database installs one).</source>
+        <translation>Länder: es werden keine Flaggen gezeigt, da %1 (das Paket libloc-database installiert eine).</translation>
+    </message>
+</context>
+<context>
     <name>Desktop</name>
     <message>
         <source>Select your Quake 4 Executable</source>

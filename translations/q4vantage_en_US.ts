@@ -63,6 +63,21 @@
     </message>
 </context>
 <context>
+    <name>Countries</name>
+    <message>
+        <source>Countries: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Countries: no location database is set, so no flags are shown.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Countries: no flags are shown, as %1 (the package libloc-database installs one).</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>Desktop</name>
     <message>
         <source>Select your Quake 4 Executable</source>

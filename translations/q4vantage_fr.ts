@@ -64,6 +64,21 @@
     </message>
 </context>
 <context>
+    <name>Countries</name>
+    <message>
+        <source>Countries: %1</source>
+        <translation>Pays : %1</translation>
+    </message>
+    <message>
+        <source>Countries: no location database is set, so no flags are shown.</source>
+        <translation>Pays : aucune base de localisation n'est choisie, les drapeaux ne sont donc pas affichés.</translation>
+    </message>
+    <message>
+        <source>Countries: no flags are shown, as %1 (the package libloc-database installs one).</source>
+        <translation>Pays : aucun drapeau n'est affiché, car %1 (le paquet libloc-database en installe une).</translation>
+    </message>
+</context>
+<context>
     <name>Desktop</name>
     <message>
         <source>Select your Quake 4 Executable</source>

@@ -64,6 +64,21 @@ hanno risposto %2 server su %3</translation>
     </message>
 </context>
 <context>
+    <name>Countries</name>
+    <message>
+        <source>Countries: %1</source>
+        <translation>Paesi: %1</translation>
+    </message>
+    <message>
+        <source>Countries: no location database is set, so no flags are shown.</source>
+        <translation>Paesi: nessun database di localizzazione impostato, quindi nessuna bandiera.</translation>
+    </message>
+    <message>
+        <source>Countries: no flags are shown, as %1 (the package libloc-database installs one).</source>
+        <translation>Paesi: nessuna bandiera, perché %1 (il pacchetto libloc-database ne installa uno).</translation>
+    </message>
+</context>
+<context>
     <name>Desktop</name>
     <message>
         <source>Select your Quake 4 Executable</source>

@@ -64,6 +64,21 @@
     </message>
 </context>
 <context>
+    <name>Countries</name>
+    <message>
+        <source>Countries: %1</source>
+        <translation>Landen: %1</translation>
+    </message>
+    <message>
+        <source>Countries: no location database is set, so no flags are shown.</source>
+        <translation>Landen: geen locatiedatabase ingesteld, dus geen vlaggen.</translation>
+    </message>
+    <message>
+        <source>Countries: no flags are shown, as %1 (the package libloc-database installs one).</source>
+        <translation>Landen: geen vlaggen, want %1 (het pakket libloc-database installeert er een).</translation>
+    </message>
+</context>
+<context>
     <name>Desktop</name>
     <message>
         <source>Select your Quake 4 Executable</source>

@@ -64,6 +64,21 @@ responderam %2 de %3 servidores</translation>
     </message>
 </context>
 <context>
+    <name>Countries</name>
+    <message>
+        <source>Countries: %1</source>
+        <translation>Países: %1</translation>
+    </message>
+    <message>
+        <source>Countries: no location database is set, so no flags are shown.</source>
+        <translation>Países: nenhuma base de dados de localização definida, por isso não há bandeiras.</translation>
+    </message>
+    <message>
+        <source>Countries: no flags are shown, as %1 (the package libloc-database installs one).</source>
+        <translation>Países: não há bandeiras, porque %1 (o pacote libloc-database instala uma).</translation>
+    </message>
+</context>
+<context>
     <name>Desktop</name>
     <message>
         <source>Select your Quake 4 Executable</source>

@@ -80,6 +80,8 @@ void FrmMain::createControls()
         [this](const QString& address) { return selectServer(address); }, this);
     m_lists->setRules(m_dialogs->filters().filters(), m_dialogs->filters().builtIn());
     m_queries = new QueryController(m_settings, m_dataFolder, m_desktop.clock(), this);
+    m_lists->servers().setCountries(&m_queries->countries());
+    lblAbout->setNotes([this] { return m_queries->countries().status(); });
     // Before the query bar's Retry box, so the box shows the counts as they are.
     connect(m_queries, &QueryController::masterTimedOut, this, &FrmMain::updateCounters);
 
@@ -227,11 +229,8 @@ void FrmMain::layOutControls()
     auto* main = new QVBoxLayout(this);
     main->addWidget(lblAbout, 0, Qt::AlignLeft);
     main->addWidget(m_tabs, 1);
-    main->addWidget(m_selection);
-    main->addWidget(m_joinPanel);
-    main->addWidget(m_find);
-    main->addWidget(m_queryBar);
-    main->addWidget(m_dialogs);
+    for (QWidget* row : std::initializer_list<QWidget*>{m_selection, m_joinPanel, m_find, m_queryBar, m_dialogs})
+        main->addWidget(row);
 }
 
 void FrmMain::retranslateUi()

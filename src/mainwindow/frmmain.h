@@ -25,6 +25,7 @@ class ServerSelection;
 class SettingsStore;
 class SlotWaiter;
 class ThemeService;
+class TitleLabel;
 class UpdateFlow;
 class WindowState;
 struct ServerRecord;
@@ -119,7 +120,7 @@ private:
     AutoRefresh* m_autoRefresh = nullptr;
     SlotWaiter* m_waiter = nullptr;
 
-    QLabel* lblAbout = nullptr;
+    TitleLabel* lblAbout = nullptr;
 
     QLabel* lblPlayers = nullptr;
     QLabel* lblServers = nullptr;

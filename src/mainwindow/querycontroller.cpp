@@ -17,6 +17,7 @@ QueryController::QueryController(SettingsStore& settings, const QString& dataFol
     , m_memory(KnownServers::filePath(dataFolder), clock)
     , m_round(m_session, m_batcher, m_memory)
 {
+    m_countries.open(m_settings.value(Keys::CountryDatabase)); // the About box tells of it from the start
     connect(&m_batcher, &AnswerBatcher::due, this, &QueryController::flush);
     connect(&m_round, &RefreshRound::updated, this, &QueryController::updated);
     connect(&m_round, &RefreshRound::ended, this, &QueryController::roundEnded);
@@ -79,6 +80,8 @@ bool QueryController::preparePool()
         return false;
     }
     m_session.setPool(plan);
+    // The setting is read as the query starts, as every other one.
+    m_session.setCountries(m_countries.open(m_settings.value(Keys::CountryDatabase)));
     return true;
 }
 

@@ -5,6 +5,7 @@
 #include "mainwindow/refreshround.h"
 #include "mainwindow/servermemory.h"
 #include "mainwindow/sourcestatus.h"
+#include "presentation/countries.h"
 #include "query/querysession.h"
 #include "query/records.h"
 #include "widgets/statustone.h"
@@ -29,6 +30,8 @@ public:
     QueryController(SettingsStore& settings, const QString& dataFolder, const Clock& clock, QObject* parent = nullptr);
 
     const QuerySession& session() const { return m_session; }
+    // Where the answering servers are, and their flags.
+    const Countries& countries() const { return m_countries; }
     bool isRunning() const { return m_session.isRunning(); }
     // What each source of the last query gave, one line each.
     const QString& sourceSummary() const { return m_sources.summary; }
@@ -103,6 +106,7 @@ private:
     QString m_favouritesPath;
     QString m_historyPath;
     QuerySession m_session;
+    Countries m_countries;
     AnswerBatcher m_batcher;
     ServerMemory m_memory;
     RefreshRound m_round;

@@ -40,11 +40,25 @@ void RowMarkDelegate::initStyleOption(QStyleOptionViewItem* option, const QModel
         option->font.setBold(true);
         if (index.column() == 0) {
             // On a selected row the highlight colour would hide the star.
-            option->icon = star(option->palette.color(option->state & QStyle::State_Selected ? QPalette::HighlightedText
-                                                                                             : QPalette::Highlight));
-            option->features |= QStyleOptionViewItem::HasDecoration;
+            const QIcon marked = star(option->palette.color(
+                option->state & QStyle::State_Selected ? QPalette::HighlightedText : QPalette::Highlight));
             const int side = option->fontMetrics.height() - 2;
-            option->decorationSize = QSize(side, side);
+            if (option->icon.isNull()) {
+                option->icon = marked;
+                option->decorationSize = QSize(side, side);
+            } else {
+                // The star, then the row's own icon (a flag) beside it.
+                const QSize own = option->decorationSize;
+                QPixmap both(side + 2 + own.width(), std::max(side, own.height()));
+                both.fill(Qt::transparent);
+                QPainter painter(&both);
+                painter.drawPixmap(0, (both.height() - side) / 2, marked.pixmap(side, side));
+                painter.drawPixmap(side + 2, (both.height() - own.height()) / 2, option->icon.pixmap(own));
+                painter.end();
+                option->icon = QIcon(both);
+                option->decorationSize = both.size();
+            }
+            option->features |= QStyleOptionViewItem::HasDecoration;
         }
     }
 }

@@ -2,6 +2,7 @@
 #include "mainwindow/serverlistmodel.h"
 
 #include "presentation/colourcodes.h"
+#include "presentation/countries.h"
 
 #include <QDateTime>
 #include <QLocale>
@@ -51,12 +52,21 @@ QVariant ServerListModel::data(const QModelIndex& index, int role) const
     case RowMarks::Role:
         return (m_hasFriend && m_hasFriend(row) ? RowMarks::Friend : 0) |
                (m_silent.at(size_t(row)) ? RowMarks::Silent : 0);
-    case Qt::ToolTipRole:
-        if (!m_silent.at(size_t(row)))
-            return {};
-        return tr("No answer to the last refresh; last seen at %1")
-            .arg(QLocale().toString(QDateTime::fromMSecsSinceEpoch(m_lastSeen.at(size_t(row))).time(),
-                                    QLocale::ShortFormat));
+    case Qt::DecorationRole:
+        // The flag before the name.
+        if (index.column() == Name && m_countries && !m_store.at(row).country.isEmpty())
+            return m_countries->flag(m_store.at(row).country);
+        return {};
+    case Qt::ToolTipRole: {
+        QStringList tips;
+        if (m_countries && !m_store.at(row).country.isEmpty())
+            tips.append(m_countries->name(m_store.at(row).country));
+        if (m_silent.at(size_t(row)))
+            tips.append(tr("No answer to the last refresh; last seen at %1")
+                            .arg(QLocale().toString(QDateTime::fromMSecsSinceEpoch(m_lastSeen.at(size_t(row))).time(),
+                                                    QLocale::ShortFormat)));
+        return tips.isEmpty() ? QVariant() : QVariant(tips.join(QLatin1Char('\n')));
+    }
     default:
         return {};
     }

@@ -7,6 +7,8 @@
 
 #include <functional>
 
+class Countries;
+
 // Every server that answered, in answer order: the hidden full server
 // list. The visible list is a proxy over it. Each row refers to its record
 // in the per-server store by the store's index.
@@ -45,6 +47,8 @@ public:
     qint64 lastSeenMs(int storeIndex) const { return m_lastSeen.at(size_t(storeIndex)); }
     // Whether a friend plays on a server (the player list knows).
     void setFriendLookup(std::function<bool(int storeIndex)> hasFriend) { m_hasFriend = std::move(hasFriend); }
+    // Flags before the names, the country's name in the tooltip.
+    void setCountries(const Countries* countries) { m_countries = countries; }
     // The friends changed: every row's mark may have.
     void marksChanged();
 
@@ -58,6 +62,7 @@ public:
 
 private:
     ServerStore m_store;
+    const Countries* m_countries = nullptr;
     QStringList m_plainNames;
     std::vector<qint64> m_lastSeen;
     std::vector<bool> m_silent;

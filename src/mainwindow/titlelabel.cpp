@@ -22,12 +22,17 @@ TitleLabel::TitleLabel(Desktop& desktop, QWidget* parent)
     setSizePolicy(keepPlace);
     // On the window, not on the title: the title is hidden during a query.
     auto* aboutKey = new QShortcut(QKeySequence(Qt::Key_F1), parent);
-    connect(aboutKey, &QShortcut::activated, this, [this] { FrmAbout::openFor(m_desktop, window()); });
+    connect(aboutKey, &QShortcut::activated, this, &TitleLabel::openAbout);
+}
+
+void TitleLabel::openAbout()
+{
+    FrmAbout::openFor(m_desktop, window(), m_notes ? m_notes() : QString());
 }
 
 void TitleLabel::mouseReleaseEvent(QMouseEvent* event)
 {
     if (event->button() == Qt::LeftButton && rect().contains(event->position().toPoint()))
-        FrmAbout::openFor(m_desktop, window());
+        openAbout();
     QLabel::mouseReleaseEvent(event);
 }

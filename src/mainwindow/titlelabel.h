@@ -3,6 +3,8 @@
 
 #include <QLabel>
 
+#include <functional>
+
 class Desktop;
 
 // The program's name above the lists, in large bold letters; a click
@@ -15,10 +17,16 @@ class TitleLabel final : public QLabel {
 
 public:
     explicit TitleLabel(Desktop& desktop, QWidget* parent = nullptr);
+    // A line the About box adds to its own (what the program found on
+    // this machine), asked each time it opens.
+    void setNotes(std::function<QString()> notes) { m_notes = std::move(notes); }
 
 protected:
     void mouseReleaseEvent(QMouseEvent* event) override;
 
 private:
+    void openAbout();
+
     Desktop& m_desktop;
+    std::function<QString()> m_notes;
 };

@@ -39,6 +39,10 @@ FrmAbout::FrmAbout(Desktop& desktop, QUrl homePage, QString licence, QWidget* pa
     lblHomePage->setVisible(m_homePage.isValid() && !m_homePage.isEmpty());
     // The browser is started through the desktop, like every other program.
     connect(lblHomePage, &QLabel::linkActivated, this, [this](const QString& link) { m_desktop.openUrl(QUrl(link)); });
+    lblNotes = new QLabel(this);
+    lblNotes->setObjectName(QStringLiteral("lblNotes"));
+    lblNotes->setWordWrap(true);
+    lblNotes->hide();
     cmdOK = new QPushButton(this);
     cmdOK->setObjectName(QStringLiteral("cmdOK"));
     cmdOK->setDefault(true);
@@ -48,7 +52,7 @@ FrmAbout::FrmAbout(Desktop& desktop, QUrl homePage, QString licence, QWidget* pa
     buttons->addStretch();
     buttons->addWidget(cmdOK);
     auto* layout = new QVBoxLayout(this);
-    for (QLabel* label : {lblTitle, lblVersion, lblDescription, lblQt, lblLicence, lblHomePage})
+    for (QLabel* label : {lblTitle, lblVersion, lblDescription, lblQt, lblLicence, lblHomePage, lblNotes})
         layout->addWidget(label);
     layout->addLayout(buttons);
     retranslateUi();
@@ -69,9 +73,11 @@ void FrmAbout::retranslateUi()
     cmdOK->setText(tr("OK"));
 }
 
-FrmAbout* FrmAbout::openFor(Desktop& desktop, QWidget* window)
+FrmAbout* FrmAbout::openFor(Desktop& desktop, QWidget* window, const QString& notes)
 {
     auto* about = new FrmAbout(desktop, QUrl(QStringLiteral(Q4V_HOME_PAGE)), QStringLiteral(Q4V_LICENCE), window);
+    about->lblNotes->setText(notes);
+    about->lblNotes->setVisible(!notes.isEmpty());
     about->setAttribute(Qt::WA_DeleteOnClose);
     about->setWindowModality(Qt::WindowModal);
     about->open();

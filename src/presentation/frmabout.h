@@ -19,7 +19,8 @@ public:
     FrmAbout(Desktop& desktop, QUrl homePage, QString licence = {}, QWidget* parent = nullptr);
     // The box of this build (its home page and licence), modal to window,
     // without a nested event loop.
-    static FrmAbout* openFor(Desktop& desktop, QWidget* window);
+    // notes: a line of what the program found on this machine, or empty.
+    static FrmAbout* openFor(Desktop& desktop, QWidget* window, const QString& notes = {});
 
 protected:
     void changeEvent(QEvent* event) override;
@@ -36,5 +37,6 @@ private:
     QLabel* lblQt = nullptr;
     QLabel* lblLicence = nullptr;
     QLabel* lblHomePage = nullptr;
+    QLabel* lblNotes = nullptr;
     QPushButton* cmdOK = nullptr;
 };

@@ -17,14 +17,13 @@ QuerySession::QuerySession(QObject* parent)
     connect(&m_sources, &ServerSources::listed, this, &QuerySession::take);
     connect(&m_sources, &ServerSources::reported, this, &QuerySession::sourcesChanged);
     connect(&m_sources, &ServerSources::finished, this, &QuerySession::sourcesDone);
-    connect(&m_lan, &LanQuery::serverAnswered, this,
-            [this](const ServerRecord& server) { emit serverAnswered(server, false); });
+    connect(&m_lan, &LanQuery::serverAnswered, this, [this](const ServerRecord& server) { answered(server, false); });
     connect(&m_lan, &LanQuery::finished, this, [this] {
         cancel();
         emit finished();
     });
     connect(&m_scheduler, &QueryScheduler::requestSent, this, &QuerySession::requestSent);
-    connect(&m_scheduler, &QueryScheduler::serverAnswered, this, &QuerySession::serverAnswered);
+    connect(&m_scheduler, &QueryScheduler::serverAnswered, this, &QuerySession::answered);
     connect(&m_scheduler, &QueryScheduler::finished, this, [this] {
         cancel();
         emit finished();
@@ -164,4 +163,19 @@ void QuerySession::setPhase(Phase phase)
         return;
     m_phase = phase;
     emit phaseChanged(phase);
+}
+
+void QuerySession::answered(ServerRecord server, bool refresh)
+{
+    if (m_countries) {
+        server.country = m_countries->countryOf(QHostAddress(server.address));
+        // A rule like any other, after the protocol: the rules pane shows
+        // it and a filter "country" "DE" tests it.
+        if (!server.country.isEmpty()) {
+            const qsizetype at = std::min<qsizetype>(2, server.tokens.size());
+            server.tokens.insert(at, server.country);
+            server.tokens.insert(at, CountryKey);
+        }
+    }
+    emit serverAnswered(server, refresh);
 }

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #pragma once
 
+#include "query/countrydatabase.h"
 #include "query/lanquery.h"
 #include "query/masteraddress.h"
 #include "query/queryerror.h"
@@ -30,6 +31,8 @@ public:
 
     // Takes effect at the next start; the plan must be valid.
     void setPool(const QuerySpeed::PortPlan& plan);
+    // Each answering server is placed in its country (none: no countries).
+    void setCountries(std::shared_ptr<const CountryDatabase> countries) { m_countries = std::move(countries); }
     const QuerySpeed::PortPlan& portPlan() const { return m_plan; }
     quint16 masterLocalPort() const { return quint16(m_plan.masterPort()); }
 
@@ -83,6 +86,7 @@ private:
     void runTable(const AddressTable& table);
     void take(const AddressTable& fresh);
     void sourcesDone();
+    void answered(ServerRecord server, bool refresh);
 
     QueryScheduler m_scheduler;
     ServerSources m_sources;
@@ -91,4 +95,5 @@ private:
     AddressTable m_addresses;
     Phase m_phase = Phase::Idle;
     QElapsedTimer m_clock;
+    std::shared_ptr<const CountryDatabase> m_countries;
 };

@@ -88,6 +88,8 @@ struct ServerRecord {
     QString gameName = QStringLiteral("baseQUAKE4-1");
     // The protocol version of the reply, "2.85" for the last retail patch.
     QString protocol;
+    // Where the server is: a two-letter code, empty when not known.
+    QString country;
     // The protocol version as a rule ("protocol", "2.85"), then every key
     // and value of the reply in order, raw, for the rules view and the
     // filters.

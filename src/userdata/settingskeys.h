@@ -89,6 +89,9 @@ inline constexpr FlagSetting OfferSlotWait{u"OfferSlotWait", true};
 // The join password and the remembered ones live in the desktop's keyring
 // when it has one; off, or without one, in Password and PasswordBox.
 inline constexpr FlagSetting PasswordsInKeyring{u"PasswordsInKeyring", true};
+// The IP location database that places servers in their countries (empty:
+// none); the default is where Debian's libloc-database puts it.
+inline constexpr TextSetting CountryDatabase{u"CountryDatabase", u"/usr/share/libloc-location/location.db"};
 
 // List prefixes: columns use the first, sorting the second (the selected
 // server's player pane is the one list where they differ).

@@ -3,6 +3,7 @@
 #include "query/lanquery.h"
 #include "queryreport.h"
 #include "simfleet.h"
+#include "simlocations.h"
 #include "testports.h"
 #include "userdata/knownservers.h"
 
@@ -88,8 +89,12 @@ private slots:
         options.seed = 5;
         SimFleet fleet(options);
         QVERIFY(!fleet.start());
+        // Placed by a location database that puts 127.0.0.1 in Germany.
+        const QString countries = m_home.filePath(QStringLiteral("loopback.db"));
+        QVERIFY(writeLoopbackCountries(countries));
         const Run run = runTool({QStringLiteral("--master"), TestPorts::local(1), QStringLiteral("--start-port"),
-                                 QString::number(StartPort), QStringLiteral("--format"), QStringLiteral("json")},
+                                 QString::number(StartPort), QStringLiteral("--format"), QStringLiteral("json"),
+                                 QStringLiteral("--country-database"), countries},
                                 m_home.path());
         QCOMPARE(run.exitCode, 0);
         const QJsonObject document = QJsonDocument::fromJson(run.out).object();
@@ -103,6 +108,7 @@ private slots:
             const auto& sent = fleet.servers().at(server[QStringLiteral("port")].toInt() - TestPorts::at(2));
             QCOMPARE(server[QStringLiteral("name")].toString(), QString::fromLatin1(sent.rules.at(0).second));
             QCOMPARE(server[QStringLiteral("player_list")].toArray().size(), sent.players.size());
+            QCOMPARE(server[QStringLiteral("country")].toString(), QStringLiteral("DE"));
         }
     }
 

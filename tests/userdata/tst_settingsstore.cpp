@@ -57,6 +57,7 @@ private slots:
             {Keys::NotifyPlayerCount.key, u"NotifyPlayerCount"},
             {Keys::OfferSlotWait.key, u"OfferSlotWait"},
             {Keys::PasswordsInKeyring.key, u"PasswordsInKeyring"},
+            {Keys::CountryDatabase.key, u"CountryDatabase"},
         };
         for (const auto& [key, name] : keys)
             QCOMPARE(key.toString(), name.toString());

@@ -81,8 +81,13 @@ int main(int argc, char* argv[])
                                              QStringLiteral("N"));
     const QCommandLineOption formatOption(QStringLiteral("format"), QStringLiteral("Output: text or json."),
                                           QStringLiteral("text|json"), QStringLiteral("text"));
+    const QCommandLineOption countriesOption(
+        QStringLiteral("country-database"),
+        QStringLiteral("IP location database (libloc) that places servers in countries; empty: none. Default: the "
+                       "setting."),
+        QStringLiteral("FILE"));
     parser.addOptions({masterOption, listUrlOption, knownOption, lanOption, broadcastOption, favouritesOption,
-                       serverOption, speedOption, startPortOption, formatOption});
+                       serverOption, speedOption, startPortOption, formatOption, countriesOption});
     if (!parser.parse(QCoreApplication::arguments()))
         return usage(parser.errorText());
     if (parser.isSet(QStringLiteral("help")))
@@ -177,6 +182,11 @@ int main(int argc, char* argv[])
 
     QuerySession session;
     session.setPool(plan);
+    // Without a database the servers are not placed; that is no failure.
+    const QString countries =
+        parser.isSet(countriesOption) ? parser.value(countriesOption) : settings.value(Keys::CountryDatabase);
+    if (!countries.isEmpty())
+        session.setCountries(CountryDatabase::open(countries).database);
     int exitCode = Finished;
     // Each answer is written as it comes and then forgotten.
     QueryReport::Writer writer(format == QLatin1String("json") ? QueryReport::Format::Json : QueryReport::Format::Text);

@@ -42,6 +42,7 @@ QJsonObject serverObject(const ServerRecord& record)
                        {QStringLiteral("gametype"), record.gameType},
                        {QStringLiteral("gamename"), record.gameName},
                        {QStringLiteral("protocol"), record.protocol},
+                       {QStringLiteral("country"), record.country},
                        {QStringLiteral("zero_ping_players"), record.zeroPingCount},
                        {QStringLiteral("rules"), rules(record.tokens)},
                        {QStringLiteral("player_list"), players}};
@@ -68,13 +69,15 @@ QByteArray Writer::server(const ServerRecord& record)
 {
     ++m_servers;
     if (m_format == Format::Text) {
-        return QStringLiteral("%1  %2  %3ms  %4  %5  %6\n")
+        // The country's code, or "--" where it is not known.
+        return QStringLiteral("%1  %7  %2  %3ms  %4  %5  %6\n")
             .arg(record.endpointText(), -21)
             .arg(record.playersText(), 5)
             .arg(record.ping, 3)
             .arg(record.passwordMark == QLatin1String("*") ? QStringLiteral("pw") : QStringLiteral("  "))
             .arg(record.map, -10)
             .arg(ColourCodes::StripColourCodesCounted(record.name))
+            .arg(record.country.isEmpty() ? QStringLiteral("--") : record.country)
             .toUtf8();
     }
     // One small document per server, indented to its place in the array.

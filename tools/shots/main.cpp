@@ -14,6 +14,7 @@
 #include "presentation/language.h"
 #include "presentation/themefile.h"
 #include "simfleet.h"
+#include "simlocations.h"
 #include "update/downloader.h"
 #include "update/frmdownload.h"
 #include "update/frmupdate.h"
@@ -96,10 +97,17 @@ bool shootLanguage(SimFleet& fleet, int language, const QDir& out)
     QTemporaryDir data;
     SettingsStore settings(data.filePath(QStringLiteral("settings.ini")));
     settings.save(Keys::Language.key, QString::number(language));
-    settings.save(Keys::MasterServer.key, QStringLiteral("127.0.0.1:27990"));
+    // The fleet, and two small ones elsewhere in the world (by the
+    // location database below): 127.0.0.9 in the United States, 127.0.0.17
+    // in Russia.
+    settings.save(Keys::MasterServer.key, QStringLiteral("127.0.0.1:27990 127.0.0.9:27990 127.0.0.17:27990"));
     settings.save(Keys::StartPort.key, QStringLiteral("41900"));
     // The simulated fleet only: no public list fetched for a picture.
     settings.save(Keys::ServerListUrls.key, QString());
+    // The fleet placed in its countries, so the list shows their flags.
+    const QString countries = data.filePath(QStringLiteral("loopback.db"));
+    if (writeLoopbackCountries(countries))
+        settings.save(Keys::CountryDatabase.key, countries);
     // Friends among the fleet's players, and two servers played lately.
     settings.set(Keys::Friends, {QStringLiteral("Fr*"), QStringLiteral("*Iron*")});
     PlayHistory::writeFile(PlayHistory::filePath(data.path()),
@@ -229,9 +237,18 @@ int main(int argc, char* argv[])
     fleet.playersPerServer = 12;
     fleet.seed = 7;
     SimFleet simulated(fleet);
-    if (const auto error = simulated.start()) {
-        std::fprintf(stderr, "simulated fleet: %s\n", qPrintable(*error));
-        return 1;
+    fleet.servers = 4;
+    fleet.seed = 8;
+    fleet.address = QHostAddress(QStringLiteral("127.0.0.9"));
+    SimFleet west(fleet);
+    fleet.seed = 9;
+    fleet.address = QHostAddress(QStringLiteral("127.0.0.17"));
+    SimFleet east(fleet);
+    for (SimFleet* started : {&simulated, &west, &east}) {
+        if (const auto error = started->start()) {
+            std::fprintf(stderr, "simulated fleet: %s\n", qPrintable(*error));
+            return 1;
+        }
     }
     bool ok = true;
     for (const int language : std::as_const(languages)) {
