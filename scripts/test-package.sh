@@ -22,6 +22,7 @@ echo "package: $(basename "$deb"), depends: $depends"
 grep -q libqt6widgets6 <<<"$depends"
 grep -q libqt6keychain1 <<<"$depends"
 grep -q libloc1 <<<"$depends"
+grep -q libzip4 <<<"$depends"
 dpkg-deb -f "$deb" Recommends | grep -q libloc-database
 
 desktop-file-validate "$root/usr/share/applications/q4vantage.desktop"

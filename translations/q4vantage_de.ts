@@ -699,6 +699,18 @@ Auf einen freien Platz warten und beitreten, sobald einer frei wird?</translatio
         <source>Join Anyway</source>
         <translation>Trotzdem beitreten</translation>
     </message>
+    <message>
+        <source>Looking for %1 in the game&apos;s archives...</source>
+        <translation>Suche %1 in den Archiven des Spiels...</translation>
+    </message>
+    <message>
+        <source>%1 is not installed. Join anyway?</source>
+        <translation>%1 ist nicht installiert. Trotzdem beitreten?</translation>
+    </message>
+    <message>
+        <source>%1 is not installed (mod %2). Join anyway?</source>
+        <translation>%1 ist nicht installiert (Mod %2). Trotzdem beitreten?</translation>
+    </message>
 </context>
 <context>
     <name>JoinPanel</name>

@@ -694,6 +694,18 @@ Wait for a free slot and join as soon as one opens?</source>
         <source>Join Anyway</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>Looking for %1 in the game&apos;s archives...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 is not installed. Join anyway?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 is not installed (mod %2). Join anyway?</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>JoinPanel</name>

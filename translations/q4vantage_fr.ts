@@ -71,11 +71,11 @@
     </message>
     <message>
         <source>Countries: no location database is set, so no flags are shown.</source>
-        <translation>Pays : aucune base de localisation n'est choisie, les drapeaux ne sont donc pas affichés.</translation>
+        <translation>Pays : aucune base de localisation n&apos;est choisie, les drapeaux ne sont donc pas affichés.</translation>
     </message>
     <message>
         <source>Countries: no flags are shown, as %1 (the package libloc-database installs one).</source>
-        <translation>Pays : aucun drapeau n'est affiché, car %1 (le paquet libloc-database en installe une).</translation>
+        <translation>Pays : aucun drapeau n&apos;est affiché, car %1 (le paquet libloc-database en installe une).</translation>
     </message>
 </context>
 <context>
@@ -698,6 +698,18 @@ Attendre une place libre et rejoindre dès qu&apos;une place se libère ?</trans
     <message>
         <source>Join Anyway</source>
         <translation>Rejoindre quand même</translation>
+    </message>
+    <message>
+        <source>Looking for %1 in the game&apos;s archives...</source>
+        <translation>Recherche de %1 dans les archives du jeu...</translation>
+    </message>
+    <message>
+        <source>%1 is not installed. Join anyway?</source>
+        <translation>%1 n'est pas installée. Rejoindre quand même ?</translation>
+    </message>
+    <message>
+        <source>%1 is not installed (mod %2). Join anyway?</source>
+        <translation>%1 n'est pas installée (mod %2). Rejoindre quand même ?</translation>
     </message>
 </context>
 <context>

@@ -699,6 +699,18 @@ Attendere un posto libero ed entrare appena se ne libera uno?</translation>
         <source>Join Anyway</source>
         <translation>Entra comunque</translation>
     </message>
+    <message>
+        <source>Looking for %1 in the game&apos;s archives...</source>
+        <translation>Ricerca di %1 negli archivi del gioco...</translation>
+    </message>
+    <message>
+        <source>%1 is not installed. Join anyway?</source>
+        <translation>%1 non è installata. Entrare comunque?</translation>
+    </message>
+    <message>
+        <source>%1 is not installed (mod %2). Join anyway?</source>
+        <translation>%1 non è installata (mod %2). Entrare comunque?</translation>
+    </message>
 </context>
 <context>
     <name>JoinPanel</name>

@@ -699,6 +699,18 @@ Wachten op een vrije plek en deelnemen zodra er een vrijkomt?</translation>
         <source>Join Anyway</source>
         <translation>Toch deelnemen</translation>
     </message>
+    <message>
+        <source>Looking for %1 in the game&apos;s archives...</source>
+        <translation>%1 zoeken in de archieven van het spel...</translation>
+    </message>
+    <message>
+        <source>%1 is not installed. Join anyway?</source>
+        <translation>%1 is niet geïnstalleerd. Toch deelnemen?</translation>
+    </message>
+    <message>
+        <source>%1 is not installed (mod %2). Join anyway?</source>
+        <translation>%1 is niet geïnstalleerd (mod %2). Toch deelnemen?</translation>
+    </message>
 </context>
 <context>
     <name>JoinPanel</name>

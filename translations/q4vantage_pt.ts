@@ -699,6 +699,18 @@ Esperar por uma vaga e entrar assim que uma abrir?</translation>
         <source>Join Anyway</source>
         <translation>Entrar mesmo assim</translation>
     </message>
+    <message>
+        <source>Looking for %1 in the game&apos;s archives...</source>
+        <translation>A procurar %1 nos arquivos do jogo...</translation>
+    </message>
+    <message>
+        <source>%1 is not installed. Join anyway?</source>
+        <translation>%1 não está instalado. Entrar mesmo assim?</translation>
+    </message>
+    <message>
+        <source>%1 is not installed (mod %2). Join anyway?</source>
+        <translation>%1 não está instalado (mod %2). Entrar mesmo assim?</translation>
+    </message>
 </context>
 <context>
     <name>JoinPanel</name>

@@ -2,6 +2,7 @@
 #include "mainwindow/joinflow.h"
 
 #include "mainwindow/joincommand.h"
+#include "mainwindow/mapcheck.h"
 #include "mainwindow/slotwaiter.h"
 #include "platform/desktop.h"
 #include "query/records.h"
@@ -15,7 +16,12 @@
 
 JoinFlow::Target JoinFlow::Target::of(const ServerRecord& server, const QString& plainName)
 {
-    return Target{server.endpointText(), server.isPassworded(), plainName, !SlotWait::hasFreeSlot(server)};
+    Target target{
+        server.endpointText(), server.isPassworded(), plainName, !SlotWait::hasFreeSlot(server), server.map, {}};
+    for (qsizetype i = 0; i + 1 < server.tokens.size(); i += 2)
+        if (server.tokens.at(i).compare(QLatin1String("fs_game"), Qt::CaseInsensitive) == 0)
+            target.mod = server.tokens.at(i + 1);
+    return target;
 }
 
 JoinFlow::JoinFlow(SettingsStore& settings, Desktop& desktop, QString favouritesPath, QString historyPath,
@@ -28,6 +34,7 @@ JoinFlow::JoinFlow(SettingsStore& settings, Desktop& desktop, QString favourites
     , m_playerName(playerName)
     , m_password(password)
     , m_window(window)
+    , m_maps(new MapCheck(this))
 {
 }
 
@@ -42,7 +49,7 @@ void JoinFlow::joinByAddress()
             return;
         const QString address = typed->trimmed();
         if (isServerAddress(address)) {
-            join(Target{address, false, address});
+            join(Target{address, false, address, false, {}, {}});
             return;
         }
         // Said, and offered again for correction: the game would only
@@ -80,8 +87,35 @@ QString JoinFlow::executable()
     return path;
 }
 
+bool JoinFlow::mapSettled(const Target& target)
+{
+    // No game folder yet (asked for at the start): nothing to check, nothing asked.
+    switch (m_maps->check(MapCheck::gameFoldersOf(m_settings.value(Keys::Path)), target.map, target.mod)) {
+    case MapCheck::Verdict::NotChecked:
+    case MapCheck::Verdict::Installed:
+        return true;
+    case MapCheck::Verdict::Pending:
+        // Read once per folder, off the window's thread; the join goes on
+        // when it has been.
+        emit status(tr("Looking for %1 in the game's archives...").arg(target.map), StatusTone::Querying);
+        connect(
+            m_maps, &MapCheck::indexed, this, [this, target] { join(target); }, Qt::SingleShotConnection);
+        return false;
+    case MapCheck::Verdict::MissingMap:
+    case MapCheck::Verdict::MissingMod:
+        break;
+    }
+    const QString question = GameFiles::modFolder(target.mod).isEmpty()
+                                 ? tr("%1 is not installed. Join anyway?").arg(target.map)
+                                 : tr("%1 is not installed (mod %2). Join anyway?").arg(target.map, target.mod);
+    return m_desktop.message(m_window, Desktop::Icon::Question, target.serverName, question,
+                             QMessageBox::Yes | QMessageBox::No) == QMessageBox::Yes;
+}
+
 void JoinFlow::join(const Target& target)
 {
+    if (!mapSettled(target))
+        return;
     emit joining();
     QString password = passwordFor(target);
     if (target.passworded && password.isEmpty()) {

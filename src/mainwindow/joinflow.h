@@ -9,6 +9,7 @@ struct ServerRecord;
 
 class Desktop;
 class HistoryComboBox;
+class MapCheck;
 class SettingsStore;
 
 // Joining a server: the password (typed, from the favourites, or asked
@@ -25,6 +26,9 @@ public:
         QString serverName;
         // Every place taken when the list last heard from it.
         bool full = false;
+        // Its map and mod (fs_game), checked against the game's archives.
+        QString map;
+        QString mod;
 
         // A listed server, joined by the name the lists show.
         static Target of(const ServerRecord& server, const QString& plainName);
@@ -59,6 +63,10 @@ private:
     QString passwordFor(const Target& target) const;
     QString executable();
     void record(const Target& target);
+    // Whether the map and mod are installed, asking when they are not;
+    // false when the join waits for the game's folders to be read or the
+    // user said No.
+    bool mapSettled(const Target& target);
 
     SettingsStore& m_settings;
     Desktop& m_desktop;
@@ -67,4 +75,5 @@ private:
     const HistoryComboBox& m_playerName;
     const HistoryComboBox& m_password;
     QWidget* m_window;
+    MapCheck* m_maps;
 };

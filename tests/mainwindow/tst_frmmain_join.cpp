@@ -4,6 +4,7 @@
 #include "testports.h"
 #include "testwindow.h"
 #include "widgets/statusline.h"
+#include "zipfiles.h"
 
 #include <QAction>
 #include <QApplication>
@@ -39,6 +40,8 @@ struct Joined : RunningFleet, TestWindow {
     {
         fleet.setServer(0, {{"si_name", "^1Locked"}, {"si_usepass", "1"}, {"si_maxplayers", "8"}}, {});
         fleet.setServer(1, {{"si_name", "^2Open"}, {"si_usepass", "0"}, {"si_maxplayers", "8"}}, {});
+        fleet.setServer(2, {{"si_name", "^3Modded"}, {"si_map", "mp/q4dm9"}, {"fs_game", "q4max"}}, {});
+        fleet.setServer(3, {{"si_name", "^4Base"}, {"si_map", "mp/q4dm1"}, {"si_maxplayers", "8"}}, {});
         if (!queryMasters())
             qFatal("the query did not finish");
     }
@@ -80,6 +83,33 @@ class TestFrmMainJoin final : public QObject {
     Q_OBJECT
 
 private slots:
+    // With the game's folder known, a server whose map or mod the game
+    // lacks is asked about before the game starts; one it has is not. The
+    // folder is read once, off the window's thread.
+    void aMissingMapIsAskedAboutFirst()
+    {
+        Joined j;
+        QTemporaryDir game;
+        QVERIFY(QDir(game.path()).mkpath(QStringLiteral("q4base")));
+        QVERIFY(writeZip(game.filePath(QStringLiteral("q4base/pak001.pk4")), {"maps/mp/q4dm1.map"}));
+        j.settings().save(Keys::Path.key, game.filePath(QStringLiteral("quake4.x86")));
+        j.doubleClick(3);
+        QTRY_COMPARE(j.desktop.starts.size(), 1);
+        QVERIFY(j.desktop.messages.isEmpty());
+
+        j.desktop.messageAnswers.enqueue(QMessageBox::No);
+        j.doubleClick(2);
+        QCOMPARE(j.desktop.messages.size(), 1);
+        QCOMPARE(j.desktop.messages.first().text,
+                 QStringLiteral("mp/q4dm9 is not installed (mod q4max). Join anyway?"));
+        QCOMPARE(j.desktop.messages.first().title, QStringLiteral("Modded"));
+        QCOMPARE(j.desktop.starts.size(), 1);
+        j.desktop.messageAnswers.enqueue(QMessageBox::Yes);
+        j.doubleClick(2);
+        QCOMPARE(j.desktop.starts.size(), 2);
+        QCOMPARE(j.desktop.starts.last().arguments.last(), j.address(2));
+    }
+
     void doubleClickStartsTheGame()
     {
         Joined j;
