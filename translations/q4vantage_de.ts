@@ -711,6 +711,14 @@ Auf einen freien Platz warten und beitreten, sobald einer frei wird?</translatio
         <source>%1 is not installed (mod %2). Join anyway?</source>
         <translation>%1 ist nicht installiert (Mod %2). Trotzdem beitreten?</translation>
     </message>
+    <message>
+        <source>installed</source>
+        <translation>installiert</translation>
+    </message>
+    <message>
+        <source>missing</source>
+        <translation>fehlt</translation>
+    </message>
 </context>
 <context>
     <name>JoinPanel</name>
@@ -988,6 +996,10 @@ Auf einen freien Platz warten und beitreten, sobald einer frei wird?</translatio
     <message>
         <source>Add To F&amp;riends</source>
         <translation>Zu F&amp;reunden hinzufügen</translation>
+    </message>
+    <message>
+        <source>map on this machine</source>
+        <translation>Karte auf diesem Rechner</translation>
     </message>
 </context>
 <context>

@@ -706,6 +706,14 @@ Wait for a free slot and join as soon as one opens?</source>
         <source>%1 is not installed (mod %2). Join anyway?</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>installed</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>missing</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>JoinPanel</name>
@@ -979,6 +987,10 @@ Wait for a free slot and join as soon as one opens?</source>
     </message>
     <message>
         <source>Add To F&amp;riends</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>map on this machine</source>
         <translation type="unfinished"></translation>
     </message>
 </context>

@@ -705,11 +705,19 @@ Attendre une place libre et rejoindre dès qu&apos;une place se libère ?</trans
     </message>
     <message>
         <source>%1 is not installed. Join anyway?</source>
-        <translation>%1 n'est pas installée. Rejoindre quand même ?</translation>
+        <translation>%1 n&apos;est pas installée. Rejoindre quand même ?</translation>
     </message>
     <message>
         <source>%1 is not installed (mod %2). Join anyway?</source>
-        <translation>%1 n'est pas installée (mod %2). Rejoindre quand même ?</translation>
+        <translation>%1 n&apos;est pas installée (mod %2). Rejoindre quand même ?</translation>
+    </message>
+    <message>
+        <source>installed</source>
+        <translation>installée</translation>
+    </message>
+    <message>
+        <source>missing</source>
+        <translation>absente</translation>
     </message>
 </context>
 <context>
@@ -988,6 +996,10 @@ Attendre une place libre et rejoindre dès qu&apos;une place se libère ?</trans
     <message>
         <source>Add To F&amp;riends</source>
         <translation>Ajouter aux &amp;amis</translation>
+    </message>
+    <message>
+        <source>map on this machine</source>
+        <translation>carte sur cette machine</translation>
     </message>
 </context>
 <context>

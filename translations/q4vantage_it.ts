@@ -711,6 +711,14 @@ Attendere un posto libero ed entrare appena se ne libera uno?</translation>
         <source>%1 is not installed (mod %2). Join anyway?</source>
         <translation>%1 non è installata (mod %2). Entrare comunque?</translation>
     </message>
+    <message>
+        <source>installed</source>
+        <translation>installata</translation>
+    </message>
+    <message>
+        <source>missing</source>
+        <translation>mancante</translation>
+    </message>
 </context>
 <context>
     <name>JoinPanel</name>
@@ -988,6 +996,10 @@ Attendere un posto libero ed entrare appena se ne libera uno?</translation>
     <message>
         <source>Add To F&amp;riends</source>
         <translation>Aggiungi agli &amp;amici</translation>
+    </message>
+    <message>
+        <source>map on this machine</source>
+        <translation>mappa su questo computer</translation>
     </message>
 </context>
 <context>

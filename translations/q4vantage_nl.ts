@@ -711,6 +711,14 @@ Wachten op een vrije plek en deelnemen zodra er een vrijkomt?</translation>
         <source>%1 is not installed (mod %2). Join anyway?</source>
         <translation>%1 is niet geïnstalleerd (mod %2). Toch deelnemen?</translation>
     </message>
+    <message>
+        <source>installed</source>
+        <translation>geïnstalleerd</translation>
+    </message>
+    <message>
+        <source>missing</source>
+        <translation>ontbreekt</translation>
+    </message>
 </context>
 <context>
     <name>JoinPanel</name>
@@ -988,6 +996,10 @@ Wachten op een vrije plek en deelnemen zodra er een vrijkomt?</translation>
     <message>
         <source>Add To F&amp;riends</source>
         <translation>Toevoegen aan v&amp;rienden</translation>
+    </message>
+    <message>
+        <source>map on this machine</source>
+        <translation>kaart op deze computer</translation>
     </message>
 </context>
 <context>

@@ -711,6 +711,14 @@ Esperar por uma vaga e entrar assim que uma abrir?</translation>
         <source>%1 is not installed (mod %2). Join anyway?</source>
         <translation>%1 não está instalado (mod %2). Entrar mesmo assim?</translation>
     </message>
+    <message>
+        <source>installed</source>
+        <translation>instalado</translation>
+    </message>
+    <message>
+        <source>missing</source>
+        <translation>em falta</translation>
+    </message>
 </context>
 <context>
     <name>JoinPanel</name>
@@ -988,6 +996,10 @@ Esperar por uma vaga e entrar assim que uma abrir?</translation>
     <message>
         <source>Add To F&amp;riends</source>
         <translation>Adicionar aos a&amp;migos</translation>
+    </message>
+    <message>
+        <source>map on this machine</source>
+        <translation>mapa neste computador</translation>
     </message>
 </context>
 <context>

@@ -87,6 +87,20 @@ QString JoinFlow::executable()
     return path;
 }
 
+QString JoinFlow::mapState(const ServerRecord& server)
+{
+    const Target target = Target::of(server, QString());
+    switch (m_maps->check(MapCheck::gameFoldersOf(m_settings.value(Keys::Path)), target.map, target.mod)) {
+    case MapCheck::Verdict::Installed:
+        return tr("installed");
+    case MapCheck::Verdict::MissingMap:
+    case MapCheck::Verdict::MissingMod:
+        return tr("missing");
+    default:
+        return {};
+    }
+}
+
 bool JoinFlow::mapSettled(const Target& target)
 {
     // No game folder yet (asked for at the start): nothing to check, nothing asked.

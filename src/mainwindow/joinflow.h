@@ -42,6 +42,11 @@ public:
     // Settles the password and, for a full server, whether to wait for a
     // slot; then starts the game or asks for the wait.
     void join(const Target& target);
+    // "installed" or "missing" for the server's map (and mod), or empty
+    // while the game's folders are unknown or being read (maps().indexed
+    // tells when they have been).
+    QString mapState(const ServerRecord& server);
+    const MapCheck& maps() const { return *m_maps; }
     // Starts the game with a settled password; each start is recorded in
     // the history.
     void start(const Target& target, const QString& password);

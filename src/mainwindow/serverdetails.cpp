@@ -81,7 +81,10 @@ void ServerDetails::setUp(Pane& pane, const QString& menuName, const QString& su
 void ServerDetails::showServer(const ServerRecord* server)
 {
     m_playersModel->setPlayers(server ? server->players : QList<PlayerRecord>{});
-    m_rulesModel->setTokens(server ? server->tokens : QStringList{});
+    QStringList tokens = server ? server->tokens : QStringList{};
+    if (const QString state = server && m_mapState ? m_mapState(*server) : QString(); !state.isEmpty())
+        tokens << tr("map on this machine") << state;
+    m_rulesModel->setTokens(tokens);
 }
 
 void ServerDetails::retranslate()

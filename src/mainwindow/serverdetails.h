@@ -7,6 +7,8 @@
 #include <QObject>
 #include <QSplitter>
 
+#include <functional>
+
 class CopyCommands;
 class QAction;
 class QMenu;
@@ -33,6 +35,9 @@ public:
 
     // Shows the server's players and rules; nothing for none.
     void showServer(const ServerRecord* server);
+    // Whether the game has the server's map: a last row of the rules pane
+    // ("installed", "missing"), none while not known.
+    void setMapState(std::function<QString(const ServerRecord&)> state) { m_mapState = std::move(state); }
     void retranslate();
 
 signals:
@@ -40,6 +45,7 @@ signals:
     void friendRequested(const QString& plainName);
 
 private:
+    std::function<QString(const ServerRecord&)> m_mapState;
     struct Pane {
         ReportView* view = nullptr;
         Keys::ListKeys keys;

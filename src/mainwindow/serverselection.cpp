@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "mainwindow/serverselection.h"
 
+#include "mainwindow/joinflow.h"
+#include "mainwindow/mapcheck.h"
 #include "mainwindow/serverdetails.h"
 #include "mainwindow/serverlists.h"
 #include "presentation/colourcodes.h"
@@ -41,9 +43,15 @@ void ServerSelection::showPlayer(int server, int player)
     ShowServerName(record.name);
 }
 
+void ServerSelection::followMapCheck(JoinFlow& flow)
+{
+    m_details.setMapState([&flow](const ServerRecord& server) { return flow.mapState(server); });
+    connect(&flow.maps(), &MapCheck::indexed, this, [this] { refreshed(m_server); });
+}
+
 void ServerSelection::refreshed(int server)
 {
-    if (server != m_server)
+    if (server != m_server || server < 0)
         return;
     ShowServerName(m_lists.server(server).name);
     m_details.showServer(&m_lists.server(server));

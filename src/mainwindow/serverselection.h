@@ -5,6 +5,7 @@
 
 #include <functional>
 
+class JoinFlow;
 class MulticolorLabel;
 class QLabel;
 class ServerDetails;
@@ -32,6 +33,9 @@ public:
     void showPlayer(int server, int player);
     // The server answered again.
     void refreshed(int server);
+    // The rules pane tells whether the game has the server's map, and
+    // tells again once the game's folders have been read.
+    void followMapCheck(JoinFlow& flow);
     // The labels only; the panes keep the selected server.
     void clearNames();
     // The lists were emptied: the names and the panes go too.

@@ -96,6 +96,13 @@ private slots:
         j.doubleClick(3);
         QTRY_COMPARE(j.desktop.starts.size(), 1);
         QVERIFY(j.desktop.messages.isEmpty());
+        // The selected server's rules say so, last.
+        const auto lastRule = [&j] {
+            QAbstractItemModel* rules = j.find<ReportView>("lvwServerInfo")->model();
+            const int last = rules->rowCount() - 1;
+            return rules->index(last, 0).data().toString() + QLatin1Char('=') + rules->index(last, 1).data().toString();
+        };
+        QTRY_COMPARE(lastRule(), QStringLiteral("map on this machine=installed"));
 
         j.desktop.messageAnswers.enqueue(QMessageBox::No);
         j.doubleClick(2);
@@ -108,6 +115,7 @@ private slots:
         j.doubleClick(2);
         QCOMPARE(j.desktop.starts.size(), 2);
         QCOMPARE(j.desktop.starts.last().arguments.last(), j.address(2));
+        QCOMPARE(lastRule(), QStringLiteral("map on this machine=missing"));
     }
 
     void doubleClickStartsTheGame()

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #pragma once
 
+#include "findcontrol.h"
 #include "presentation/colourswatch.h"
 #include "presentation/frmoptions.h"
 #include "presentation/language.h"
@@ -47,13 +48,7 @@ protected:
             qFatal("the options dialog did not show");
         return *m_form;
     }
-    template <typename T> T* find(const char* name) const
-    {
-        T* child = m_form->findChild<T*>(QLatin1String(name));
-        if (!child)
-            qFatal("no control named %s", name);
-        return child;
-    }
+    template <typename T> T* find(const char* name) const { return findControl<T>(m_form.get(), name); }
     void click(const char* name) const { QTest::mouseClick(find<QAbstractButton>(name), Qt::LeftButton); }
     // Types into a box as a user does: focus it, select all, type.
     void type(const char* name, const QString& text) const

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #pragma once
 
+#include "findcontrol.h"
 #include "mainwindow/frmmain.h"
 #include "presentation/language.h"
 #include "scripteddesktop.h"
@@ -53,13 +54,7 @@ public:
     SettingsStore& settings() const { return m_settings; }
     QString dataFile(const QString& name) const { return m_dir->filePath(name); }
 
-    template <typename T> T* find(const char* name) const
-    {
-        T* child = window->findChild<T*>(QLatin1String(name));
-        if (!child)
-            qFatal("no control named %s", name);
-        return child;
-    }
+    template <typename T> T* find(const char* name) const { return findControl<T>(window.get(), name); }
     ReportView* list(const char* name) const { return find<ReportView>(name); }
     QHeaderView* header(const char* name) const { return list(name)->header(); }
     QPushButton* button(const char* name) const { return find<QPushButton>(name); }

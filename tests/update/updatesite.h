@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #pragma once
 
+#include "findcontrol.h"
 #include "httpresponder.h"
 #include "peakmemory.h"
 #include "scripteddesktop.h"
@@ -57,13 +58,7 @@ protected:
 
     QString installer() const { return m_dir->filePath(QLatin1String(UpdateVersion::InstallerFileName)); }
     template <typename T> T* dialog(const char* name) const { return m_window->findChild<T*>(QLatin1String(name)); }
-    template <typename T> T* control(QWidget* dialog, const char* name) const
-    {
-        T* found = dialog->findChild<T*>(QLatin1String(name));
-        if (!found)
-            qFatal("no control named %s", name);
-        return found;
-    }
+    template <typename T> T* control(QWidget* dialog, const char* name) const { return findControl<T>(dialog, name); }
     void click(QWidget* dialog, const char* name) const
     {
         QTest::mouseClick(control<QAbstractButton>(dialog, name), Qt::LeftButton);
