@@ -14,6 +14,7 @@
 //                             live servers: when the window lists them
 //   q4vantage-bench countries one country lookup per answering server: the
 //                             cost on Debian's location database
+//   q4vantage-bench mapscan FOLDER  one read of a game folder's archives
 //   q4vantage-bench filter    re-filtering 10,000 servers and 150,000 players,
 //                             with 50 friends marked, and a refresh of every
 //                             server applied in place
@@ -306,6 +307,7 @@ int parse()
 int sources();   // bench_sources.cpp
 int filter();    // bench_filter.cpp
 int countries(); // bench_countries.cpp
+int mapscan(const QString& folder);
 
 int main(int argc, char* argv[])
 {
@@ -329,6 +331,8 @@ int main(int argc, char* argv[])
         return sources();
     if (which == QLatin1String("countries"))
         return countries();
-    std::fprintf(stderr, "usage: q4vantage-bench pool|cost|window|windowping|parse|filter|sources|countries\n");
+    if (which == QLatin1String("mapscan"))
+        return mapscan(argc > 2 ? QString::fromLocal8Bit(argv[2]) : QString());
+    std::fprintf(stderr, "usage: q4vantage-bench pool|cost|window|windowping|parse|filter|sources|countries|mapscan\n");
     return 2;
 }
