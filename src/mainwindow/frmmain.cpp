@@ -101,6 +101,7 @@ void FrmMain::createControls()
     m_selection = new ServerSelection(
         *m_lists, *m_details, [this](const QString& name) { m_joinPanel->ShowPlayerName(name); }, this);
     m_selection->followMapCheck(m_joinPanel->flow());
+    m_selection->setCountries(&m_queries->countries());
 
     m_find = new FindBar([this] { return FindBar::Target{shownList().view(), shownList().visibleNames()}; }, this);
     m_find->setHasFriends([this] { return !m_lists->friends().isEmpty(); });

@@ -6,6 +6,7 @@
 #include "mainwindow/serverdetails.h"
 #include "mainwindow/serverlists.h"
 #include "presentation/colourcodes.h"
+#include "presentation/countries.h"
 #include "presentation/multicolorlabel.h"
 
 #include <QHBoxLayout>
@@ -19,19 +20,31 @@ ServerSelection::ServerSelection(const ServerLists& lists, ServerDetails& detail
     , m_showPlayerName(std::move(showPlayerName))
     , lblSName(new QLabel(this))
     , mclSName(new MulticolorLabel(this))
+    , lblSFlag(new QLabel(this))
 {
     lblSName->setObjectName(QStringLiteral("lblSName"));
     mclSName->setObjectName(QStringLiteral("mclSName"));
+    lblSFlag->setObjectName(QStringLiteral("lblSFlag"));
     auto* row = new QHBoxLayout(this);
     row->setContentsMargins(0, 0, 0, 0);
     row->addWidget(lblSName);
+    row->addWidget(lblSFlag);
     row->addWidget(mclSName, 1);
+}
+
+void ServerSelection::showFlag(const ServerRecord* server)
+{
+    const bool placed = server && m_countries && !server->country.isEmpty();
+    lblSFlag->setPixmap(placed ? m_countries->flag(server->country).pixmap(16, 11) : QPixmap());
+    lblSFlag->setToolTip(placed ? m_countries->name(server->country) : QString());
+    lblSFlag->setVisible(placed);
 }
 
 void ServerSelection::showServer(int server)
 {
     m_server = server;
     ShowServerName(m_lists.server(server).name);
+    showFlag(&m_lists.server(server));
     m_showPlayerName(QString());
     m_details.showServer(&m_lists.server(server));
 }
@@ -41,6 +54,7 @@ void ServerSelection::showPlayer(int server, int player)
     const ServerRecord& record = m_lists.server(server);
     m_showPlayerName(record.players.at(player).name);
     ShowServerName(record.name);
+    showFlag(&record);
 }
 
 void ServerSelection::followMapCheck(JoinFlow& flow)
@@ -54,12 +68,14 @@ void ServerSelection::refreshed(int server)
     if (server != m_server || server < 0)
         return;
     ShowServerName(m_lists.server(server).name);
+    showFlag(&m_lists.server(server));
     m_details.showServer(&m_lists.server(server));
 }
 
 void ServerSelection::clearNames()
 {
     ShowServerName(QString());
+    showFlag(nullptr);
     m_showPlayerName(QString());
 }
 

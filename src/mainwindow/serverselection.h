@@ -5,11 +5,13 @@
 
 #include <functional>
 
+class Countries;
 class JoinFlow;
 class MulticolorLabel;
 class QLabel;
 class ServerDetails;
 class ServerLists;
+struct ServerRecord;
 
 // What is selected and shown of it: the server's name in colour, its
 // players and rules in the panes, and the selected player's name. The
@@ -36,6 +38,8 @@ public:
     // The rules pane tells whether the game has the server's map, and
     // tells again once the game's folders have been read.
     void followMapCheck(JoinFlow& flow);
+    // A flag before the name, the country's name in its tooltip.
+    void setCountries(const Countries* countries) { m_countries = countries; }
     // The labels only; the panes keep the selected server.
     void clearNames();
     // The lists were emptied: the names and the panes go too.
@@ -43,10 +47,13 @@ public:
     void ShowServerName(const QString& name);
 
 private:
+    void showFlag(const ServerRecord* server);
+    const Countries* m_countries = nullptr;
     const ServerLists& m_lists;
     ServerDetails& m_details;
     ShowPlayerName m_showPlayerName;
     QLabel* lblSName = nullptr;
     MulticolorLabel* mclSName = nullptr;
+    QLabel* lblSFlag = nullptr;
     int m_server = -1;
 };

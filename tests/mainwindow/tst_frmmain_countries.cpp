@@ -61,6 +61,10 @@ private slots:
         // The rules pane shows it after the protocol; a filter tests it.
         auto* servers = w.find<ReportView>("lstServerList");
         QTest::mouseClick(servers->viewport(), Qt::LeftButton, {}, servers->visualRect(list->index(0, 0)).center());
+        // The selected server's name has its flag too.
+        auto* flag = w.find<QLabel>("lblSFlag");
+        QVERIFY(flag->isVisible());
+        QCOMPARE(flag->toolTip(), tips.at(0));
         auto* rules = w.find<ReportView>("lvwServerInfo")->model();
         QCOMPARE(rules->index(1, 0).data().toString(), QStringLiteral("country"));
         QVERIFY(rules->index(1, 1).data().toString() == QLatin1String("DE") ||
@@ -87,6 +91,9 @@ private slots:
         QAbstractItemModel* list = w.visible("lstServerList");
         QCOMPARE(list->rowCount(), 3);
         QVERIFY(list->index(0, ServerListModel::Name).data(Qt::DecorationRole).isNull());
+        auto* servers = w.find<ReportView>("lstServerList");
+        QTest::mouseClick(servers->viewport(), Qt::LeftButton, {}, servers->visualRect(list->index(0, 0)).center());
+        QVERIFY(!w.find<QLabel>("lblSFlag")->isVisibleTo(w.window.get()));
         QVERIFY(w.desktop.messages.isEmpty());
         QVERIFY(w.window->queries().countries().status().contains(missing + QStringLiteral(" does not exist")));
 
