@@ -111,6 +111,12 @@ void FrmOptions::buildSettingsTab(QWidget* page)
     cmdBrowse = makeControl<QPushButton>(page, "cmdBrowse");
     chkKeyring = makeControl<QCheckBox>(page, "chkKeyring");
 
+    // Each caption leads to its box: a click, and its Alt+letter.
+    lblLanguage->setBuddy(cmbLanguage);
+    lblSpeed->setBuddy(cmbSpeed);
+    lblPort->setBuddy(txtStartPort);
+    lblPath->setBuddy(txtPath);
+
     auto* grid = new QGridLayout(page);
     grid->addWidget(lblLanguage, 0, 0);
     grid->addWidget(cmbLanguage, 0, 1, 1, 3);
