@@ -35,12 +35,11 @@ QStringList headerCaptions(const QHeaderView* header)
 class TestFrmMain final : public QObject {
     Q_OBJECT
 
-    QTemporaryDir m_dir;
-    int m_files = 0;
-    std::unique_ptr<SettingsStore> m_settings;
+    SettingsPerTest m_files;
+    SettingsStore* m_settings = nullptr;
 
 private slots:
-    void init() { m_settings = std::make_unique<SettingsStore>(m_dir.filePath(QString::number(++m_files) + ".ini")); }
+    void init() { m_settings = &m_files.next(); }
 
     void firstStartShowsTheDesignTimeWindow()
     {
@@ -150,7 +149,7 @@ private slots:
 
     void optionsChangeTheLanguageOfTheWindowAndAreSaved()
     {
-        TestWindow run(*m_settings, m_dir.path());
+        TestWindow run(*m_settings, m_files.folder());
         QVERIFY(run.show());
         QTest::mouseClick(run.button("cmdOptions"), Qt::LeftButton);
         auto* options = run.window->findChild<FrmOptions*>(QStringLiteral("frmOptions"));

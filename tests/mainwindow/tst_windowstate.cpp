@@ -25,12 +25,11 @@
 class TestWindowState final : public QObject {
     Q_OBJECT
 
-    QTemporaryDir m_dir;
-    int m_files = 0;
-    std::unique_ptr<SettingsStore> m_settings;
+    SettingsPerTest m_files;
+    SettingsStore* m_settings = nullptr;
 
 private slots:
-    void init() { m_settings = std::make_unique<SettingsStore>(m_dir.filePath(QString::number(++m_files) + ".ini")); }
+    void init() { m_settings = &m_files.next(); }
 
     void storedTabChoosesTheView_data()
     {

@@ -20,6 +20,23 @@
 #include <memory>
 #include <optional>
 
+// A settings file of its own for each test of a class, in one folder that
+// also serves as the data folder; a restart within a test reads the same.
+class SettingsPerTest {
+public:
+    SettingsStore& next()
+    {
+        m_store = std::make_unique<SettingsStore>(m_dir.filePath(QString::number(++m_count) + QStringLiteral(".ini")));
+        return *m_store;
+    }
+    QString folder() const { return m_dir.path(); }
+
+private:
+    QTemporaryDir m_dir;
+    int m_count = 0;
+    std::unique_ptr<SettingsStore> m_store;
+};
+
 // The main window as a test drives it: its own settings and data folder
 // (or settings shared between runs, for restarts), a scripted desktop,
 // and the controls found by their names.
