@@ -825,6 +825,10 @@ Auf einen freien Platz warten und beitreten, sobald einer frei wird?</translatio
         <source>Last Played</source>
         <translation>Zuletzt gespielt</translation>
     </message>
+    <message>
+        <source>Country</source>
+        <translation>Land</translation>
+    </message>
 </context>
 <context>
     <name>ListMenu</name>

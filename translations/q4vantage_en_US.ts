@@ -820,6 +820,10 @@ Wait for a free slot and join as soon as one opens?</source>
         <source>Last Played</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>Country</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>ListMenu</name>

@@ -825,6 +825,10 @@ Attendre une place libre et rejoindre dès qu&apos;une place se libère ?</trans
         <source>Last Played</source>
         <translation>Dernière partie</translation>
     </message>
+    <message>
+        <source>Country</source>
+        <translation>Pays</translation>
+    </message>
 </context>
 <context>
     <name>ListMenu</name>

@@ -825,6 +825,10 @@ Attendere un posto libero ed entrare appena se ne libera uno?</translation>
         <source>Last Played</source>
         <translation>Ultima partita</translation>
     </message>
+    <message>
+        <source>Country</source>
+        <translation>Paese</translation>
+    </message>
 </context>
 <context>
     <name>ListMenu</name>

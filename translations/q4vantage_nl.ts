@@ -825,6 +825,10 @@ Wachten op een vrije plek en deelnemen zodra er een vrijkomt?</translation>
         <source>Last Played</source>
         <translation>Laatst gespeeld</translation>
     </message>
+    <message>
+        <source>Country</source>
+        <translation>Land</translation>
+    </message>
 </context>
 <context>
     <name>ListMenu</name>

@@ -825,6 +825,10 @@ Esperar por uma vaga e entrar assim que uma abrir?</translation>
         <source>Last Played</source>
         <translation>Última vez</translation>
     </message>
+    <message>
+        <source>Country</source>
+        <translation>País</translation>
+    </message>
 </context>
 <context>
     <name>ListMenu</name>

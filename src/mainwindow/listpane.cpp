@@ -21,6 +21,7 @@ ListPane::ListPane(SettingsStore& settings, Keys::ListKeys keys, const ReportMod
     , m_view(new ReportView(&list, model.designWidths(), this))
 {
     m_view->setObjectName(objectName);
+    m_view->setOptionalColumns(model.optionalColumns());
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(m_view);

@@ -17,11 +17,12 @@ int ServerListModel::rowCount(const QModelIndex& parent) const
     return parent.isValid() ? 0 : m_store.count();
 }
 
-QString ServerListModel::cellText(const ServerRecord& server, const QString& plainName, int column)
+QString ServerListModel::cellText(int row, int column) const
 {
+    const ServerRecord& server = m_store.at(row);
     switch (column) {
     case Name:
-        return plainName;
+        return m_plainNames.at(row);
     case Map:
         return server.map;
     case Players:
@@ -36,6 +37,8 @@ QString ServerListModel::cellText(const ServerRecord& server, const QString& pla
         return server.gameName;
     case Address:
         return server.endpointText();
+    case Country:
+        return m_countries && !server.country.isEmpty() ? m_countries->name(server.country) : server.country;
     default:
         return {};
     }
@@ -48,7 +51,7 @@ QVariant ServerListModel::data(const QModelIndex& index, int role) const
     const int row = index.row();
     switch (role) {
     case Qt::DisplayRole:
-        return cellText(m_store.at(row), m_plainNames.at(row), index.column());
+        return cellText(row, index.column());
     case RowMarks::Role:
         return (m_hasFriend && m_hasFriend(row) ? RowMarks::Friend : 0) |
                (m_silent.at(size_t(row)) ? RowMarks::Silent : 0);
@@ -135,6 +138,6 @@ SortKeys ServerListModel::sortKeys(int column) const
     }
     keys.texts.reserve(m_store.count());
     for (int row = 0; row < m_store.count(); ++row)
-        keys.texts.append(cellText(m_store.at(row), m_plainNames.at(row), column).toCaseFolded());
+        keys.texts.append(cellText(row, column).toCaseFolded());
     return keys;
 }

@@ -17,7 +17,7 @@ class ServerListModel final : public ReportModel {
     Q_DISABLE_COPY_MOVE(ServerListModel)
 
 public:
-    enum Column { Name, Map, Players, Ping, Password, GameType, GameName, Address, ColumnCount };
+    enum Column { Name, Map, Players, Ping, Password, GameType, GameName, Address, Country, ColumnCount };
     static constexpr std::array<ListColumn, ColumnCount> Columns{{
         ListColumn{QT_TRANSLATE_NOOP("ListColumns", "Server"), 190},
         ListColumn{QT_TRANSLATE_NOOP("ListColumns", "Map"), 105},
@@ -27,6 +27,7 @@ public:
         ListColumn{QT_TRANSLATE_NOOP("ListColumns", "Type"), 78},
         ListColumn{QT_TRANSLATE_NOOP("ListColumns", "Game"), 95},
         ListColumn{QT_TRANSLATE_NOOP("ListColumns", "Server IP Address"), 133},
+        ListColumn{QT_TRANSLATE_NOOP("ListColumns", "Country"), 110, true},
     }};
 
     explicit ServerListModel(QObject* parent = nullptr);
@@ -57,10 +58,11 @@ public:
     // The server name as the lists show it (colour codes removed).
     const QString& plainName(int row) const { return m_plainNames.at(row); }
 
-    static QString cellText(const ServerRecord& server, const QString& plainName, int column);
     SortKeys sortKeys(int column) const;
 
 private:
+    QString cellText(int row, int column) const;
+
     ServerStore m_store;
     const Countries* m_countries = nullptr;
     QStringList m_plainNames;

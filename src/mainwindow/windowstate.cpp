@@ -39,8 +39,15 @@ WindowState::WindowState(SettingsStore& settings, Controls controls)
 {
     connect(m_controls.serverList, &QSplitter::splitterMoved, this, &WindowState::saveSplitters);
     connect(m_controls.panes, &QSplitter::splitterMoved, this, &WindowState::saveSplitters);
-    for (const List& list : std::as_const(m_controls.lists))
+    for (const List& list : std::as_const(m_controls.lists)) {
         connect(list.view, &ReportView::pressed, this, &WindowState::saveColumnOrders);
+        // Kept at once: the layout of a window that never closes cleanly too.
+        connect(list.view, &ReportView::columnShownChanged, this, [this, list](int column, bool shown) {
+            const SettingsStore::Batch batch(m_settings);
+            ColumnLayout::saveShown(m_settings, list.prefix, column, shown);
+            saveColumnOrders();
+        });
+    }
 }
 
 void WindowState::restore()

@@ -75,6 +75,11 @@ QString columnWidthKey(QStringView prefix, int column)
     return prefix.toString() + QLatin1String("ColumnWidth") + QString::number(column);
 }
 
+QString columnShownKey(QStringView prefix, int column)
+{
+    return prefix.toString() + QLatin1String("ColumnShown") + QString::number(column);
+}
+
 QString sortOrderKey(QStringView prefix)
 {
     return prefix.toString() + QLatin1String("SortOrder");

@@ -29,9 +29,11 @@ inline constexpr QChar EntryTerminator = QChar(1);
 QString encodeEntries(const QStringList& entries);
 QStringList decodeEntries(QStringView text);
 
-// Per-column keys: prefix + "ColumnOrder"/"ColumnWidth" + column number.
+// Per-column keys: prefix + "ColumnOrder"/"ColumnWidth" + column number;
+// "ColumnShown" (1 or 0) only for a column the user may show or hide.
 QString columnOrderKey(QStringView prefix, int column);
 QString columnWidthKey(QStringView prefix, int column);
+QString columnShownKey(QStringView prefix, int column);
 // Per-list sort keys: prefix + "SortOrder"/"SortKey".
 QString sortOrderKey(QStringView prefix);
 QString sortKeyKey(QStringView prefix);

@@ -52,23 +52,47 @@ QList<int> readOrder(const SettingsStore& settings, QStringView prefix, int coun
 void restore(const SettingsStore& settings, QStringView prefix, QHeaderView& header)
 {
     for (int column = 0; column < header.count(); ++column) {
-        const int width = settings.getNumber(SettingsCodec::columnWidthKey(prefix, column), header.sectionSize(column));
+        // A hidden column reads as 0 wide but keeps the width it will show with.
+        const QString key = SettingsCodec::columnWidthKey(prefix, column);
+        if (header.isSectionHidden(column) && !settings.contains(key))
+            continue;
+        const int width = settings.getNumber(key, header.sectionSize(column));
         header.resizeSection(column, std::max(width, 0));
     }
     applyDisplayOrder(header, readOrder(settings, prefix, header.count()));
+    for (int column = 0; column < header.count(); ++column) {
+        if (header.isSectionHidden(column) &&
+            settings.getNumber(SettingsCodec::columnShownKey(prefix, column), 0) == 1)
+            header.showSection(column);
+    }
 }
 
 void saveOrder(SettingsStore& settings, QStringView prefix, const QHeaderView& header)
 {
-    const QList<int> order = displayOrder(header);
+    QList<int> order = displayOrder(header);
+    while (!order.isEmpty() && order.last() == order.size() - 1 && header.isSectionHidden(order.last()))
+        order.removeLast();
     for (int position = 0; position < order.size(); ++position)
         settings.saveNumber(SettingsCodec::columnOrderKey(prefix, position), order[position]);
 }
 
 void saveWidths(SettingsStore& settings, QStringView prefix, const QHeaderView& header)
 {
-    for (int column = 0; column < header.count(); ++column)
-        settings.saveNumber(SettingsCodec::columnWidthKey(prefix, column), header.sectionSize(column));
+    for (int column = 0; column < header.count(); ++column) {
+        if (!header.isSectionHidden(column))
+            settings.saveNumber(SettingsCodec::columnWidthKey(prefix, column), header.sectionSize(column));
+    }
+}
+
+void saveShown(SettingsStore& settings, QStringView prefix, int column, bool shown)
+{
+    settings.saveNumber(SettingsCodec::columnShownKey(prefix, column), shown ? 1 : 0);
+}
+
+QList<int> shownOnly(QList<int> order, const QHeaderView& header)
+{
+    order.removeIf([&header](int column) { return header.isSectionHidden(column); });
+    return order;
 }
 
 SortState readSort(const SettingsStore& settings, QStringView prefix, SortState designTime)

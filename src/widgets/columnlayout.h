@@ -40,10 +40,17 @@ bool applyDisplayOrder(QHeaderView& header, const QList<int>& order);
 // The stored order, entry by entry: a missing key reads as its own position.
 QList<int> readOrder(const SettingsStore& settings, QStringView prefix, int count);
 
-// Restores widths (stored width, else the current one) and then the order.
+// Restores widths (stored width, else the current one), then the order,
+// then shows each hidden (optional) column the user had shown.
 void restore(const SettingsStore& settings, QStringView prefix, QHeaderView& header);
+// A hidden column still in its own place at the end is left out, so a list
+// whose optional columns were never shown keeps exactly its own keys.
 void saveOrder(SettingsStore& settings, QStringView prefix, const QHeaderView& header);
+// Hidden columns keep the width last stored for them.
 void saveWidths(SettingsStore& settings, QStringView prefix, const QHeaderView& header);
+void saveShown(SettingsStore& settings, QStringView prefix, int column, bool shown);
+// The display order without the hidden columns: what a copied row holds.
+QList<int> shownOnly(QList<int> order, const QHeaderView& header);
 
 SortState readSort(const SettingsStore& settings, QStringView prefix, SortState designTime);
 void saveSort(SettingsStore& settings, QStringView prefix, SortState sort);

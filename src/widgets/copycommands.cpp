@@ -44,7 +44,8 @@ void CopyCommands::copy(CopyText::What what) const
     source.cell = [model](int row, int column) { return model->index(row, column).data().toString(); };
     source.selectedRow = target.view->selectedRow();
     source.clickedColumn = std::clamp(target.view->pressedColumn(), 0, model->columnCount() - 1);
-    source.displayOrder = ColumnLayout::readOrder(m_settings, target.orderPrefix, model->columnCount());
+    source.displayOrder = ColumnLayout::shownOnly(
+        ColumnLayout::readOrder(m_settings, target.orderPrefix, model->columnCount()), *target.view->header());
     source.columnJoin = m_columnJoin;
     const auto text = CopyText::build(what, source);
     if (!text)

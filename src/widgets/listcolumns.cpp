@@ -18,4 +18,14 @@ QList<int> designWidths(std::span<const ListColumn> columns)
     return widths;
 }
 
+QList<int> optional(std::span<const ListColumn> columns)
+{
+    QList<int> found;
+    for (size_t column = 0; column < columns.size(); ++column) {
+        if (columns[column].optional)
+            found.append(int(column));
+    }
+    return found;
+}
+
 } // namespace ListColumns

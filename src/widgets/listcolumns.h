@@ -12,11 +12,15 @@
 struct ListColumn {
     const char* caption; // English (UK) source text, translated in context "ListColumns"
     int designWidth;     // pixels on a first start
+    // Hidden until the user shows it from the header's menu; the lists'
+    // documented columns are never optional.
+    bool optional = false;
 };
 
 namespace ListColumns {
 
 QString caption(const ListColumn& column);
 QList<int> designWidths(std::span<const ListColumn> columns);
+QList<int> optional(std::span<const ListColumn> columns);
 
 } // namespace ListColumns

@@ -31,6 +31,7 @@ public:
 
     std::span<const ListColumn> columns() const { return m_columns; }
     QList<int> designWidths() const { return ListColumns::designWidths(m_columns); }
+    QList<int> optionalColumns() const { return ListColumns::optional(m_columns); }
     // The captions follow the interface language.
     void retranslate();
 

@@ -4,6 +4,7 @@
 #include <QContextMenuEvent>
 #include <QHeaderView>
 #include <QKeyEvent>
+#include <QMenu>
 #include <QMetaMethod>
 #include <QMouseEvent>
 #include <QStyle>
@@ -68,6 +69,44 @@ void ReportView::fitTitles()
             m_givenWidths[column] = needed;
         }
     }
+}
+
+void ReportView::setOptionalColumns(const QList<int>& columns)
+{
+    m_optional = columns;
+    QHeaderView* header = horizontalHeader();
+    for (int column : columns)
+        header->hideSection(column);
+    header->setContextMenuPolicy(columns.isEmpty() ? Qt::DefaultContextMenu : Qt::CustomContextMenu);
+    disconnect(header, &QHeaderView::customContextMenuRequested, this, nullptr);
+    connect(header, &QHeaderView::customContextMenuRequested, this, &ReportView::showHeaderMenu);
+}
+
+void ReportView::showHeaderMenu(const QPoint& at)
+{
+    auto* menu = new QMenu(this);
+    menu->setObjectName(QStringLiteral("mPopupColumns"));
+    // A popup is hidden, not closed; its entry acts before the deletion.
+    connect(menu, &QMenu::aboutToHide, menu, &QObject::deleteLater);
+    QHeaderView* header = horizontalHeader();
+    for (int column : std::as_const(m_optional)) {
+        QAction* action = menu->addAction(model()->headerData(column, Qt::Horizontal).toString());
+        action->setObjectName(QStringLiteral("mPopColumn%1").arg(column));
+        action->setCheckable(true);
+        action->setChecked(!header->isSectionHidden(column));
+        connect(action, &QAction::toggled, this, [this, header, column](bool shown) {
+            header->setSectionHidden(column, !shown);
+            // Shown at the end of a list whose last column takes the width
+            // left, it would get only that: it comes in before that column.
+            const int last = header->count() - 1 - header->hiddenSectionCount();
+            if (shown && header->stretchLastSection() && last > 0 && header->visualIndex(column) == last)
+                header->moveSection(last, last - 1);
+            if (shown)
+                fitTitles();
+            emit columnShownChanged(column, shown);
+        });
+    }
+    menu->popup(header->viewport()->mapToGlobal(at));
 }
 
 void ReportView::showEvent(QShowEvent* event)

@@ -27,8 +27,14 @@ public:
     // until its title, and the sort arrow on the sorted one, is read whole.
     // A width the user chose is left alone.
     void fitTitles();
+    // Columns hidden until the user shows them: a right click on the
+    // header offers each of them, ticked while it is shown.
+    void setOptionalColumns(const QList<int>& columns);
+    QList<int> optionalColumns() const { return m_optional; }
 
 signals:
+    // The user showed or hid an optional column from the header's menu.
+    void columnShownChanged(int column, bool shown);
     // A button went down on the rows, before the list reacts to it.
     void pressed(Qt::MouseButton button);
     // The right button was pressed and released here, or the menu key or
@@ -50,8 +56,10 @@ private:
     // The menu of the selected row, opened from the keyboard: below the
     // row's first cell, where the user is looking.
     void requestMenuOnSelection();
+    void showHeaderMenu(const QPoint& at);
 
     QList<int> m_givenWidths; // the design width, or the one fitTitles() set
+    QList<int> m_optional;
     Qt::MouseButton m_lastButton = Qt::NoButton;
     int m_pressedColumn = 0;
 };

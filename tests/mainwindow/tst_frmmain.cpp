@@ -22,11 +22,14 @@
 
 namespace {
 
+// The captions of the columns shown, in their own order.
 QStringList headerCaptions(const QHeaderView* header)
 {
     QStringList captions;
-    for (int column = 0; column < header->count(); ++column)
-        captions.append(header->model()->headerData(column, Qt::Horizontal).toString());
+    for (int column = 0; column < header->count(); ++column) {
+        if (!header->isSectionHidden(column))
+            captions.append(header->model()->headerData(column, Qt::Horizontal).toString());
+    }
     return captions;
 }
 

@@ -7,7 +7,11 @@
 #include "simlocations.h"
 
 #include <QApplication>
+#include <QClipboard>
+#include <QContextMenuEvent>
+#include <QHeaderView>
 #include <QLabel>
+#include <QMenu>
 #include <QTemporaryDir>
 
 namespace {
@@ -24,6 +28,42 @@ struct Spread {
         return options;
     }()};
 };
+
+// A right click on the list's header (the menu event the desktop sends for
+// it; QTest's clicks do not make one), then the menu's only entry ticked or
+// unticked from the keyboard.
+void toggleFromHeaderMenu(const ReportView* list)
+{
+    QWidget* header = list->header()->viewport();
+    const QPoint at(20, 5);
+    QContextMenuEvent click(QContextMenuEvent::Mouse, at, header->mapToGlobal(at));
+    QApplication::sendEvent(header, &click);
+    QTRY_VERIFY(qobject_cast<QMenu*>(QApplication::activePopupWidget()));
+    QWidget* menu = QApplication::activePopupWidget();
+    QCOMPARE(menu->objectName(), QStringLiteral("mPopupColumns"));
+    QTest::keyClick(menu, Qt::Key_Down);
+    QTest::keyClick(menu, Qt::Key_Return);
+    QTRY_VERIFY(!QApplication::activePopupWidget());
+}
+
+void clickTitle(const ReportView* list, int column)
+{
+    QHeaderView* header = list->header();
+    const QPoint at(header->sectionViewportPosition(column) + header->sectionSize(column) / 2, 5);
+    QTest::mouseClick(header->viewport(), Qt::LeftButton, {}, at);
+}
+
+QStringList copiedRow(const TestWindow& w, int row)
+{
+    auto* list = w.find<ReportView>("lstServerList");
+    const QPoint at = list->visualRect(list->model()->index(row, 0)).center();
+    QTest::mousePress(list->viewport(), Qt::RightButton, {}, at);
+    QTest::mouseRelease(list->viewport(), Qt::RightButton, {}, at);
+    auto* menu = w.find<QMenu>("mPopupAlt");
+    menu->findChild<QAction*>(QStringLiteral("mPopCopyRow"))->trigger();
+    menu->hide();
+    return QGuiApplication::clipboard()->text().split(QStringLiteral("     "));
+}
 
 } // namespace
 
@@ -77,6 +117,56 @@ private slots:
 
         QCOMPARE(w.window->queries().countries().status(),
                  QStringLiteral("Countries: ") + CountryDatabase::open(database).database->description());
+    }
+
+    // The "Country" column waits in the header's menu: shown, it sorts the
+    // list by country and copied rows hold it; the choice is kept at once.
+    void theCountryColumnIsShownFromTheHeader()
+    {
+        const QString database = m_dir.filePath(QStringLiteral("loopback.db"));
+        QVERIFY(writeLoopbackCountries(database));
+        Spread fleets;
+        TestWindow w(TestPorts::at(1), StartPort, [&database](SettingsStore& settings) {
+            settings.save(Keys::MasterServer.key,
+                          QStringLiteral("127.0.0.1:%1 127.0.0.9:%2").arg(TestPorts::at(1)).arg(TestPorts::at(101)));
+            settings.save(Keys::CountryDatabase.key, database);
+        });
+        QVERIFY(w.queryMasters(6000));
+        QVERIFY(w.show());
+        auto* servers = w.find<ReportView>("lstServerList");
+        QHeaderView* header = servers->header();
+        QVERIFY(header->isSectionHidden(ServerListModel::Country));
+        QCOMPARE(copiedRow(w, 0).size(), 8);
+
+        toggleFromHeaderMenu(servers);
+        QVERIFY(!header->isSectionHidden(ServerListModel::Country));
+        // Before the address, which takes the width left.
+        QCOMPARE(header->visualIndex(ServerListModel::Country), header->visualIndex(ServerListModel::Address) - 1);
+        QVERIFY(header->sectionSize(ServerListModel::Country) >= ServerListModel::Columns[8].designWidth);
+        QCOMPARE(w.settings().get(u"SColumnShown8"), QStringLiteral("1"));
+
+        QAbstractItemModel* list = servers->model();
+        const auto countries = [list] {
+            QStringList column;
+            for (int row = 0; row < list->rowCount(); ++row)
+                column.append(list->index(row, ServerListModel::Country).data().toString());
+            return column;
+        };
+        clickTitle(servers, ServerListModel::Country);
+        QCOMPARE(countries(), (QStringList{3, QStringLiteral("Germany")} +
+                               QStringList{2, QStringLiteral("United States of America")}));
+        clickTitle(servers, ServerListModel::Country);
+        QCOMPARE(countries().first(), QStringLiteral("United States of America"));
+        QCOMPARE(w.settings().get(u"SSortKey"), QStringLiteral("8"));
+        const QStringList cells = copiedRow(w, 0);
+        QCOMPARE(cells.size(), 9);
+        QCOMPARE(cells.at(7), QStringLiteral("United States of America"));
+        QVERIFY(cells.last().startsWith(QStringLiteral("127.0.0.9:")));
+
+        toggleFromHeaderMenu(servers);
+        QVERIFY(header->isSectionHidden(ServerListModel::Country));
+        QCOMPARE(w.settings().get(u"SColumnShown8"), QStringLiteral("0"));
+        QCOMPARE(copiedRow(w, 0).size(), 8);
     }
 
     // Without a database nothing is placed and nothing is asked: no flag,

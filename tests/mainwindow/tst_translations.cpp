@@ -239,9 +239,10 @@ private slots:
             servers->header()->setSortIndicator(2, Qt::AscendingOrder); // "Players"
             for (const ReportView* list : windows.main.findChildren<ReportView*>()) {
                 const QHeaderView* header = list->header();
+                const int lastShown = header->logicalIndex(header->count() - 1 - header->hiddenSectionCount());
                 for (int column = 0; column < header->count(); ++column) {
                     // The last column of the two big lists takes what width is left.
-                    if (header->stretchLastSection() && header->visualIndex(column) == header->count() - 1)
+                    if (header->isSectionHidden(column) || (header->stretchLastSection() && column == lastShown))
                         continue;
                     const QString title = header->model()->headerData(column, Qt::Horizontal).toString();
                     int needed = header->fontMetrics().horizontalAdvance(title) +

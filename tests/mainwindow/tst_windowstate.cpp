@@ -118,11 +118,14 @@ private slots:
         QCOMPARE(m_settings->get(Keys::PlayerNameBox.key), QStringLiteral("^1Fragger\u0001Other\u0001"));
 
         m_settings->save(Keys::Tab.key, QStringLiteral("1"));
+        QVERIFY(!m_settings->contains(u"SColumnOrder8")); // the country column, hidden
+        m_settings->save(u"SColumnShown8", QStringLiteral("1"));
         TestWindow again(*m_settings);
         QVERIFY(again.show());
         QCOMPARE(again.window->size(), QSize(640, 580));
         QCOMPARE(again.header("lstServerList")->logicalIndex(0), 7);
         QCOMPARE(again.header("lstServerList")->sectionSize(7), 177);
+        QVERIFY(!again.header("lstServerList")->isSectionHidden(8));
         QCOMPARE(again.header("lstPlayerList")->logicalIndex(3), 0);
         QCOMPARE(again.header("lvwServerInfo")->sectionSize(1), 222);
         QCOMPARE(again.find<QSplitter>("rzrPSI")->sizes().first(),

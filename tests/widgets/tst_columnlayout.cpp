@@ -138,6 +138,50 @@ private slots:
         QCOMPARE(list.header().sectionSize(3), 130);
     }
 
+    // The last column is optional: hidden, it leaves a list's keys as they
+    // were; once shown, moved and hidden again its place and width are kept.
+    void anOptionalColumnKeepsItsPlaceAndWidth()
+    {
+        SettingsStore store = freshStore();
+        {
+            List list;
+            list.header().hideSection(3);
+            restore(store, u"S", list.header());
+            saveOrder(store, u"S", list.header());
+            saveWidths(store, u"S", list.header());
+            QVERIFY(store.contains(u"SColumnOrder2"));
+            QVERIFY(!store.contains(u"SColumnOrder3"));
+            QVERIFY(!store.contains(u"SColumnWidth3"));
+            QCOMPARE(shownOnly(readOrder(store, u"S", 4), list.header()), (QList<int>{0, 1, 2}));
+
+            list.header().showSection(3);
+            QCOMPARE(list.header().sectionSize(3), 130); // its design width
+            list.header().resizeSection(3, 90);
+            list.header().moveSection(3, 0);
+            saveShown(store, u"S", 3, true);
+            saveOrder(store, u"S", list.header());
+            saveWidths(store, u"S", list.header());
+            list.header().hideSection(3);
+            saveShown(store, u"S", 3, false);
+            saveOrder(store, u"S", list.header());
+            saveWidths(store, u"S", list.header());
+            QCOMPARE(store.get(u"SColumnWidth3"), QStringLiteral("90"));
+            QCOMPARE(shownOnly(readOrder(store, u"S", 4), list.header()), (QList<int>{0, 1, 2}));
+        }
+        saveShown(store, u"S", 3, true);
+        List again;
+        again.header().hideSection(3);
+        restore(store, u"S", again.header());
+        QVERIFY(!again.header().isSectionHidden(3));
+        QCOMPARE(displayOrder(again.header()), (QList<int>{3, 0, 1, 2}));
+        QCOMPARE(again.header().sectionSize(3), 90);
+        // A column the list always shows is never hidden by the file.
+        store.save(u"SColumnShown1", QStringLiteral("0"));
+        List third;
+        restore(store, u"S", third.header());
+        QVERIFY(!third.header().isSectionHidden(1));
+    }
+
     void sortStateDefaultsAndRoundTrip()
     {
         SettingsStore store = freshStore();

@@ -27,7 +27,10 @@
 #include <QDialog>
 #include <QDir>
 #include <QEventLoop>
+#include <QContextMenuEvent>
+#include <QHeaderView>
 #include <QLabel>
+#include <QMenu>
 #include <QMouseEvent>
 #include <QPushButton>
 #include <QTabBar>
@@ -92,6 +95,28 @@ template <typename T> T* openedBy(QWidget& main, const char* button, const char*
     return window;
 }
 
+void click(QWidget* widget, QPoint at)
+{
+    for (const QEvent::Type type : {QEvent::MouseButtonPress, QEvent::MouseButtonRelease}) {
+        QMouseEvent event(type, at, widget->mapToGlobal(at), Qt::LeftButton,
+                          type == QEvent::MouseButtonPress ? Qt::LeftButton : Qt::NoButton, Qt::NoModifier);
+        QApplication::sendEvent(widget, &event);
+    }
+}
+
+// The header's menu opened by a right click, its only entry chosen.
+void toggleOptionalColumn(ReportView* list)
+{
+    QWidget* header = list->header()->viewport();
+    QContextMenuEvent menuClick(QContextMenuEvent::Mouse, QPoint(20, 5), header->mapToGlobal(QPoint(20, 5)));
+    QApplication::sendEvent(header, &menuClick);
+    if (auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget())) {
+        menu->actions().constFirst()->trigger();
+        menu->hide();
+    }
+    settle();
+}
+
 bool shootLanguage(SimFleet& fleet, int language, const QDir& out)
 {
     QTemporaryDir data;
@@ -126,12 +151,7 @@ bool shootLanguage(SimFleet& fleet, int language, const QDir& out)
         return false;
     // A server chosen, as a user's click chooses it, fills the panes.
     auto* servers = child<ReportView>(&main, "lstServerList");
-    const QPoint firstRow = servers->visualRect(servers->model()->index(0, 0)).center();
-    for (const QEvent::Type type : {QEvent::MouseButtonPress, QEvent::MouseButtonRelease}) {
-        QMouseEvent click(type, firstRow, servers->viewport()->mapToGlobal(firstRow), Qt::LeftButton,
-                          type == QEvent::MouseButtonPress ? Qt::LeftButton : Qt::NoButton, Qt::NoModifier);
-        QApplication::sendEvent(servers->viewport(), &click);
-    }
+    click(servers->viewport(), servers->visualRect(servers->model()->index(0, 0)).center());
     waitFor([&queries] { return !queries.isRunning(); }, 3000);
     // A refresh round in which one server stays silent: its row is greyed.
     fleet.setSilent(1, true);
@@ -140,6 +160,15 @@ bool shootLanguage(SimFleet& fleet, int language, const QDir& out)
     fleet.setSilent(1, false);
 
     bool ok = save(&main, out, QStringLiteral("main-servers"));
+    // The country column shown from the header and sorted by its title.
+    toggleOptionalColumn(servers);
+    QHeaderView* header = servers->header();
+    const int country = servers->optionalColumns().value(0);
+    click(header->viewport(),
+          QPoint(header->sectionViewportPosition(country) + header->sectionSize(country) / 2, header->height() / 2));
+    settle();
+    ok = save(&main, out, QStringLiteral("main-countries")) && ok;
+    toggleOptionalColumn(servers);
     // The smallest the window may be: nothing may be cut there.
     main.resize(FrmMain::MinimumSize);
     ok = save(&main, out, QStringLiteral("main-smallest")) && ok;
@@ -179,12 +208,7 @@ bool shootLanguage(SimFleet& fleet, int language, const QDir& out)
     recent->close();
 
     // The About box opens from a click on the title.
-    auto* title = child<QLabel>(&main, "lblAbout");
-    for (const QEvent::Type type : {QEvent::MouseButtonPress, QEvent::MouseButtonRelease}) {
-        QMouseEvent click(type, QPointF(4, 4), title->mapToGlobal(QPointF(4, 4)), Qt::LeftButton,
-                          type == QEvent::MouseButtonPress ? Qt::LeftButton : Qt::NoButton, Qt::NoModifier);
-        QApplication::sendEvent(title, &click);
-    }
+    click(child<QLabel>(&main, "lblAbout"), QPoint(4, 4));
     QDialog* about = nullptr;
     waitFor(
         [&] {
