@@ -61,8 +61,7 @@ void restore(const SettingsStore& settings, QStringView prefix, QHeaderView& hea
     }
     applyDisplayOrder(header, readOrder(settings, prefix, header.count()));
     for (int column = 0; column < header.count(); ++column) {
-        if (header.isSectionHidden(column) &&
-            settings.getNumber(SettingsCodec::columnShownKey(prefix, column), 0) == 1)
+        if (header.isSectionHidden(column) && settings.getNumber(SettingsCodec::columnShownKey(prefix, column), 0) == 1)
             header.showSection(column);
     }
 }

@@ -29,6 +29,18 @@ struct Spread {
     }()};
 };
 
+// Both fleets, each asked from its master, placed by the database.
+struct Placed : Spread, TestWindow {
+    explicit Placed(const QString& database)
+        : TestWindow(TestPorts::at(1), StartPort, [&database](SettingsStore& settings) {
+            settings.save(Keys::MasterServer.key,
+                          QStringLiteral("127.0.0.1:%1 127.0.0.9:%2").arg(TestPorts::at(1)).arg(TestPorts::at(101)));
+            settings.save(Keys::CountryDatabase.key, database);
+        })
+    {
+    }
+};
+
 // A right click on the list's header (the menu event the desktop sends for
 // it; QTest's clicks do not make one), then the menu's only entry ticked or
 // unticked from the keyboard.
@@ -71,20 +83,16 @@ class TestFrmMainCountries final : public QObject {
     Q_OBJECT
 
     QTemporaryDir m_dir;
+    QString m_database = m_dir.filePath(QStringLiteral("loopback.db"));
 
 private slots:
+    void initTestCase() { QVERIFY(writeLoopbackCountries(m_database)); }
+
     // The flags and the country's name before each server, the country as
     // a rule to see and to filter by, and the About box naming the database.
     void serversAreShownInTheirCountries()
     {
-        const QString database = m_dir.filePath(QStringLiteral("loopback.db"));
-        QVERIFY(writeLoopbackCountries(database));
-        Spread fleets;
-        TestWindow w(TestPorts::at(1), StartPort, [&database](SettingsStore& settings) {
-            settings.save(Keys::MasterServer.key,
-                          QStringLiteral("127.0.0.1:%1 127.0.0.9:%2").arg(TestPorts::at(1)).arg(TestPorts::at(101)));
-            settings.save(Keys::CountryDatabase.key, database);
-        });
+        Placed w(m_database);
         QVERIFY(w.queryMasters(6000));
         QAbstractItemModel* list = w.visible("lstServerList");
         QCOMPARE(list->rowCount(), 5);
@@ -116,21 +124,14 @@ private slots:
             QVERIFY(w.cell("lstServerList", row, ServerListModel::Address).startsWith(QStringLiteral("127.0.0.9:")));
 
         QCOMPARE(w.window->queries().countries().status(),
-                 QStringLiteral("Countries: ") + CountryDatabase::open(database).database->description());
+                 QStringLiteral("Countries: ") + CountryDatabase::open(m_database).database->description());
     }
 
     // The "Country" column waits in the header's menu: shown, it sorts the
     // list by country and copied rows hold it; the choice is kept at once.
     void theCountryColumnIsShownFromTheHeader()
     {
-        const QString database = m_dir.filePath(QStringLiteral("loopback.db"));
-        QVERIFY(writeLoopbackCountries(database));
-        Spread fleets;
-        TestWindow w(TestPorts::at(1), StartPort, [&database](SettingsStore& settings) {
-            settings.save(Keys::MasterServer.key,
-                          QStringLiteral("127.0.0.1:%1 127.0.0.9:%2").arg(TestPorts::at(1)).arg(TestPorts::at(101)));
-            settings.save(Keys::CountryDatabase.key, database);
-        });
+        Placed w(m_database);
         QVERIFY(w.queryMasters(6000));
         QVERIFY(w.show());
         auto* servers = w.find<ReportView>("lstServerList");
