@@ -9,6 +9,7 @@
 #include "mainwindow/serverlistmodel.h"
 #include "mainwindow/servervisibility.h"
 #include "mainwindow/visiblelist.h"
+#include "presentation/countries.h"
 #include "query/infoprotocol.h"
 #include "userdata/friends.h"
 #include "widgets/reportview.h"
@@ -39,6 +40,11 @@ void printMemory(const char* when)
 int filter()
 {
     ServerListModel servers;
+    // Countries named by Debian's database when it is installed, else by
+    // their codes: sorting by country asks for every name.
+    Countries countries;
+    countries.open(CountryDatabase::DebianPath);
+    servers.setCountries(&countries);
     PlayerListModel players(servers);
     ServerVisibility visibility(servers.store());
     VisibleList visibleServers([&](int row) { return visibility.isVisible(row); },
@@ -61,6 +67,9 @@ int filter()
         ServerRecord record = InfoProtocol::parseReply(SimReplies::infoResponse(rules, fifteen)).value();
         record.address = QStringLiteral("127.0.0.1");
         record.port = 20000 + i;
+        static const QStringList codes{QStringLiteral("DE"), QStringLiteral("US"), QStringLiteral("RU"),
+                                       QStringLiteral("FR"), QStringLiteral("GB"), QStringLiteral("PL")};
+        record.country = codes.at(i % codes.size());
         records.append(record);
     }
     servers.append(records);
@@ -114,6 +123,7 @@ int filter()
         int column;
     } sorts[] = {{&visibleServers, &serverView, "servers by name", ServerListModel::Name},
                  {&visibleServers, &serverView, "servers by players", ServerListModel::Players},
+                 {&visibleServers, &serverView, "servers by country", ServerListModel::Country},
                  {&visiblePlayers, &playerView, "players by name", PlayerListModel::Name},
                  {&visiblePlayers, &playerView, "players by ping", PlayerListModel::Ping},
                  {&visiblePlayers, &playerView, "players by server", PlayerListModel::ServerName}};

@@ -39,7 +39,9 @@
 #include "query/querysession.h"
 #include "scripteddesktop.h"
 #include "simfleet.h"
+#include "simlocations.h"
 #include "userdata/friends.h"
+#include "userdata/settingscodec.h"
 #include "userdata/settingsstore.h"
 #include "widgets/reportview.h"
 
@@ -181,29 +183,45 @@ int cost()
 
 // delayMs > 0: every server answers that much later, and the pings the
 // window lists are compared with it.
-int window(int delayMs)
+int window(int delayMs, int servers)
 {
     // The fleet runs as its own process here, as real servers do: an
     // in-process fleet of 5,000 sockets would share this process's event
-    // machinery and make the measurement about itself.
-    QProcess simulator;
-    simulator.setProcessChannelMode(QProcess::ForwardedErrorChannel);
-    simulator.start(QStringLiteral(SIM_TOOL),
-                    {QStringLiteral("--servers"), QStringLiteral("5000"), QStringLiteral("--master-port"),
-                     QStringLiteral("19999"), QStringLiteral("--first-port"), QStringLiteral("20000"),
-                     QStringLiteral("--seed"), QStringLiteral("42"), QStringLiteral("--lifetime"),
-                     QStringLiteral("120"), QStringLiteral("--delay"), QString::number(delayMs),
-                     // Players come and go meanwhile, so the refresh round
-                     // has rows to change, add and remove.
-                     QStringLiteral("--churn"), QStringLiteral("1")});
-    if (!simulator.waitForReadyRead(20000))
-        qFatal("q4vantage-sim did not start");
+    // machinery and make the measurement about itself. A master lists
+    // 5,461 servers at most: a larger fleet is split between masters.
+    std::vector<std::unique_ptr<QProcess>> simulators;
+    QStringList masters;
+    for (int first = 0; first < servers; first += 5000) {
+        const int port = 20000 + 5001 * int(simulators.size());
+        auto& simulator = simulators.emplace_back(std::make_unique<QProcess>());
+        simulator->setProcessChannelMode(QProcess::ForwardedErrorChannel);
+        simulator->start(QStringLiteral(SIM_TOOL),
+                         {QStringLiteral("--servers"), QString::number(std::min(servers - first, 5000)),
+                          QStringLiteral("--master-port"), QString::number(port - 1), QStringLiteral("--first-port"),
+                          QString::number(port), QStringLiteral("--seed"), QString::number(42 + first),
+                          QStringLiteral("--lifetime"), QStringLiteral("120"), QStringLiteral("--delay"),
+                          QString::number(delayMs),
+                          // Players come and go meanwhile, so the refresh
+                          // round has rows to change, add and remove.
+                          QStringLiteral("--churn"), QStringLiteral("1")});
+        if (!simulator->waitForReadyRead(20000))
+            qFatal("q4vantage-sim did not start");
+        masters.append(QStringLiteral("127.0.0.1:%1").arg(port - 1));
+    }
     QTemporaryDir dir;
     SettingsStore settings(dir.filePath(QStringLiteral("settings.ini")));
-    settings.save(Keys::MasterServer.key, QStringLiteral("127.0.0.1:19999"));
+    settings.save(Keys::MasterServer.key, masters.join(QLatin1Char(' ')));
     settings.save(Keys::StartPort.key, QString::number(StartPort));
     settings.set(Keys::Friends, fiftyFriends());
     settings.set(Keys::AutoRefreshMinutes, 5);
+    // Every server placed in its country, the country column shown: the
+    // lookups and the column are part of what is measured.
+    const QString countries = dir.filePath(QStringLiteral("loopback.db"));
+    if (!writeLoopbackCountries(countries))
+        qFatal("no location database");
+    settings.save(Keys::CountryDatabase.key, countries);
+    settings.save(SettingsCodec::columnShownKey(Keys::ServerList.columns, ServerListModel::Country),
+                  QStringLiteral("1"));
     ScriptedDesktop desktop;
     Language language;
     FrmMain main(settings, desktop, language, dir.path());
@@ -259,9 +277,9 @@ int window(int delayMs)
         main.findChild<QPushButton*>(QStringLiteral("cmdGet"))->click();
     });
     QCoreApplication::exec();
-    std::printf("window: 5000 servers, %d players listed in %lld ms; longest event-loop stall %lld ms "
-                "(50 friends, automatic refresh on)\n",
-                main.lists().players().rowCount(), (long long)queryMs, (long long)queryStall);
+    std::printf("window: %d servers, %d players listed in %lld ms; longest event-loop stall %lld ms "
+                "(50 friends, automatic refresh on, countries shown)\n",
+                servers, main.lists().players().rowCount(), (long long)queryMs, (long long)queryStall);
     std::printf("window: a refresh round of every server, rows updated in place, in %lld ms; longest event-loop "
                 "stall %lld ms (ending %lld ms after the click)\n",
                 (long long)refreshMs, (long long)longest, (long long)longestAt);
@@ -275,9 +293,11 @@ int window(int delayMs)
             std::printf("window: pings of servers answering after %d ms: median error %d ms, 95th percentile %d ms\n",
                         delayMs, errors[errors.size() / 2], errors[errors.size() * 95 / 100]);
     }
-    simulator.kill();
-    simulator.waitForFinished();
-    return main.lists().servers().rowCount() == 5000 ? 0 : 1;
+    for (const auto& simulator : simulators) {
+        simulator->kill();
+        simulator->waitForFinished();
+    }
+    return main.lists().servers().rowCount() == servers ? 0 : 1;
 }
 
 int parse()
@@ -319,10 +339,11 @@ int main(int argc, char* argv[])
         return pool();
     if (which == QLatin1String("cost"))
         return cost();
+    const int servers = argc > 2 ? QString::fromLocal8Bit(argv[2]).toInt() : 5000;
     if (which == QLatin1String("window"))
-        return window(0);
+        return window(0, std::clamp(servers, 1, 10000));
     if (which == QLatin1String("windowping"))
-        return window(50);
+        return window(50, 5000);
     if (which == QLatin1String("parse"))
         return parse();
     if (which == QLatin1String("filter"))
@@ -333,6 +354,8 @@ int main(int argc, char* argv[])
         return countries();
     if (which == QLatin1String("mapscan"))
         return mapscan(argc > 2 ? QString::fromLocal8Bit(argv[2]) : QString());
-    std::fprintf(stderr, "usage: q4vantage-bench pool|cost|window|windowping|parse|filter|sources|countries|mapscan\n");
+    std::fprintf(
+        stderr,
+        "usage: q4vantage-bench pool|cost|window [SERVERS]|windowping|parse|filter|sources|countries|mapscan\n");
     return 2;
 }
