@@ -158,9 +158,12 @@ with Fleet(500, 0.0, 50, 12000) as fleet:
 
 window = subprocess.run([f"{BIN}/q4vantage-bench", "filter"], stdout=subprocess.PIPE, env=ENV).stdout.decode()
 stall = subprocess.run([f"{BIN}/q4vantage-bench", "window"], stdout=subprocess.PIPE, env=ENV).stdout.decode()
+stall += subprocess.run([f"{BIN}/q4vantage-bench", "window", "10000"], stdout=subprocess.PIPE, env=ENV).stdout.decode()
 busy = subprocess.run([f"{BIN}/q4vantage-bench", "windowping"], stdout=subprocess.PIPE, env=ENV).stdout.decode()
 lines += ["## The window", "", "10,000 servers with 15 players each (150,000 players), `q4vantage-bench filter`:", "",
-          "```", window.strip(), "```", "", "A query of 5,000 servers into the window, `q4vantage-bench window`:", "",
+          "```", window.strip(), "```", "", "A query of 5,000 servers into the window, `q4vantage-bench window`, and of 10,000 from two masters,",
+          "`q4vantage-bench window 10000` (every server placed by a test location database, the \"Country\" column "
+          "shown):", "",
           "```", stall.strip(), "```", "",
           "The pings the window lists while it receives 5,000 servers that all answer after 50 ms, "
           "`q4vantage-bench windowping`:", "", "```", busy.strip(), "```", ""]
