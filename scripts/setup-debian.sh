@@ -9,7 +9,7 @@ packages=(
     qt6-base-dev qt6-tools-dev qt6-tools-dev-tools qt6-l10n-tools qt6-translations-l10n
     qtkeychain-qt6-dev
     pkg-config libloc-dev libloc-database famfamfam-flag-png
-    libzip-dev
+    libzip-dev libicu-dev
     libssl3
     xvfb xauth
     iproute2 util-linux

@@ -23,6 +23,7 @@ grep -q libqt6widgets6 <<<"$depends"
 grep -q libqt6keychain1 <<<"$depends"
 grep -q libloc1 <<<"$depends"
 grep -q libzip4 <<<"$depends"
+grep -q libicu72 <<<"$depends"
 dpkg-deb -f "$deb" Recommends | grep -q libloc-database
 
 desktop-file-validate "$root/usr/share/applications/q4vantage.desktop"

@@ -251,6 +251,7 @@ void FrmMain::retranslateUi()
 
     m_tabs->retranslate();
     m_menu->retranslate();
+    m_queries->setCountryLanguage(Language::localeName(m_language.current()));
     m_lists->retranslate();
     Mnemonics::assign(this);
 }

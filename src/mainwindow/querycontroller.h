@@ -32,6 +32,7 @@ public:
     const QuerySession& session() const { return m_session; }
     // Where the answering servers are, and their flags.
     const Countries& countries() const { return m_countries; }
+    void setCountryLanguage(const QString& locale) { m_countries.setLanguage(locale); }
     bool isRunning() const { return m_session.isRunning(); }
     // What each source of the last query gave, one line each.
     const QString& sourceSummary() const { return m_sources.summary; }

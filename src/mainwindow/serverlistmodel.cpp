@@ -118,6 +118,13 @@ void ServerListModel::setSilent(int storeIndex)
     emit dataChanged(index(storeIndex, 0), index(storeIndex, ColumnCount - 1));
 }
 
+void ServerListModel::retranslate()
+{
+    ReportModel::retranslate();
+    if (m_store.count() > 0)
+        emit dataChanged(index(0, Country), index(m_store.count() - 1, Country), {Qt::DisplayRole});
+}
+
 void ServerListModel::marksChanged()
 {
     if (m_store.count() > 0)

@@ -52,6 +52,8 @@ public:
     void setCountries(const Countries* countries) { m_countries = countries; }
     // The friends changed: every row's mark may have.
     void marksChanged();
+    // The captions and the countries' names follow the interface language.
+    void retranslate();
 
     const ServerStore& store() const { return m_store; }
     const ServerRecord& record(int row) const { return m_store.at(row); }

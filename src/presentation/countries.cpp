@@ -6,6 +6,9 @@
 #include <QPainter>
 #include <QPixmap>
 
+#include <unicode/locid.h>
+#include <unicode/unistr.h>
+
 Countries::Countries(QString flagFolder)
     : m_flagFolder(std::move(flagFolder))
 {
@@ -50,8 +53,31 @@ QIcon Countries::flag(const QString& code) const
 
 QString Countries::name(const QString& code) const
 {
-    const QString named = m_opened.database ? m_opened.database->nameOf(code) : QString();
-    return named.isEmpty() ? code : named;
+    const auto known = m_names.constFind(code);
+    if (known != m_names.cend())
+        return *known;
+    QString named;
+    if (code.size() == 2) {
+        icu::UnicodeString text;
+        icu::Locale(nullptr, code.toLatin1().constData())
+            .getDisplayCountry(icu::Locale(m_language.toLatin1().constData()), text);
+        named = QString(reinterpret_cast<const QChar*>(text.getBuffer()), text.length());
+    }
+    // ICU answers a code it has no name for with the code itself.
+    if ((named.isEmpty() || named == code) && m_opened.database)
+        named = m_opened.database->nameOf(code);
+    if (named.isEmpty())
+        named = code;
+    m_names.insert(code, named);
+    return named;
+}
+
+void Countries::setLanguage(const QString& locale)
+{
+    if (locale == m_language)
+        return;
+    m_language = locale;
+    m_names.clear();
 }
 
 QString Countries::status() const

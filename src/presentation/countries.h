@@ -24,8 +24,11 @@ public:
     std::shared_ptr<const CountryDatabase> open(const QString& path);
     // A small flag, or the code drawn as one when the package is missing.
     QIcon flag(const QString& code) const;
-    // The country's name, or the code when the database has none.
+    // The country's name in the interface's language (ICU's names), else
+    // the database's English one, else the code.
     QString name(const QString& code) const;
+    // The language of the names: a locale name such as "de" or "en_GB".
+    void setLanguage(const QString& locale);
     // One line for the About box: which database, or why there is none.
     QString status() const;
 
@@ -34,5 +37,7 @@ private:
     QString m_path;
     bool m_tried = false;
     CountryDatabase::Opened m_opened;
+    QString m_language = QStringLiteral("en_GB");
     mutable QHash<QString, QIcon> m_flags;
+    mutable QHash<QString, QString> m_names; // in m_language
 };

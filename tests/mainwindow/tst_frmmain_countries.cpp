@@ -104,7 +104,7 @@ private slots:
             tips.append(name.data(Qt::ToolTipRole).toString());
         }
         QCOMPARE(tips.count(QStringLiteral("Germany")), 3);
-        QCOMPARE(tips.count(QStringLiteral("United States of America")), 2);
+        QCOMPARE(tips.count(QStringLiteral("United States")), 2);
 
         // The rules pane shows it after the protocol; a filter tests it.
         auto* servers = w.find<ReportView>("lstServerList");
@@ -154,15 +154,20 @@ private slots:
             return column;
         };
         clickTitle(servers, ServerListModel::Country);
-        QCOMPARE(countries(), (QStringList{3, QStringLiteral("Germany")} +
-                               QStringList{2, QStringLiteral("United States of America")}));
+        QCOMPARE(countries(),
+                 (QStringList{3, QStringLiteral("Germany")} + QStringList{2, QStringLiteral("United States")}));
         clickTitle(servers, ServerListModel::Country);
-        QCOMPARE(countries().first(), QStringLiteral("United States of America"));
+        QCOMPARE(countries().first(), QStringLiteral("United States"));
         QCOMPARE(w.settings().get(u"SSortKey"), QStringLiteral("8"));
         const QStringList cells = copiedRow(w, 0);
         QCOMPARE(cells.size(), 9);
-        QCOMPARE(cells.at(7), QStringLiteral("United States of America"));
+        QCOMPARE(cells.at(7), QStringLiteral("United States"));
         QVERIFY(cells.last().startsWith(QStringLiteral("127.0.0.9:")));
+        // The names follow the interface language.
+        QVERIFY(w.language.apply(2)); // German
+        QTRY_COMPARE(countries().first(), QStringLiteral("Vereinigte Staaten"));
+        QCOMPARE(list->index(4, ServerListModel::Name).data(Qt::ToolTipRole).toString(), QStringLiteral("Deutschland"));
+        QVERIFY(w.language.apply(0));
 
         toggleFromHeaderMenu(servers);
         QVERIFY(header->isSectionHidden(ServerListModel::Country));
