@@ -12,8 +12,7 @@
 struct ListColumn {
     const char* caption; // English (UK) source text, translated in context "ListColumns"
     int designWidth;     // pixels on a first start
-    // Hidden until the user shows it from the header's menu; the lists'
-    // documented columns are never optional.
+    // Hidden until the user shows it from the header's menu.
     bool optional = false;
 };
 
