@@ -76,13 +76,7 @@ struct Listed : RunningFleet, TestWindow {
     }
     int serverRow(int server) const { return rowOf(servers(), ServerListModel::Address, address(server)); }
     int marks(ReportView* view, int row) const { return view->model()->index(row, 0).data(RowMarks::Role).toInt(); }
-    QStringList addressesShown() const
-    {
-        QStringList shown;
-        for (int row = 0; row < servers()->model()->rowCount(); ++row)
-            shown.append(servers()->model()->index(row, ServerListModel::Address).data().toString());
-        return shown;
-    }
+    QStringList addressesShown() const { return column("lstServerList", ServerListModel::Address); }
     void clickRow(ReportView* view, int row, Qt::MouseButton button = Qt::LeftButton) const
     {
         const QPoint at = view->visualRect(view->model()->index(row, 0)).center();

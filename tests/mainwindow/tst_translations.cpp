@@ -22,8 +22,8 @@
 #include <QLabel>
 #include <QRegularExpression>
 #include <QSet>
-#include <QStyle>
 #include <QStackedWidget>
+#include <QStyle>
 #include <QTabBar>
 #include <QTabWidget>
 #include <QTemporaryDir>
@@ -249,12 +249,11 @@ private slots:
                                  2 * header->style()->pixelMetric(QStyle::PM_HeaderMargin, nullptr, header);
                     if (header->isSortIndicatorShown() && header->sortIndicatorSection() == column)
                         needed += header->style()->pixelMetric(QStyle::PM_HeaderMarkSize, nullptr, header);
-                    QVERIFY2(header->sectionSize(column) >= needed,
-                             qPrintable(QStringLiteral("%1: %2 \"%3\" %4 < %5")
-                                            .arg(index)
-                                            .arg(list->objectName(), title)
-                                            .arg(header->sectionSize(column))
-                                            .arg(needed)));
+                    QVERIFY2(header->sectionSize(column) >= needed, qPrintable(QStringLiteral("%1: %2 \"%3\" %4 < %5")
+                                                                                   .arg(index)
+                                                                                   .arg(list->objectName(), title)
+                                                                                   .arg(header->sectionSize(column))
+                                                                                   .arg(needed)));
                 }
             }
         }

@@ -61,30 +61,6 @@ private slots:
         QCOMPARE(session.droppedDatagrams(), 0);
     }
 
-    void silentMasterTimesOutAndARetryWorks()
-    {
-        SimFleet fleet(fleetOf(5, TestPorts::at(401)));
-        QVERIFY(!fleet.start());
-        fleet.setMasterSilent(true);
-        QuerySession session;
-        session.setPool({1, PoolPort});
-        QSignalSpy timedOut(&session, &QuerySession::masterTimedOut);
-        QSignalSpy finished(&session, &QuerySession::finished);
-        QElapsedTimer clock;
-        clock.start();
-        QVERIFY(!session.startMaster(masterAt(TestPorts::at(401))));
-        QTRY_COMPARE_WITH_TIMEOUT(timedOut.count(), 1, 4000);
-        QVERIFY(clock.elapsed() >= MasterQuery::TimeoutMs - 50);
-        QVERIFY(!session.isRunning());
-        QCOMPARE(finished.count(), 0);
-
-        fleet.setMasterSilent(false);
-        QVERIFY(!session.startMaster(masterAt(TestPorts::at(401))));
-        QTRY_COMPARE_WITH_TIMEOUT(finished.count(), 1, 4000);
-        QCOMPARE(session.addresses().count(), 5);
-        QCOMPARE(fleet.masterRequests(), 2);
-    }
-
     void fullLastDatagramWaitsForTheTimeOut()
     {
         SimFleet fleet(fleetOf(1, TestPorts::at(501)));
@@ -244,27 +220,6 @@ private slots:
                             QHostAddress::LocalHost, session.masterLocalPort());
         QTRY_COMPARE(session.droppedDatagrams(), 1);
         QTRY_COMPARE_WITH_TIMEOUT(timedOut.count(), 1, 4000);
-    }
-
-    void favouritesRunWithoutTheMaster()
-    {
-        SimFleet fleet(fleetOf(3, TestPorts::at(901)));
-        QVERIFY(!fleet.start());
-        AddressTable table;
-        table.add(QStringLiteral("localhost"), TestPorts::at(902), QStringLiteral("by name"));
-        table.add(QStringLiteral("127.0.0.1"), TestPorts::at(903));
-        QuerySession session;
-        session.setPool({1, PoolPort});
-        QSignalSpy answered(&session, &QuerySession::serverAnswered);
-        QSignalSpy finished(&session, &QuerySession::finished);
-        QVERIFY(!session.startAddresses(table));
-        QTRY_COMPARE_WITH_TIMEOUT(finished.count(), 1, 4000);
-        QCOMPARE(answered.count(), 2);
-        QCOMPARE(fleet.masterRequests(), 0);
-        QStringList addresses;
-        for (const auto& arguments : answered)
-            addresses.append(arguments.at(0).value<ServerRecord>().endpointText());
-        QVERIFY(addresses.contains(QStringLiteral("localhost:%1").arg(TestPorts::at(902))));
     }
 };
 

@@ -83,6 +83,14 @@ public:
         QAbstractItemModel* model = visible(name);
         return model->data(model->index(row, column)).toString();
     }
+    // Every cell of a column, top to bottom, as the list shows them now.
+    QStringList column(const char* name, int column) const
+    {
+        QStringList cells;
+        for (int row = 0; row < visible(name)->rowCount(); ++row)
+            cells.append(cell(name, row, column));
+        return cells;
+    }
 
     bool show()
     {
