@@ -29,6 +29,8 @@ struct Run {
 };
 
 // Runs the tool while this process's event loop keeps the fleet answering.
+const QString Start = QString::number(StartPort);
+
 Run runTool(const QStringList& arguments, const QString& home)
 {
     QProcess process;
@@ -48,6 +50,7 @@ class TestQueryTool final : public QObject {
     Q_OBJECT
 
     QTemporaryDir m_home;
+    Run runTool(const QStringList& arguments) const { return ::runTool(arguments, m_home.path()); }
 
 private slots:
     void jsonReportKeepsEveryByte()
@@ -92,10 +95,8 @@ private slots:
         // Placed by a location database that puts 127.0.0.1 in Germany.
         const QString countries = m_home.filePath(QStringLiteral("loopback.db"));
         QVERIFY(writeLoopbackCountries(countries));
-        const Run run = runTool({QStringLiteral("--master"), TestPorts::local(1), QStringLiteral("--start-port"),
-                                 QString::number(StartPort), QStringLiteral("--format"), QStringLiteral("json"),
-                                 QStringLiteral("--country-database"), countries},
-                                m_home.path());
+        const Run run = runTool({"--master", TestPorts::local(1), "--start-port", Start, "--format", "json",
+                                 "--country-database", countries});
         QCOMPARE(run.exitCode, 0);
         const QJsonObject document = QJsonDocument::fromJson(run.out).object();
         QCOMPARE(document[QStringLiteral("addresses")].toInt(), 30);
@@ -135,11 +136,8 @@ private slots:
             known, {KnownServers::Server{QStringLiteral("127.0.0.1"), TestPorts::at(254), {}, 1, 0},
                     KnownServers::Server{QStringLiteral("127.0.0.1"), TestPorts::at(302), {}, 1, 0}}));
         const Run run =
-            runTool({QStringLiteral("--master"), TestPorts::local(251), QStringLiteral("--master"),
-                     TestPorts::local(301), QStringLiteral("--list-url"), web.url(QStringLiteral("/q4.txt")).toString(),
-                     QStringLiteral("--known"), known, QStringLiteral("--start-port"), QString::number(StartPort),
-                     QStringLiteral("--format"), QStringLiteral("json")},
-                    m_home.path());
+            runTool({"--master", TestPorts::local(251), "--master", TestPorts::local(301), "--list-url",
+                     web.url("/q4.txt").toString(), "--known", known, "--start-port", Start, "--format", "json"});
         QCOMPARE(run.exitCode, 0);
         const QJsonObject document = QJsonDocument::fromJson(run.out).object();
         const QJsonArray sources = document[QStringLiteral("sources")].toArray();
@@ -159,9 +157,7 @@ private slots:
         QCOMPARE(document[QStringLiteral("addresses")].toInt(), 8);
         QCOMPARE(document[QStringLiteral("answered")].toInt(), 8);
 
-        const Run text = runTool({QStringLiteral("--master"), TestPorts::local(301), QStringLiteral("--known"), known,
-                                  QStringLiteral("--start-port"), QString::number(StartPort)},
-                                 m_home.path());
+        const Run text = runTool({"--master", TestPorts::local(301), "--known", known, "--start-port", Start});
         QCOMPARE(text.exitCode, 0);
         QVERIFY(text.out.contains(
             QStringLiteral("master %1: 5 addresses, 0 skipped\n").arg(TestPorts::local(301)).toLatin1()));
@@ -218,53 +214,39 @@ private slots:
         SimFleet lan(options);
         if (const auto error = lan.start())
             QSKIP(qPrintable(QStringLiteral("the game ports are taken here: %1").arg(*error)));
-        const Run run = runTool({QStringLiteral("--lan"), QStringLiteral("--broadcast"), QStringLiteral("127.0.0.1"),
-                                 QStringLiteral("--start-port"), QString::number(StartPort), QStringLiteral("--format"),
-                                 QStringLiteral("json")},
-                                m_home.path());
+        const Run run = runTool({"--lan", "--broadcast", "127.0.0.1", "--start-port", Start, "--format", "json"});
         QCOMPARE(run.exitCode, 0);
         const QJsonObject document = QJsonDocument::fromJson(run.out).object();
         QCOMPARE(document[QStringLiteral("servers")].toArray().size(), 2);
         QCOMPARE(document[QStringLiteral("sources")].toArray().first().toObject()[QStringLiteral("kind")].toString(),
                  QStringLiteral("lan"));
-        QCOMPARE(
-            runTool({QStringLiteral("--lan"), QStringLiteral("--master"), QStringLiteral("x")}, m_home.path()).exitCode,
-            2);
-        QCOMPARE(runTool({QStringLiteral("--lan"), QStringLiteral("--broadcast"), QStringLiteral("::1")}, m_home.path())
-                     .exitCode,
-                 2);
-        QCOMPARE(runTool({QStringLiteral("--list-url"), QStringLiteral("ftp://x/y")}, m_home.path()).exitCode, 2);
+        QCOMPARE(runTool({"--lan", "--master", "x"}).exitCode, 2);
+        QCOMPARE(runTool({"--lan", "--broadcast", "::1"}).exitCode, 2);
+        QCOMPARE(runTool({"--list-url", "ftp://x/y"}).exitCode, 2);
     }
 
     void exitCodes()
     {
-        QCOMPARE(runTool({QStringLiteral("--speed"), QStringLiteral("9")}, m_home.path()).exitCode, 2);
-        QCOMPARE(runTool({QStringLiteral("--server"), QStringLiteral("nohost")}, m_home.path()).exitCode, 2);
-        QCOMPARE(runTool({QStringLiteral("--format"), QStringLiteral("xml")}, m_home.path()).exitCode, 2);
-        const Run six = runTool({QStringLiteral("--server"), QStringLiteral("[::1]:27960")}, m_home.path());
+        QCOMPARE(runTool({"--speed", "9"}).exitCode, 2);
+        QCOMPARE(runTool({"--server", "nohost"}).exitCode, 2);
+        QCOMPARE(runTool({"--format", "xml"}).exitCode, 2);
+        const Run six = runTool({"--server", "[::1]:27960"});
         QCOMPARE(six.exitCode, 2);
         QVERIFY(six.err.contains("IPv6 servers are not supported"));
 
         QUdpSocket squatter;
         QVERIFY(squatter.bind(QHostAddress::AnyIPv4, StartPort));
-        const Run busy = runTool({QStringLiteral("--server"), TestPorts::local(101), QStringLiteral("--start-port"),
-                                  QString::number(StartPort)},
-                                 m_home.path());
+        const Run busy = runTool({"--server", TestPorts::local(101), "--start-port", Start});
         QCOMPARE(busy.exitCode, 3);
         QVERIFY(busy.err.contains(QByteArray::number(StartPort)));
         squatter.close();
 
         // Nobody answers on this master port: the master times out.
-        const Run silent = runTool({QStringLiteral("--master"), TestPorts::local(201), QStringLiteral("--start-port"),
-                                    QString::number(StartPort)},
-                                   m_home.path());
+        const Run silent = runTool({"--master", TestPorts::local(201), "--start-port", Start});
         QCOMPARE(silent.exitCode, 1);
         QVERIFY(silent.err.contains("Timed Out"));
         // JSON is a document whatever happened: the source says why.
-        const Run silentJson =
-            runTool({QStringLiteral("--master"), TestPorts::local(201), QStringLiteral("--start-port"),
-                     QString::number(StartPort), QStringLiteral("--format"), QStringLiteral("json")},
-                    m_home.path());
+        const Run silentJson = runTool({"--master", TestPorts::local(201), "--start-port", Start, "--format", "json"});
         QCOMPARE(silentJson.exitCode, 1);
         const QJsonObject document = QJsonDocument::fromJson(silentJson.out).object();
         QCOMPARE(document[QStringLiteral("sources")].toArray().at(0)[QStringLiteral("error")].toString(),
@@ -277,9 +259,7 @@ private slots:
         file.close();
         QElapsedTimer clock;
         clock.start();
-        const Run none =
-            runTool({QStringLiteral("--favourites"), empty, QStringLiteral("--start-port"), QString::number(StartPort)},
-                    m_home.path());
+        const Run none = runTool({"--favourites", empty, "--start-port", Start});
         QCOMPARE(none.exitCode, 4);
         QVERIFY(none.err.contains("no favourites in"));
         QVERIFY(clock.elapsed() < 5000);
