@@ -37,89 +37,26 @@ private slots:
         QTest::addColumn<QString>("serverColours");
         QTest::addColumn<QString>("playerText");
         QTest::addColumn<QString>("playerColours");
-        QTest::newRow("empty") << ""
-                               << ""
-                               << ""
-                               << ""
-                               << ""
-                               << ""
-                               << "";
-        QTest::newRow("lone caret") << "^"
-                                    << "^"
-                                    << "^^"
-                                    << "^^"
-                                    << "WW"
-                                    << "^"
-                                    << "W";
-        QTest::newRow("two carets") << "^^"
-                                    << "^^"
-                                    << "^^^"
-                                    << "^^^"
-                                    << "WWW"
-                                    << "^^"
-                                    << "WW";
-        QTest::newRow("three then code") << "^^^1ab"
-                                         << "^^ab"
-                                         << "^b"
-                                         << "^b"
-                                         << "WR"
-                                         << "^^ab"
-                                         << "WWRR";
-        QTest::newRow("two then two") << "^^12ab"
-                                      << "^2ab"
-                                      << "ab"
-                                      << "ab"
-                                      << "RR"
-                                      << "^2ab"
-                                      << "WRRR";
-        QTest::newRow("letter code") << "^aX"
-                                     << "X"
-                                     << "X"
-                                     << "X"
-                                     << "R"
-                                     << "X"
-                                     << "R";
-        QTest::newRow("white") << "^7Hello"
-                               << "Hello"
-                               << "Hello"
-                               << "Hello"
-                               << "WWWWW"
-                               << "Hello"
-                               << "WWWWW";
-        QTest::newRow("zero alone") << "^0X"
-                                    << "X"
-                                    << "X"
-                                    << "X"
-                                    << "K"
-                                    << "X"
-                                    << "W";
-        QTest::newRow("zero after caret") << "^^0X"
-                                          << "^X"
-                                          << ""
-                                          << ""
-                                          << ""
-                                          << "^X"
-                                          << "WK";
-        QTest::newRow("high character") << QStringLiteral("^1aé") << QStringLiteral("aé") << QStringLiteral("aé")
-                                        << QStringLiteral("aé") << "RK" << QStringLiteral("aé") << "RW";
-        QTest::newRow("SOH") << "^2a\x01"
-                                "b"
-                             << "a\x01"
-                                "b"
-                             << "ab"
-                             << "a\x01"
-                                "b"
-                             << "GGG"
-                             << "a\x01"
-                                "b"
-                             << "GGG";
-        QTest::newRow("trailing caret") << "^4ab^"
-                                        << "ab^"
-                                        << "ab^^"
-                                        << "ab^^"
-                                        << "BBBB"
-                                        << "ab^"
-                                        << "BBB";
+        // name, coded, pairwise, counted, server text and colours, player text and colours
+        const auto row = [](const char* name, const char* coded, const char* pairwise, const char* counted,
+                            const char* serverText, const char* serverColours, const char* playerText,
+                            const char* playerColours) {
+            QTest::newRow(name) << QString::fromUtf8(coded) << QString::fromUtf8(pairwise) << QString::fromUtf8(counted)
+                                << QString::fromUtf8(serverText) << serverColours << QString::fromUtf8(playerText)
+                                << playerColours;
+        };
+        row("empty", "", "", "", "", "", "", "");
+        row("lone caret", "^", "^", "^^", "^^", "WW", "^", "W");
+        row("two carets", "^^", "^^", "^^^", "^^^", "WWW", "^^", "WW");
+        row("three then code", "^^^1ab", "^^ab", "^b", "^b", "WR", "^^ab", "WWRR");
+        row("two then two", "^^12ab", "^2ab", "ab", "ab", "RR", "^2ab", "WRRR");
+        row("letter code", "^aX", "X", "X", "X", "R", "X", "R");
+        row("white", "^7Hello", "Hello", "Hello", "Hello", "WWWWW", "Hello", "WWWWW");
+        row("zero alone", "^0X", "X", "X", "X", "K", "X", "W");
+        row("zero after caret", "^^0X", "^X", "", "", "", "^X", "WK");
+        row("high character", "^1aé", "aé", "aé", "aé", "RK", "aé", "RW");
+        row("SOH", "^2a\u0001b", "a\u0001b", "ab", "a\u0001b", "GGG", "a\u0001b", "GGG");
+        row("trailing caret", "^4ab^", "ab^", "ab^^", "ab^^", "BBBB", "ab^", "BBB");
     }
     void allFourOperations()
     {

@@ -15,22 +15,16 @@ private slots:
         QTest::addColumn<int>("speed");
         QTest::addColumn<QString>("start");
         QTest::addColumn<QString>("end");
-        QTest::newRow("default") << "9000" << 5 << "9000"
-                                 << "9022";
-        QTest::newRow("dial up") << "9000" << 0 << "9000"
-                                 << "9004";
-        QTest::newRow("each speed's step") << "9000" << 3 << "9000"
-                                           << "9014";
-        QTest::newRow("letter typed last") << "9a" << 5 << "9"
-                                           << "31";
-        QTest::newRow("letter inside stays") << "12x4" << 5 << "12x4"
-                                             << "34";
-        QTest::newRow("above the cap") << "70000" << 5 << "65512"
-                                       << "65534";
-        QTest::newRow("empty") << "" << 5 << ""
-                               << "";
-        QTest::newRow("only a letter") << "x" << 5 << ""
-                                       << "";
+        // clang-format off
+        QTest::newRow("default") << "9000" << 5 << "9000" << "9022";
+        QTest::newRow("dial up") << "9000" << 0 << "9000" << "9004";
+        QTest::newRow("each speed's step") << "9000" << 3 << "9000" << "9014";
+        QTest::newRow("letter typed last") << "9a" << 5 << "9" << "31";
+        QTest::newRow("letter inside stays") << "12x4" << 5 << "12x4" << "34";
+        QTest::newRow("above the cap") << "70000" << 5 << "65512" << "65534";
+        QTest::newRow("empty") << "" << 5 << "" << "";
+        QTest::newRow("only a letter") << "x" << 5 << "" << "";
+        // clang-format on
     }
     void startPortRule()
     {

@@ -17,24 +17,17 @@ private slots:
     {
         QTest::addColumn<QString>("address");
         QTest::addColumn<QString>("country");
-        QTest::newRow("first of a network") << "127.0.0.0"
-                                            << "DE";
-        QTest::newRow("last of it") << "127.0.0.7"
-                                    << "DE";
-        QTest::newRow("the next network") << "127.0.0.8"
-                                          << "US";
-        QTest::newRow("a wider one") << "127.0.0.31"
-                                     << "RU";
-        QTest::newRow("just past it") << "127.0.0.32"
-                                      << "";
-        QTest::newRow("another /24") << "127.0.1.200"
-                                     << "FR";
-        QTest::newRow("nowhere") << "10.1.2.3"
-                                 << "";
-        QTest::newRow("IPv6 not placed") << "2001:db8::1"
-                                         << "";
-        QTest::newRow("no address") << ""
-                                    << "";
+        // clang-format off
+        QTest::newRow("first of a network") << "127.0.0.0" << "DE";
+        QTest::newRow("last of it") << "127.0.0.7" << "DE";
+        QTest::newRow("the next network") << "127.0.0.8" << "US";
+        QTest::newRow("a wider one") << "127.0.0.31" << "RU";
+        QTest::newRow("just past it") << "127.0.0.32" << "";
+        QTest::newRow("another /24") << "127.0.1.200" << "FR";
+        QTest::newRow("nowhere") << "10.1.2.3" << "";
+        QTest::newRow("IPv6 not placed") << "2001:db8::1" << "";
+        QTest::newRow("no address") << "" << "";
+        // clang-format on
     }
     void addressesArePlacedByTheirNetwork()
     {

@@ -191,16 +191,13 @@ private slots:
     {
         QTest::addColumn<QString>("file");
         QTest::addColumn<QString>("protocol");
-        QTest::newRow("1.0") << "info-2.62.bin"
-                             << "2.62";
-        QTest::newRow("1.4.1") << "info-2.77.bin"
-                               << "2.77";
-        QTest::newRow("1.4.2") << "info-2.85.bin"
-                               << "2.85";
-        QTest::newRow("1.4.2 demo") << "info-2.86.bin"
-                                    << "2.86";
-        QTest::newRow("foreign challenge") << "info-2.85-foreign-challenge.bin"
-                                           << "2.85";
+        // clang-format off
+        QTest::newRow("1.0") << "info-2.62.bin" << "2.62";
+        QTest::newRow("1.4.1") << "info-2.77.bin" << "2.77";
+        QTest::newRow("1.4.2") << "info-2.85.bin" << "2.85";
+        QTest::newRow("1.4.2 demo") << "info-2.86.bin" << "2.86";
+        QTest::newRow("foreign challenge") << "info-2.85-foreign-challenge.bin" << "2.85";
+        // clang-format on
     }
     // Replies as the releases send them: the header with the challenge and
     // the version, and after the last player the client number 32 and a

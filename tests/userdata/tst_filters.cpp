@@ -31,52 +31,31 @@ private slots:
         QTest::addColumn<QString>("text");
         QTest::addColumn<QString>("pattern");
         QTest::addColumn<bool>("matches");
-        QTest::newRow("literal") << "q4dm5"
-                                 << "q4dm5" << true;
-        QTest::newRow("whole text only") << "q4dm55"
-                                         << "q4dm5" << false;
-        QTest::newRow("star at end") << "mp/q4dm7"
-                                     << "mp/q4dm*" << true;
-        QTest::newRow("star matches none") << "mp/q4dm"
-                                           << "mp/q4dm*" << true;
-        QTest::newRow("star inside") << "si_maxplayers"
-                                     << "si_*players" << true;
-        QTest::newRow("star backtracks") << "abcbcd"
-                                         << "a*bcd" << true;
-        QTest::newRow("two stars") << "xaybz"
-                                   << "*a*b*" << true;
-        QTest::newRow("question mark") << "q4dm1"
-                                       << "q4dm?" << true;
-        QTest::newRow("question mark needs one") << "q4dm"
-                                                 << "q4dm?" << false;
-        QTest::newRow("hash is a digit") << "q4dm7"
-                                         << "q4dm#" << true;
-        QTest::newRow("hash not a letter") << "q4dmx"
-                                           << "q4dm#" << false;
-        QTest::newRow("set") << "b"
-                             << "[abc]" << true;
-        QTest::newRow("not in set") << "d"
-                                    << "[abc]" << false;
-        QTest::newRow("range") << "q4dm3"
-                               << "q4dm[1-4]" << true;
-        QTest::newRow("out of range") << "q4dm5"
-                                      << "q4dm[1-4]" << false;
-        QTest::newRow("negated set") << "d"
-                                     << "[!abc]" << true;
-        QTest::newRow("negated set excludes") << "a"
-                                              << "[!abc]" << false;
-        QTest::newRow("negated range") << "5"
-                                       << "[!0-4]" << true;
-        QTest::newRow("set then star") << "ctf2"
-                                       << "[ct]*" << true;
-        QTest::newRow("unclosed bracket is literal") << "[ab"
-                                                     << "[ab" << true;
-        QTest::newRow("empty pattern, empty text") << ""
-                                                   << "" << true;
-        QTest::newRow("empty pattern") << "x"
-                                       << "" << false;
-        QTest::newRow("star alone, empty text") << ""
-                                                << "*" << true;
+        // clang-format off
+        QTest::newRow("literal") << "q4dm5" << "q4dm5" << true;
+        QTest::newRow("whole text only") << "q4dm55" << "q4dm5" << false;
+        QTest::newRow("star at end") << "mp/q4dm7" << "mp/q4dm*" << true;
+        QTest::newRow("star matches none") << "mp/q4dm" << "mp/q4dm*" << true;
+        QTest::newRow("star inside") << "si_maxplayers" << "si_*players" << true;
+        QTest::newRow("star backtracks") << "abcbcd" << "a*bcd" << true;
+        QTest::newRow("two stars") << "xaybz" << "*a*b*" << true;
+        QTest::newRow("question mark") << "q4dm1" << "q4dm?" << true;
+        QTest::newRow("question mark needs one") << "q4dm" << "q4dm?" << false;
+        QTest::newRow("hash is a digit") << "q4dm7" << "q4dm#" << true;
+        QTest::newRow("hash not a letter") << "q4dmx" << "q4dm#" << false;
+        QTest::newRow("set") << "b" << "[abc]" << true;
+        QTest::newRow("not in set") << "d" << "[abc]" << false;
+        QTest::newRow("range") << "q4dm3" << "q4dm[1-4]" << true;
+        QTest::newRow("out of range") << "q4dm5" << "q4dm[1-4]" << false;
+        QTest::newRow("negated set") << "d" << "[!abc]" << true;
+        QTest::newRow("negated set excludes") << "a" << "[!abc]" << false;
+        QTest::newRow("negated range") << "5" << "[!0-4]" << true;
+        QTest::newRow("set then star") << "ctf2" << "[ct]*" << true;
+        QTest::newRow("unclosed bracket is literal") << "[ab" << "[ab" << true;
+        QTest::newRow("empty pattern, empty text") << "" << "" << true;
+        QTest::newRow("empty pattern") << "x" << "" << false;
+        QTest::newRow("star alone, empty text") << "" << "*" << true;
+        // clang-format on
     }
     void patterns()
     {

@@ -41,21 +41,13 @@ private slots:
         QTest::addColumn<QString>("pattern");
         QTest::addColumn<QString>("other");
 
-        QTest::newRow("plain") << "Quad"
-                               << "Quad"
-                               << "Quad2";
-        QTest::newRow("star") << "*"
-                              << "[*]"
-                              << "anybody";
-        QTest::newRow("question") << "who?"
-                                  << "who[?]"
-                                  << "whom";
-        QTest::newRow("hash") << "#1"
-                              << "[#]1"
-                              << "21";
-        QTest::newRow("bracket") << "[UFO]x"
-                                 << "[[]UFO]x"
-                                 << "Ux";
+        // clang-format off
+        QTest::newRow("plain") << "Quad" << "Quad" << "Quad2";
+        QTest::newRow("star") << "*" << "[*]" << "anybody";
+        QTest::newRow("question") << "who?" << "who[?]" << "whom";
+        QTest::newRow("hash") << "#1" << "[#]1" << "21";
+        QTest::newRow("bracket") << "[UFO]x" << "[[]UFO]x" << "Ux";
+        // clang-format on
     }
     void patternForMatchesExactlyThatName()
     {
