@@ -56,7 +56,7 @@ int mapscan(const QString& folder)
     const GameFiles::Index index = GameFiles::indexFolder(folder);
     const qint64 ms = clock.elapsed();
     qint64 bytes = 0;
-    for (const QFileInfo& archive : QDir(folder).entryInfoList({QStringLiteral("*.pk4")}, QDir::Files))
+    for (const QFileInfo& archive : QDir(folder).entryInfoList({"*.pk4"}, QDir::Files))
         bytes += archive.size();
     std::printf("mapscan: %s, %.0f MB of archives: %lld names in %lld ms (%lld unreadable)\n", qPrintable(folder),
                 bytes / 1048576.0, (long long)index.entries.size(), (long long)ms, (long long)index.unreadable.size());

@@ -67,8 +67,7 @@ int filter()
         ServerRecord record = InfoProtocol::parseReply(SimReplies::infoResponse(rules, fifteen)).value();
         record.address = QStringLiteral("127.0.0.1");
         record.port = 20000 + i;
-        static const QStringList codes{QStringLiteral("DE"), QStringLiteral("US"), QStringLiteral("RU"),
-                                       QStringLiteral("FR"), QStringLiteral("GB"), QStringLiteral("PL")};
+        static const QStringList codes{"DE", "US", "RU", "FR", "GB", "PL"};
         record.country = codes.at(i % codes.size());
         records.append(record);
     }
@@ -94,8 +93,7 @@ int filter()
     playerView.show();
     QCoreApplication::processEvents();
 
-    const QList<Filters::VariableFilter> rules[] = {
-        {{QStringLiteral("si_map"), QStringLiteral("q4dm*")}}, {{QStringLiteral("si_*"), QStringLiteral("*7")}}, {}};
+    const QList<Filters::VariableFilter> rules[] = {{{"si_map", "q4dm*"}}, {{"si_*", "*7"}}, {}};
     qint64 worst = 0;
     for (const auto& rule : rules) {
         QElapsedTimer clock;

@@ -124,8 +124,7 @@ QueryResult runQuery(int speed, const SimFleet* direct = nullptr)
     }
     const long long cpuBefore = SystemLimits::threadCpuMicroseconds();
     clock.start();
-    const auto error =
-        direct ? session.startAddresses(table) : session.startMaster(MasterAddress{QStringLiteral("127.0.0.1"), 19999});
+    const auto error = direct ? session.startAddresses(table) : session.startMaster(MasterAddress{"127.0.0.1", 19999});
     if (error)
         qFatal("%s", qPrintable(error->message()));
     QCoreApplication::exec();
@@ -274,7 +273,7 @@ int window(int delayMs, int servers)
         clock.start();
         beat.start();
         heartbeat.start();
-        main.findChild<QPushButton*>(QStringLiteral("cmdGet"))->click();
+        main.findChild<QPushButton*>("cmdGet")->click();
     });
     QCoreApplication::exec();
     std::printf("window: %d servers, %d players listed in %lld ms; longest event-loop stall %lld ms "

@@ -86,7 +86,7 @@ Times oneQuery(int run)
     poll.start(1);
     QTimer::singleShot(500, [&] {
         clock.start();
-        main.findChild<QPushButton*>(QStringLiteral("cmdGet"))->click();
+        main.findChild<QPushButton*>("cmdGet")->click();
     });
     QTimer::singleShot(15000, &QCoreApplication::quit);
     QCoreApplication::exec();

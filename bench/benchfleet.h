@@ -25,7 +25,6 @@ inline QStringList fiftyFriends()
     QStringList friends;
     for (int i = 0; i < 45; ++i)
         friends.append(QStringLiteral("Friend%1").arg(i));
-    friends += {QStringLiteral("*Hammer*"), QStringLiteral("[UFO]*"), QStringLiteral("Player7"),
-                QStringLiteral("Grim#"), QStringLiteral("?ail*")};
+    friends += {"*Hammer*", "[UFO]*", "Player7", "Grim#", "?ail*"};
     return friends;
 }

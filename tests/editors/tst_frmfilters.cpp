@@ -109,7 +109,7 @@ private slots:
         QCOMPARE(QApplication::focusWidget(), box);
         QTest::keyClicks(QApplication::focusWidget(), QStringLiteral("q4dm*"));
         QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
-        QCOMPARE(form.filters().at(0), (Filters::VariableFilter{QStringLiteral("si_map"), QStringLiteral("q4dm*")}));
+        QCOMPARE(form.filters().at(0), (Filters::VariableFilter{"si_map", "q4dm*"}));
         QCOMPARE(fileBytes(filtersPath()), QByteArray("si_map\x01q4dm*\r\n"));
     }
 

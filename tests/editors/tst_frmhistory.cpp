@@ -21,7 +21,7 @@ namespace {
 // Recently Played over a history of three servers, newest first.
 struct Recent {
     QTemporaryDir dir;
-    SettingsStore settings{dir.filePath(QStringLiteral("settings.ini"))};
+    SettingsStore settings{dir.filePath("settings.ini")};
     std::unique_ptr<FrmHistory> form;
 
     explicit Recent(const PlayHistory::List& entries = {{"10.0.0.2", 28004, "beta", 300},

@@ -52,7 +52,7 @@ struct Listed : RunningFleet, TestWindow {
             settings.save(Keys::CloseAfterJoin.key, QStringLiteral("0"));
             settings.save(Keys::Path.key, QStringLiteral("/opt/quake4/quake4.x86"));
             settings.save(Keys::AutoRefreshMinutes.key, QStringLiteral("5"));
-            settings.set(Keys::Friends, QStringList{QStringLiteral("Bob*")});
+            settings.set(Keys::Friends, QStringList{"Bob*"});
             if (more)
                 more(settings);
         })

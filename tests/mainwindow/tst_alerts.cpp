@@ -73,8 +73,8 @@ private slots:
         const QString address = QStringLiteral("10.0.0.1:28004");
         Alerts::Counts old;
         if (before >= 0)
-            old.insert(address, {QStringLiteral("Alpha"), before});
-        const Alerts::Counts now{{address, {QStringLiteral("Alpha"), after}}};
+            old.insert(address, {"Alpha", before});
+        const Alerts::Counts now{{address, {"Alpha", after}}};
         QCOMPARE(Alerts::reached(old, now, threshold), told ? QList<QString>{address} : QList<QString>{});
     }
 

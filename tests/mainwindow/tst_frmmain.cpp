@@ -199,7 +199,7 @@ private slots:
         auto* link = about.findChild<QLabel*>(QStringLiteral("lblHomePage"));
         QVERIFY(link->isVisible());
         QTest::mouseClick(link, Qt::LeftButton, {}, QPoint(8, link->height() / 2));
-        QCOMPARE(desktop.openedUrls, QList<QUrl>{QUrl(QStringLiteral("https://example.org/q4vantage"))});
+        QCOMPARE(desktop.openedUrls, QList<QUrl>{QUrl("https://example.org/q4vantage")});
         QCOMPARE(about.findChild<QLabel*>(QStringLiteral("lblLicence"))->text(), QStringLiteral("Licence: GPL-3.0"));
         FrmAbout plain(desktop, QUrl());
         QVERIFY(plain.findChild<QLabel*>(QStringLiteral("lblHomePage"))->isHidden());

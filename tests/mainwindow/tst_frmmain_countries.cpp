@@ -24,7 +24,7 @@ struct Spread {
     RunningFleet germany{fleetOf(3, TestPorts::at(1))};
     RunningFleet states{[] {
         FleetOptions options = fleetOf(2, TestPorts::at(101));
-        options.address = QHostAddress(QStringLiteral("127.0.0.9"));
+        options.address = QHostAddress("127.0.0.9");
         return options;
     }()};
 };
@@ -149,8 +149,7 @@ private slots:
         QAbstractItemModel* list = servers->model();
         const auto countries = [&w] { return w.column("lstServerList", ServerListModel::Country); };
         clickTitle(servers, ServerListModel::Country);
-        QCOMPARE(countries(),
-                 (QStringList{3, QStringLiteral("Germany")} + QStringList{2, QStringLiteral("United States")}));
+        QCOMPARE(countries(), (QStringList{3, "Germany"} + QStringList{2, "United States"}));
         clickTitle(servers, ServerListModel::Country);
         QCOMPARE(countries().first(), QStringLiteral("United States"));
         QCOMPARE(w.settings().get(u"SSortKey"), QStringLiteral("8"));

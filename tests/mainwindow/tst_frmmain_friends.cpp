@@ -22,7 +22,7 @@ private slots:
         auto* add = w.find<QMenu>("mPopupAlt")->findChild<QAction*>(QStringLiteral("mPopAddFriend"));
         QVERIFY(add->isVisible());
         add->trigger();
-        QCOMPARE(w.settings().value(Keys::Friends), (QStringList{QStringLiteral("Bob*"), QStringLiteral("Zed")}));
+        QCOMPARE(w.settings().value(Keys::Friends), (QStringList{"Bob*", "Zed"}));
         QCOMPARE(w.marks(w.playerList(), zed), int(RowMarks::Friend));
         QCOMPARE(w.marks(w.servers(), w.serverRow(0)), int(RowMarks::Friend));
         QCOMPARE(w.status(), QStringLiteral("Zed was added to your friends."));

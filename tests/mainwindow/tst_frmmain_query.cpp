@@ -372,10 +372,9 @@ private slots:
         SimFleet old(first);
         QVERIFY(!old.start());
         TestWindow w(TestPorts::at(801), StartPort);
-        QVERIFY(
-            KnownServers::writeFile(w.dataFile(QStringLiteral("servers.dat")),
-                                    {KnownServers::Server{QStringLiteral("127.0.0.1"), TestPorts::at(852), {}, 1, 0},
-                                     KnownServers::Server{QStringLiteral("127.0.0.1"), TestPorts::at(853), {}, 1, 0}}));
+        QVERIFY(KnownServers::writeFile(w.dataFile(QStringLiteral("servers.dat")),
+                                        {KnownServers::Server{"127.0.0.1", TestPorts::at(852), {}, 1, 0},
+                                         KnownServers::Server{"127.0.0.1", TestPorts::at(853), {}, 1, 0}}));
         QVERIFY(w.queryMasters());
         QCOMPARE(w.visible("lstServerList")->rowCount(), 8);
 

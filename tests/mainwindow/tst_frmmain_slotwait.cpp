@@ -17,8 +17,7 @@ private slots:
                  QStringLiteral("Full is full.\nWait for a free slot and join as soon as one opens?"));
         // The buttons say what they do.
         QCOMPARE(w.desktop.messages.last().buttonTexts,
-                 (Desktop::ButtonTexts{{QMessageBox::Yes, QStringLiteral("Wait for a Slot")},
-                                       {QMessageBox::No, QStringLiteral("Join Anyway")}}));
+                 (Desktop::ButtonTexts{{QMessageBox::Yes, "Wait for a Slot"}, {QMessageBox::No, "Join Anyway"}}));
         QVERIFY(w.window->slotWaiter().isWaiting());
         QVERIFY(w.button("cmdStopWaiting")->isVisible());
         QVERIFY(w.status().startsWith(QLatin1String("Full is full (2/2): waiting")));
@@ -47,7 +46,7 @@ private slots:
         // Found again in Recently Played, and queried from there. An older
         // entry is of a server that no longer answers.
         PlayHistory::List older = history;
-        older.append({QStringLiteral("127.0.0.1"), 9, QStringLiteral("Gone"), history.first().joinedAt - 60});
+        older.append({"127.0.0.1", 9, "Gone", history.first().joinedAt - 60});
         QVERIFY(PlayHistory::writeFile(w.dataFile(QStringLiteral("history.dat")), older));
         QTest::mouseClick(w.button("cmdRecent"), Qt::LeftButton);
         auto* recent = w.window->findChild<FrmHistory*>(QStringLiteral("frmHistory"));

@@ -51,8 +51,8 @@ private slots:
         const qint64 now = QDateTime::currentSecsSinceEpoch();
         const QString known = w.dataFile(QStringLiteral("servers.dat"));
         QVERIFY(KnownServers::writeFile(
-            known, {KnownServers::Server{QStringLiteral("127.0.0.1"), dead.servers().at(2).port, {}, now - 100, 0},
-                    KnownServers::Server{QStringLiteral("127.0.0.1"), alive.servers().at(0).port, {}, now - 100, 0}}));
+            known, {KnownServers::Server{"127.0.0.1", dead.servers().at(2).port, {}, now - 100, 0},
+                    KnownServers::Server{"127.0.0.1", alive.servers().at(0).port, {}, now - 100, 0}}));
 
         QSignalSpy statuses(&w.window->queries(), &QueryController::status);
         QTest::mouseClick(w.button("cmdGet"), Qt::LeftButton);
@@ -117,7 +117,7 @@ private slots:
         // line says at once why each master gave nothing, and where to turn.
         w.settings().save(Keys::QueryKnownServers.key, QStringLiteral("0"));
         w.settings().save(Keys::MasterServer.key, QStringLiteral("master.invalid,") + TestPorts::local(251));
-        HostLookup::setResolver([](const QString&) { return HostLookup::Result{{}, QStringLiteral("Unknown host")}; });
+        HostLookup::setResolver([](const QString&) { return HostLookup::Result{{}, "Unknown host"}; });
         w.desktop.messageAnswers.enqueue(QMessageBox::Cancel);
         QTest::mouseClick(w.button("cmdGet"), Qt::LeftButton);
         QTRY_COMPARE_WITH_TIMEOUT(w.desktop.messages.size(), 1, 6000);

@@ -20,9 +20,9 @@ ServerRecord server(const char* name, int ping, int players, int maxPlayers, QLi
     record.ping = ping;
     record.playerCount = qint16(players);
     record.maxPlayers = qint16(maxPlayers);
-    record.tokens = {QStringLiteral("si_name"), record.name};
+    record.tokens = {"si_name", record.name};
     for (int p : playerPings)
-        record.players.append(PlayerRecord{QString(), QStringLiteral("^1p") + QString::number(p), 0, 25000, p});
+        record.players.append(PlayerRecord{QString(), "^1p" + QString::number(p), 0, 25000, p});
     return record;
 }
 
@@ -76,7 +76,7 @@ private slots:
         const ServerRecord a = server("a", 1, 0, 16);
         const ServerRecord b = server("b", 2, 0, 16);
         lists.add({named(a, {"Ann", "Bo", "Cy", "Cy"}), named(b, {"Xe", "Yu"})});
-        lists.players.setFriends(Friends::Matcher({QStringLiteral("Bo"), QStringLiteral("Neo")}));
+        lists.players.setFriends(Friends::Matcher({"Bo", "Neo"}));
         lists.visiblePlayers.sortBy(PlayerListModel::Name, Qt::DescendingOrder);
         QVERIFY(lists.players.hasFriendOn(0));
         const QPersistentModelIndex yu = lists.visiblePlayers.index(0, 0);
@@ -152,7 +152,7 @@ private slots:
     {
         Lists lists;
         lists.add({server("keep", 10, 2, 8, {10, 20}), server("drop", 20, 1, 8, {30})});
-        lists.visibility.setRules({{QStringLiteral("si_name"), QStringLiteral("k*")}}, {});
+        lists.visibility.setRules({{"si_name", "k*"}}, {});
         lists.visibleServers.refilter();
         lists.visiblePlayers.refilter();
         QCOMPARE(lists.column(lists.visibleServers, ServerListModel::Name), QStringList{"keep"});
@@ -163,7 +163,7 @@ private slots:
         renamed.port = 27020;
         lists.servers.replace(1, renamed);
         lists.players.updateServers({1});
-        lists.visibility.setRules({{QStringLiteral("si_name"), QStringLiteral("k*")}}, {});
+        lists.visibility.setRules({{"si_name", "k*"}}, {});
         lists.visibleServers.refilter();
         lists.visiblePlayers.refilter();
         QCOMPARE(lists.column(lists.visibleServers, ServerListModel::Name), (QStringList{"keep", "kept"}));
@@ -173,9 +173,8 @@ private slots:
     {
         ServerPlayersModel players;
         QAbstractItemModelTester tester(&players, QAbstractItemModelTester::FailureReportingMode::QtTest);
-        players.setPlayers({PlayerRecord{QStringLiteral("^1[C]"), QStringLiteral("^2Bob"), 100, 9000, 45},
-                            PlayerRecord{QString(), QStringLiteral("amy"), 3, 25000, 45},
-                            PlayerRecord{QString(), QStringLiteral("Cid"), 12, 100, 5}});
+        players.setPlayers({PlayerRecord{"^1[C]", "^2Bob", 100, 9000, 45}, PlayerRecord{QString(), "amy", 3, 25000, 45},
+                            PlayerRecord{QString(), "Cid", 12, 100, 5}});
         QCOMPARE(players.index(0, ServerPlayersModel::Name).data().toString(), QStringLiteral("Bob"));
         QCOMPARE(players.index(0, ServerPlayersModel::Clan).data().toString(), QStringLiteral("[C]"));
         players.sort(ServerPlayersModel::Number, Qt::AscendingOrder);

@@ -44,7 +44,7 @@ private slots:
     void withAKeyringTheFileKeepsNoPassword()
     {
         m_settings->set(Keys::Password, QStringLiteral("old"));
-        m_settings->set(Keys::PasswordBox, QStringList{QStringLiteral("a"), QStringLiteral("b")});
+        m_settings->set(Keys::PasswordBox, QStringList{"a", "b"});
         {
             Run run(*m_settings, m_keyring);
             QCOMPARE(run.box.currentText(), QStringLiteral("old"));
@@ -68,8 +68,7 @@ private slots:
     // keyring answered, it is not overwritten by the keyring's text.
     void typingWinsAndIsStoredSoon()
     {
-        m_keyring.values.insert(PasswordKeeper::SecretKey.toString(),
-                                PasswordKeeper::encode({QStringLiteral("kept"), {QStringLiteral("kept")}}));
+        m_keyring.values.insert(PasswordKeeper::SecretKey.toString(), PasswordKeeper::encode({"kept", {"kept"}}));
         Run run(*m_settings, m_keyring);
         run.box.setEditText(QStringLiteral("typed"));
         QTest::qWait(0);

@@ -70,19 +70,19 @@ QMap<QString, QString> textsOf(QWidget* window)
 }
 
 // Words that are the same in the languages and in English.
-const QSet<QString> SameEverywhere{QStringLiteral("Quake 4 Vantage"),
-                                   QStringLiteral("OK"),
-                                   QStringLiteral("Ping"),
-                                   QStringLiteral("Clan"),
-                                   QStringLiteral("Variable"),
-                                   QStringLiteral("Server"),
-                                   QStringLiteral("ISDN (64k)"),
-                                   QStringLiteral("ISDN (128k)"),
-                                   QStringLiteral("Mod"),
-                                   QStringLiteral("-"),
+const QSet<QString> SameEverywhere{"Quake 4 Vantage",
+                                   "OK",
+                                   "Ping",
+                                   "Clan",
+                                   "Variable",
+                                   "Server",
+                                   "ISDN (64k)",
+                                   "ISDN (128k)",
+                                   "Mod",
+                                   "-",
                                    QStringLiteral("Version " Q4V_VERSION),
                                    QStringLiteral(Q4V_VERSION),
-                                   QStringLiteral("1.2.3")};
+                                   "1.2.3"};
 
 // And the words one language shares with English (the Dutch and Portuguese
 // "Query Masters" are quoted as written).
@@ -90,17 +90,15 @@ QSet<QString> sameIn(int language)
 {
     switch (language) {
     case 2:
-        return {QStringLiteral("Standard"),   QStringLiteral("Rate"),       QStringLiteral("Name:"),
-                QStringLiteral("DSL (256k)"), QStringLiteral("DSL (512k)"), QStringLiteral("Filter")};
+        return {"Standard", "Rate", "Name:", "DSL (256k)", "DSL (512k)", "Filter"};
     case 3:
-        return {QStringLiteral("Options"), QStringLiteral("Type")};
+        return {"Options", "Type"};
     case 4:
-        return {QStringLiteral("Password"), QStringLiteral("Password:"), QStringLiteral("Pw"), QStringLiteral("No")};
+        return {"Password", "Password:", "Pw", "No"};
     case 5:
-        return {QStringLiteral("Filters"), QStringLiteral("Servers"), QStringLiteral("Rate"),
-                QStringLiteral("Query Masters")};
+        return {"Filters", "Servers", "Rate", "Query Masters"};
     case 6:
-        return {QStringLiteral("Query Masters")};
+        return {"Query Masters"};
     default:
         return {};
     }
@@ -115,7 +113,7 @@ class TestTranslations final : public QObject {
 
     struct Windows {
         QTemporaryDir dir;
-        SettingsStore settings{dir.filePath(QStringLiteral("settings.ini"))};
+        SettingsStore settings{dir.filePath("settings.ini")};
         ScriptedDesktop desktop;
         Language language;
         FrmMain main{settings, desktop, language, dir.path()};
@@ -125,8 +123,8 @@ class TestTranslations final : public QObject {
         FrmFilters filters{settings, dir.path()};
         FrmHistory history{settings, dir.path()};
         FrmAbout about{desktop, QUrl()};
-        FrmUpdate update{settings, {QStringLiteral("1"), QStringLiteral("2"), QStringLiteral("3")}};
-        FrmDownload download{desktop, {QStringLiteral("1"), QStringLiteral("2"), QStringLiteral("3")}};
+        FrmUpdate update{settings, {"1", "2", "3"}};
+        FrmDownload download{desktop, {"1", "2", "3"}};
 
         QMap<QString, QString> texts()
         {

@@ -213,7 +213,7 @@ private slots:
 
     void theFriendsTabKeepsFriendsRefreshAndNotifications()
     {
-        m_settings->set(Keys::Friends, QStringList{QStringLiteral("Bob*")});
+        m_settings->set(Keys::Friends, QStringList{"Bob*"});
         m_settings->save(Keys::AutoRefreshMinutes.key, QStringLiteral("7")); // typed into the file by hand
         open();
         find<QTabWidget>("tabOptions")->setCurrentIndex(FrmOptions::FriendsTabIndex);
@@ -247,7 +247,7 @@ private slots:
         QTest::keyClicks(players, QStringLiteral("12"));
         find<QCheckBox>("chkOfferWait")->click();
         click("cmdOK");
-        QCOMPARE(m_settings->value(Keys::Friends), (QStringList{QStringLiteral("Bob*"), QStringLiteral("[UFO]*")}));
+        QCOMPARE(m_settings->value(Keys::Friends), (QStringList{"Bob*", "[UFO]*"}));
         QCOMPARE(m_settings->value(Keys::AutoRefreshMinutes), 5);
         QCOMPARE(m_settings->value(Keys::NotifyPlayerCount), 12);
         QVERIFY(!m_settings->value(Keys::OfferSlotWait));
@@ -267,8 +267,8 @@ private slots:
     void knownServersAreForgottenOnlyWhenConfirmed()
     {
         const QString path = KnownServers::filePath(m_dir->path());
-        QVERIFY(KnownServers::writeFile(path, {KnownServers::Server{QStringLiteral("1.2.3.4"), 28004, {}, 1, 0},
-                                               KnownServers::Server{QStringLiteral("1.2.3.5"), 28004, {}, 1, 0}}));
+        QVERIFY(KnownServers::writeFile(path, {KnownServers::Server{"1.2.3.4", 28004, {}, 1, 0},
+                                               KnownServers::Server{"1.2.3.5", 28004, {}, 1, 0}}));
         open();
         find<QTabWidget>("tabOptions")->setCurrentIndex(FrmOptions::SourcesTab);
         QCOMPARE(find<QLabel>("lblKnown")->text(), QStringLiteral("2 servers known."));

@@ -18,9 +18,8 @@ HostLookup::Resolver slowResolver(std::chrono::milliseconds delay, std::atomic<i
             ++*calls;
         std::this_thread::sleep_for(delay);
         if (host == QLatin1String("two.test"))
-            return HostLookup::Result{{QHostAddress(QStringLiteral("::1")), QHostAddress(QStringLiteral("10.0.0.2"))},
-                                      {}};
-        return HostLookup::Result{{}, QStringLiteral("Name or service not known")};
+            return HostLookup::Result{{QHostAddress("::1"), QHostAddress("10.0.0.2")}, {}};
+        return HostLookup::Result{{}, "Name or service not known"};
     };
 }
 

@@ -144,9 +144,9 @@ private slots:
         const ServerRecord server = parsed(reply(StandardPairs, players));
         QCOMPARE(server.playerCount, 2);
         QCOMPARE(server.players.size(), 2);
-        QCOMPARE(server.players[0], (PlayerRecord{QString(), QStringLiteral("^1Fragger"), 3, 25000, 45}));
+        QCOMPARE(server.players[0], (PlayerRecord{QString(), "^1Fragger", 3, 25000, 45}));
         // The rate keeps its low 16 bits only: 90000 & 0xFFFF.
-        QCOMPARE(server.players[1], (PlayerRecord{QStringLiteral("[CLAN]"), QStringLiteral("Bot"), 12, 24464, 0}));
+        QCOMPARE(server.players[1], (PlayerRecord{"[CLAN]", "Bot", 12, 24464, 0}));
         QCOMPARE(server.zeroPingCount, 1);
     }
 
@@ -217,10 +217,9 @@ private slots:
         QCOMPARE(server.tokens.mid(0, 4), (QStringList{"protocol", protocol, "fs_game", "q4max"}));
         QCOMPARE(server.tokens.size(), 2 + 2 * 18);
         QCOMPARE(server.playerCount, 3);
-        QCOMPARE(server.players,
-                 (QList<PlayerRecord>{{QStringLiteral("[UFO]"), QStringLiteral("^4Rail^7Gun"), 0, 25000, 48},
-                                      {QString(), QStringLiteral("Grim"), 3, 16000, 112},
-                                      {QStringLiteral("=LoL="), QStringLiteral("^1Bot"), 5, 0, 0}}));
+        QCOMPARE(server.players, (QList<PlayerRecord>{{"[UFO]", "^4Rail^7Gun", 0, 25000, 48},
+                                                      {QString(), "Grim", 3, 16000, 112},
+                                                      {"=LoL=", "^1Bot", 5, 0, 0}}));
         QCOMPARE(server.zeroPingCount, 1);
     }
 

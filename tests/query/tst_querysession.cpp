@@ -22,7 +22,7 @@ const quint16 PoolPort = TestPorts::at(2000);
 
 MasterAddress masterAt(quint16 port)
 {
-    return MasterAddress{QStringLiteral("127.0.0.1"), port};
+    return MasterAddress{"127.0.0.1", port};
 }
 
 } // namespace
@@ -135,13 +135,11 @@ private slots:
 
     void unknownMasterHostFailsClearly()
     {
-        HostLookup::setResolver([](const QString&) {
-            return HostLookup::Result{{}, QStringLiteral("Name or service not known")};
-        });
+        HostLookup::setResolver([](const QString&) { return HostLookup::Result{{}, "Name or service not known"}; });
         QuerySession session;
         session.setPool({1, PoolPort});
         QSignalSpy failed(&session, &QuerySession::failed);
-        QVERIFY(!session.startMaster(MasterAddress{QStringLiteral("no-such-host.test"), 27650}));
+        QVERIFY(!session.startMaster(MasterAddress{"no-such-host.test", 27650}));
         QTRY_COMPARE_WITH_TIMEOUT(failed.count(), 1, 1000);
         const auto error = failed.first().first().value<QueryError>();
         QCOMPARE(error.kind, QueryError::Kind::MasterNotFound);
@@ -166,7 +164,7 @@ private slots:
         QSignalSpy timedOut(&session, &QuerySession::masterTimedOut);
         QElapsedTimer clock;
         clock.start();
-        QVERIFY(!session.startMaster(MasterAddress{QStringLiteral("stuck.test"), TestPorts::at(651)}));
+        QVERIFY(!session.startMaster(MasterAddress{"stuck.test", TestPorts::at(651)}));
         QTRY_COMPARE_WITH_TIMEOUT(timedOut.count(), 1, MasterQuery::TimeoutMs + 1000);
         QVERIFY(clock.elapsed() < MasterQuery::TimeoutMs + 500);
         QVERIFY(!session.isRunning());

@@ -24,8 +24,7 @@ private slots:
         ServerRecord first;
         first.address = QStringLiteral("1.1.1.1");
         first.port = 28004;
-        first.players = {PlayerRecord{{}, QStringLiteral("^1a"), 0, 25000, 40},
-                         PlayerRecord{QStringLiteral("clan"), QStringLiteral("b"), 1, 9000, 0}};
+        first.players = {PlayerRecord{{}, "^1a", 0, 25000, 40}, PlayerRecord{"clan", "b", 1, 9000, 0}};
         first.playerCount = 2;
         ServerRecord second = first;
         second.address = QStringLiteral("2.2.2.2");

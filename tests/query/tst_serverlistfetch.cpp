@@ -47,7 +47,7 @@ private slots:
         ServerSources sources;
         QSignalSpy finished(&sources, &ServerSources::finished);
         SourcePlan plan;
-        plan.listUrls = {web.url(QStringLiteral("/slow"))};
+        plan.listUrls = {web.url("/slow")};
         QElapsedTimer clock;
         clock.start();
         QVERIFY(!sources.start(plan, PoolPort));
@@ -72,7 +72,7 @@ private slots:
         QSignalSpy listed(&sources, &ServerSources::listed);
         QSignalSpy finished(&sources, &ServerSources::finished);
         SourcePlan plan;
-        plan.listUrls = {web.url(QStringLiteral("/huge"))};
+        plan.listUrls = {web.url("/huge")};
         QVERIFY(!sources.start(plan, PoolPort));
         LoopWatch loop; // the event loop keeps turning while the list comes in
         QTRY_COMPARE_WITH_TIMEOUT(finished.count(), 1, 5000);
@@ -113,7 +113,7 @@ private slots:
         QSignalSpy listed(&sources, &ServerSources::listed);
         QSignalSpy finished(&sources, &ServerSources::finished);
         SourcePlan plan;
-        plan.listUrls = {web.url(QStringLiteral("/endless")), web.url(QStringLiteral("/good"))};
+        plan.listUrls = {web.url("/endless"), web.url("/good")};
         LoopWatch loop; // the window must never stand still for a stuck site
         for (int round = 1; round <= 2; ++round) {
             QElapsedTimer clock;
@@ -143,7 +143,7 @@ private slots:
         QSignalSpy listed(&sources, &ServerSources::listed);
         QSignalSpy finished(&sources, &ServerSources::finished);
         SourcePlan plan;
-        plan.listUrls = {QUrl(QStringLiteral("http://lists.invalid/q4"))};
+        plan.listUrls = {QUrl("http://lists.invalid/q4")};
         plan.proxy = httpProxy(true, QStringLiteral("127.0.0.1:%1").arg(proxy.url({}).port()));
         QVERIFY(!sources.start(plan, PoolPort));
         QTRY_COMPARE_WITH_TIMEOUT(finished.count(), 1, 5000);

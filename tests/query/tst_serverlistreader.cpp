@@ -15,7 +15,7 @@ private slots:
         QTest::addColumn<QStringList>("expected");
         QTest::addColumn<int>("skipped");
         QTest::addColumn<bool>("json");
-        const QStringList two{QStringLiteral("1.2.3.4:28004"), QStringLiteral("q4.example.org:28005")};
+        const QStringList two{"1.2.3.4:28004", "q4.example.org:28005"};
         QTest::newRow("array of strings")
             << QByteArray(R"(["1.2.3.4:28004", "q4.example.org:28005"])") << two << 0 << true;
         QTest::newRow("objects with address")
@@ -90,10 +90,8 @@ private slots:
         const auto urls = ServerListReader::parseUrls(
             u"https://a.example/list  http://b.example:8080/q4\nftp://c.example/x file:///etc/passwd nothing https://",
             &refused);
-        QCOMPARE(urls, (QList<QUrl>{QUrl(QStringLiteral("https://a.example/list")),
-                                    QUrl(QStringLiteral("http://b.example:8080/q4"))}));
-        QCOMPARE(refused, (QStringList{QStringLiteral("ftp://c.example/x"), QStringLiteral("file:///etc/passwd"),
-                                       QStringLiteral("nothing"), QStringLiteral("https://")}));
+        QCOMPARE(urls, (QList<QUrl>{QUrl("https://a.example/list"), QUrl("http://b.example:8080/q4")}));
+        QCOMPARE(refused, (QStringList{"ftp://c.example/x", "file:///etc/passwd", "nothing", "https://"}));
         QCOMPARE(ServerListReader::parseUrls(ServerListReader::urlsText(urls)), urls);
     }
 
@@ -101,18 +99,17 @@ private slots:
     {
         const MasterList list = parseMasterList(u" a.example, b.example:27777  [::1]:27650,,bad:port 127.0.0.1 ");
         QCOMPARE(list.masters.size(), 4);
-        QCOMPARE(list.masters.at(0), (MasterAddress{QStringLiteral("a.example"), 27650}));
-        QCOMPARE(list.masters.at(1), (MasterAddress{QStringLiteral("b.example"), 27777}));
-        QCOMPARE(list.masters.at(2), (MasterAddress{QStringLiteral("::1"), 27650}));
-        QCOMPARE(list.masters.at(3), (MasterAddress{QStringLiteral("127.0.0.1"), 27650}));
-        QCOMPARE(list.refused, QStringList{QStringLiteral("bad:port")});
+        QCOMPARE(list.masters.at(0), (MasterAddress{"a.example", 27650}));
+        QCOMPARE(list.masters.at(1), (MasterAddress{"b.example", 27777}));
+        QCOMPARE(list.masters.at(2), (MasterAddress{"::1", 27650}));
+        QCOMPARE(list.masters.at(3), (MasterAddress{"127.0.0.1", 27650}));
+        QCOMPARE(list.refused, QStringList{"bad:port"});
         QCOMPARE(masterListText(list.masters), QStringLiteral("a.example, b.example:27777, ::1, 127.0.0.1"));
         QCOMPARE(parseMasterList(masterListText(list.masters)).masters, list.masters);
         // Nothing at all is the game maker's master and the community one.
         QCOMPARE(parseMasterList(u" , ").masters,
-                 (QList<MasterAddress>{{QStringLiteral("q4master.idsoftware.com"), 27650},
-                                       {QStringLiteral("master.quakehub.net"), 27650}}));
-        QCOMPARE(masterAddressText(MasterAddress{QStringLiteral("::1"), 27000}), QStringLiteral("[::1]:27000"));
+                 (QList<MasterAddress>{{"q4master.idsoftware.com", 27650}, {"master.quakehub.net", 27650}}));
+        QCOMPARE(masterAddressText(MasterAddress{"::1", 27000}), QStringLiteral("[::1]:27000"));
     }
 };
 

@@ -20,7 +20,7 @@ const quint16 PoolPort = TestPorts::at(2000);
 
 MasterAddress masterAt(quint16 port)
 {
-    return MasterAddress{QStringLiteral("127.0.0.1"), port};
+    return MasterAddress{"127.0.0.1", port};
 }
 
 QStringList fleetEndpoints(const SimFleet& fleet, int from = 0, int count = -1)
@@ -162,7 +162,7 @@ private slots:
         QSignalSpy timedOut(&session, &QuerySession::masterTimedOut);
         SourcePlan plan;
         plan.masters = {masterAt(TestPorts::at(801))};
-        plan.listUrls = {web.url(QStringLiteral("/q4"))};
+        plan.listUrls = {web.url("/q4")};
         plan.known.add(QStringLiteral("127.0.0.1"), fleet.servers().at(0).port);
         plan.known.add(QStringLiteral("127.0.0.1"), fleet.servers().at(1).port);
         clock.start();
@@ -234,7 +234,7 @@ private slots:
         QSignalSpy failed(&run.session, &QuerySession::failed);
         SourcePlan plan;
         plan.masters = {masterAt(TestPorts::at(401)), masterAt(TestPorts::at(451))};
-        plan.listUrls = {web.url(QStringLiteral("/missing"))};
+        plan.listUrls = {web.url("/missing")};
         QVERIFY(!run.session.startSources(plan));
         QTRY_COMPARE_WITH_TIMEOUT(run.timedOut.count(), 1, 6000);
         QCOMPARE(run.finished.count(), 0);
@@ -264,14 +264,13 @@ private slots:
             json += (i ? ",{\"ip\":\"127.0.0.1\",\"port\":" : "{\"ip\":\"127.0.0.1\",\"port\":") +
                     QByteArray::number(fleet.servers().at(i).port) + '}';
         json += "]}";
-        web.set(QStringLiteral("/json"), {200, json, "application/json", 0});
-        web.set(QStringLiteral("/text"), {200, "# more\n" + lines(all.mid(2)), "text/plain", 0});
-        web.set(QStringLiteral("/garbage"), {200, "<html>oops</html>\nnot:a:server\n", "text/html", 0});
+        web.set("/json", {200, json, "application/json", 0});
+        web.set("/text", {200, "# more\n" + lines(all.mid(2)), "text/plain", 0});
+        web.set("/garbage", {200, "<html>oops</html>\nnot:a:server\n", "text/html", 0});
         Session run({5, PoolPort + 300});
         SourcePlan plan;
         plan.masters = {masterAt(TestPorts::at(501))};
-        plan.listUrls = {web.url(QStringLiteral("/json")), web.url(QStringLiteral("/text")),
-                         web.url(QStringLiteral("/garbage")), web.url(QStringLiteral("/gone"))};
+        plan.listUrls = {web.url("/json"), web.url("/text"), web.url("/garbage"), web.url("/gone")};
         QVERIFY(run.run(plan));
         QCOMPARE(endpoints(run.session.addresses()), all);
         QCOMPARE(run.answers.endpoints.size(), 8);
@@ -283,7 +282,7 @@ private slots:
         QCOMPARE(reports.at(3).addresses, 0);
         QCOMPARE(reports.at(3).skipped, 2);
         QVERIFY(!reports.at(3).failed());
-        QCOMPARE(reports.at(4).error, QStringLiteral("HTTP 404 Not Found"));
+        QCOMPARE(reports.at(4).error, "HTTP 404 Not Found");
     }
 
     // A list can aim every reader's browser at one server, and name it in
@@ -308,7 +307,7 @@ private slots:
         Session run(ports);
         SourcePlan plan;
         plan.masters = {masterAt(TestPorts::at(1701))};
-        plan.listUrls = {web.url(QStringLiteral("/aimed"))};
+        plan.listUrls = {web.url("/aimed")};
         QVERIFY(run.run(plan));
         QCOMPARE(run.answers.endpoints, QStringList{"127.0.0.1:" + QString::fromLatin1(port)});
         QCOMPARE(fleet.infoRequests(), 1);

@@ -23,20 +23,20 @@ class TestProgram final : public QObject {
 private slots:
     void helpAndVersionNeedNoDisplay()
     {
-        std::unique_ptr<QProcess> version(startHeadless({QStringLiteral("--version")}));
+        std::unique_ptr<QProcess> version(startHeadless({"--version"}));
         QVERIFY(version->waitForFinished(10000));
         QCOMPARE(version->exitStatus(), QProcess::NormalExit);
         QCOMPARE(version->exitCode(), 0);
         QCOMPARE(version->readAllStandardOutput().trimmed(), QByteArray("Quake 4 Vantage " Q4V_VERSION));
 
-        std::unique_ptr<QProcess> help(startHeadless({QStringLiteral("--help")}));
+        std::unique_ptr<QProcess> help(startHeadless({"--help"}));
         QVERIFY(help->waitForFinished(10000));
         QCOMPARE(help->exitCode(), 0);
         const QByteArray text = help->readAllStandardOutput();
         QVERIFY2(text.contains("Usage:") && text.contains("--version"), text.constData());
 
         // An option nobody knows is refused with the usage, display or not.
-        std::unique_ptr<QProcess> bogus(startHeadless({QStringLiteral("--bogus")}));
+        std::unique_ptr<QProcess> bogus(startHeadless({"--bogus"}));
         QVERIFY(bogus->waitForFinished(10000));
         QCOMPARE(bogus->exitCode(), 2);
         const QByteArray refusal = bogus->readAllStandardError();

@@ -59,8 +59,8 @@ private slots:
         server.address = QStringLiteral("10.0.0.1");
         server.port = 28004;
         server.name = QStringLiteral("^1Caf\u00e9^^^2\u00ff");
-        server.tokens = {QStringLiteral("si_name"), server.name, QStringLiteral("lonely")};
-        server.players = {PlayerRecord{QStringLiteral("[c]"), QStringLiteral("^2Bob"), 7, 25000, 33}};
+        server.tokens = {"si_name", server.name, "lonely"};
+        server.players = {PlayerRecord{"[c]", "^2Bob", 7, 25000, 33}};
         server.playerCount = 1;
         const QJsonObject document =
             QJsonDocument::fromJson(QueryReport::json({1, 1, 0, 2, 40, {}}, {server})).object();
@@ -132,9 +132,8 @@ private slots:
                 {200, QStringLiteral("%1\n%2\nbroken\n").arg(TestPorts::local(252), TestPorts::local(253)).toLatin1(),
                  "text/plain", 0});
         const QString known = m_home.filePath(QStringLiteral("servers.dat"));
-        QVERIFY(KnownServers::writeFile(
-            known, {KnownServers::Server{QStringLiteral("127.0.0.1"), TestPorts::at(254), {}, 1, 0},
-                    KnownServers::Server{QStringLiteral("127.0.0.1"), TestPorts::at(302), {}, 1, 0}}));
+        QVERIFY(KnownServers::writeFile(known, {KnownServers::Server{"127.0.0.1", TestPorts::at(254), {}, 1, 0},
+                                                KnownServers::Server{"127.0.0.1", TestPorts::at(302), {}, 1, 0}}));
         const Run run =
             runTool({"--master", TestPorts::local(251), "--master", TestPorts::local(301), "--list-url",
                      web.url("/q4.txt").toString(), "--known", known, "--start-port", Start, "--format", "json"});
@@ -176,9 +175,8 @@ private slots:
         QVERIFY(!fleet.start());
         fleet.setMasterSilent(true);
         const QString known = m_home.filePath(QStringLiteral("streamed.dat"));
-        QVERIFY(KnownServers::writeFile(
-            known, {KnownServers::Server{QStringLiteral("127.0.0.1"), TestPorts::at(402), {}, 1, 0}}));
-        for (const QString& format : {QStringLiteral("text"), QStringLiteral("json")}) {
+        QVERIFY(KnownServers::writeFile(known, {KnownServers::Server{"127.0.0.1", TestPorts::at(402), {}, 1, 0}}));
+        for (const char* format : {"text", "json"}) {
             QProcess process;
             QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
             environment.insert(QStringLiteral("XDG_CONFIG_HOME"), m_home.path());
@@ -191,15 +189,14 @@ private slots:
             });
             QSignalSpy finished(&process, &QProcess::finished);
             clock.start();
-            process.start(QStringLiteral(QUERY_TOOL), {QStringLiteral("--master"), TestPorts::local(401),
-                                                       QStringLiteral("--known"), known, QStringLiteral("--start-port"),
-                                                       QString::number(StartPort), QStringLiteral("--format"), format});
+            process.start(QStringLiteral(QUERY_TOOL), {"--master", TestPorts::local(401), "--known", known,
+                                                       "--start-port", QString::number(StartPort), "--format", format});
             QVERIFY(finished.wait(15000));
             const qint64 ended = clock.elapsed();
             QCOMPARE(process.exitCode(), 0);
             QVERIFY2(firstOutput >= 0 && ended - firstOutput > 1000,
                      qPrintable(QStringLiteral("%1: first output at %2 ms, exit at %3 ms")
-                                    .arg(format)
+                                    .arg(QLatin1String(format))
                                     .arg(firstOutput)
                                     .arg(ended)));
         }
@@ -270,10 +267,8 @@ private slots:
         QTest::addColumn<QStringList>("sources");
         QTest::addColumn<qint64>("within");
         // The resolver waits 3 x 4 s; the tool only its own time-outs.
-        QTest::newRow("master") << QStringList{QStringLiteral("--master"), QStringLiteral("stuck.example:27650")}
-                                << qint64(5000);
-        QTest::newRow("list") << QStringList{QStringLiteral("--master"), QStringLiteral("127.0.0.1:9"),
-                                             QStringLiteral("--list-url"), QStringLiteral("http://stuck.example/q4")}
+        QTest::newRow("master") << QStringList{"--master", "stuck.example:27650"} << qint64(5000);
+        QTest::newRow("list") << QStringList{"--master", "127.0.0.1:9", "--list-url", "http://stuck.example/q4"}
                               << qint64(7000);
     }
     void aStuckNameLookupDoesNotHoldUpTheExit()
@@ -300,8 +295,7 @@ private slots:
         QElapsedTimer clock;
         clock.start();
         process.start(QStringLiteral("unshare"),
-                      QStringList{QStringLiteral("-n"), QStringLiteral("-m"), QStringLiteral("sh"),
-                                  QStringLiteral("-c"), script, resolv.fileName(), QStringLiteral(QUERY_TOOL)} +
+                      QStringList{"-n", "-m", "sh", "-c", script, resolv.fileName(), QStringLiteral(QUERY_TOOL)} +
                           sources);
         if (!process.waitForFinished(30000))
             process.kill();

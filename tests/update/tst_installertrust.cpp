@@ -104,7 +104,7 @@ private slots:
                  qPrintable(shown.last()));
         QVERIFY(m_desktop->starts.isEmpty());
         QVERIFY(!QFile::exists(installer()));
-        QCOMPARE(QDir(m_dir->path()).entryList({QStringLiteral("*.exe*")}, QDir::Files | QDir::Hidden), QStringList());
+        QCOMPARE(QDir(m_dir->path()).entryList({"*.exe*"}, QDir::Files | QDir::Hidden), QStringList());
     }
 
     void anEndlessVersionFileIsNoUpdate()

@@ -44,7 +44,7 @@ inline bool save(Kind kind, const QString& path, bool second)
     case Kind::Filters: {
         QList<Filters::VariableFilter> list;
         for (int i = 0; i < rows; ++i)
-            list.append({QStringLiteral("si_map"), QString(20, QLatin1Char(fill)) + QString::number(i)});
+            list.append({"si_map", QString(20, QLatin1Char(fill)) + QString::number(i)});
         return Filters::writeFile(path, list);
     }
     case Kind::Settings:

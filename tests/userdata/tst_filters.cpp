@@ -16,7 +16,7 @@ ServerRecord server(int players, int maxPlayers, int zeroPing, const char* mark)
     record.maxPlayers = qint16(maxPlayers);
     record.zeroPingCount = zeroPing;
     record.passwordMark = QString::fromLatin1(mark);
-    record.tokens = {QStringLiteral("si_map"), QStringLiteral("q4dm1")};
+    record.tokens = {"si_map", "q4dm1"};
     return record;
 }
 
@@ -86,7 +86,7 @@ private slots:
         QVERIFY(!passesServerTest(tokens + QStringList{"sv_punkbuster", "1"}, {{"sv_punkbuster", "0"}}));
         // Placeholder rows never hide anything.
         QVERIFY(passesServerTest(tokens, {{NewFilter, "whatever"}}));
-        QVERIFY(!passesServerTest(tokens, {{QStringLiteral("<new filter>"), QString()}}));
+        QVERIFY(!passesServerTest(tokens, {{"<new filter>", QString()}}));
     }
 
     void builtInFlagsInTheirOrder()

@@ -34,9 +34,9 @@ private slots:
     void theFileRoundTripsAndSurvivesDamage()
     {
         const KnownServers::List servers{
-            Server{QStringLiteral("1.2.3.4"), 28004, QStringLiteral("^1Red\tTab"), Now, 0},
-            Server{QStringLiteral("q4.example.org"), 28005, QString(), Now - Day, 3},
-            Server{QStringLiteral("5.6.7.8"), 28006, QStringLiteral("line\r\nbreak\x01soh\xe9"), Now, 1},
+            Server{"1.2.3.4", 28004, "^1Red\tTab", Now, 0},
+            Server{"q4.example.org", 28005, QString(), Now - Day, 3},
+            Server{"5.6.7.8", 28006, QStringLiteral("line\r\nbreak\x01soh\xe9"), Now, 1},
         };
         const QByteArray bytes = KnownServers::toBytes(servers);
         QVERIFY(bytes.startsWith('#'));
@@ -50,18 +50,17 @@ private slots:
                                    "1.2.3.4:28004\t11\t0\tagain\n:28004\t1\t0\t\n2.2.2.2:2\t5\t-1\t\n\xff\xfe\n"
                                    "3.3.3.3:3\t7\t2";
         QCOMPARE(KnownServers::parse(damaged),
-                 (KnownServers::List{Server{QStringLiteral("1.2.3.4"), 28004, QStringLiteral("A"), 10, 0},
-                                     Server{QStringLiteral("3.3.3.3"), 3, QString(), 7, 2}}));
+                 (KnownServers::List{Server{"1.2.3.4", 28004, "A", 10, 0}, Server{"3.3.3.3", 3, QString(), 7, 2}}));
         QVERIFY(KnownServers::parse(QByteArray(100000, '\x01')).isEmpty());
     }
 
     void aQueryUpdatesWhatIsKnown()
     {
         const KnownServers::List known{
-            Server{QStringLiteral("1.1.1.1"), 1, QStringLiteral("old name"), Now - 10 * Day, 2},
-            Server{QStringLiteral("2.2.2.2"), 2, QStringLiteral("silent"), Now - Day, 4},
-            Server{QStringLiteral("3.3.3.3"), 3, QStringLiteral("not asked"), Now - Day, 4},
-            Server{QStringLiteral("4.4.4.4"), 4, QStringLiteral("ancient"), Now - 61 * Day, 0},
+            Server{"1.1.1.1", 1, "old name", Now - 10 * Day, 2},
+            Server{"2.2.2.2", 2, "silent", Now - Day, 4},
+            Server{"3.3.3.3", 3, "not asked", Now - Day, 4},
+            Server{"4.4.4.4", 4, "ancient", Now - 61 * Day, 0},
         };
         const auto table = asked({{"1.1.1.1", 1}, {"2.2.2.2", 2}, {"2.2.2.2", 2}, {"9.9.9.9", 9}, {"5.5.5.5", 5}});
         const QList<AddressEntry> answers{answer("1.1.1.1", 1, "new name"), answer("5.5.5.5", 5, "fresh")};
@@ -71,9 +70,9 @@ private slots:
         // its misses, the one unseen for 61 days goes, an unknown silent
         // server is not added.
         QCOMPARE(KnownServers::update(known, table, answers, Now, true),
-                 (KnownServers::List{Server{QStringLiteral("1.1.1.1"), 1, QStringLiteral("new name"), Now, 0},
-                                     Server{QStringLiteral("3.3.3.3"), 3, QStringLiteral("not asked"), Now - Day, 4},
-                                     Server{QStringLiteral("5.5.5.5"), 5, QStringLiteral("fresh"), Now, 0}}));
+                 (KnownServers::List{Server{"1.1.1.1", 1, "new name", Now, 0},
+                                     Server{"3.3.3.3", 3, "not asked", Now - Day, 4},
+                                     Server{"5.5.5.5", 5, "fresh", Now, 0}}));
         // A cancelled query counts no misses: the silent may not have been asked.
         const auto cancelled = KnownServers::update(known, table, answers, Now, false);
         QCOMPARE(cancelled.size(), 4);
@@ -85,7 +84,7 @@ private slots:
         QList<AddressEntry> answers;
         for (int i = 0; i < KnownServers::MaxServers + 10; ++i)
             answers.append(AddressEntry{QStringLiteral("10.0.%1.%2").arg(i / 256).arg(i % 256), 28004, {}, {}});
-        KnownServers::List old{Server{QStringLiteral("1.1.1.1"), 1, {}, Now - Day, 0}};
+        KnownServers::List old{Server{"1.1.1.1", 1, {}, Now - Day, 0}};
         const auto updated = KnownServers::update(old, {}, answers, Now, true);
         QCOMPARE(updated.size(), KnownServers::MaxServers);
         QVERIFY(std::none_of(updated.cbegin(), updated.cend(),
@@ -98,7 +97,7 @@ private slots:
         const QString path = KnownServers::filePath(dir.path());
         QVERIFY(path.endsWith(QLatin1String("/servers.dat")));
         QVERIFY(KnownServers::readFile(path).isEmpty());
-        const KnownServers::List servers{Server{QStringLiteral("1.2.3.4"), 28004, QStringLiteral("x"), Now, 0}};
+        const KnownServers::List servers{Server{"1.2.3.4", 28004, "x", Now, 0}};
         QVERIFY(KnownServers::writeFile(path, servers));
         QCOMPARE(KnownServers::readFile(path), servers);
         // A corrupt file reads as empty, and the next write replaces it.
