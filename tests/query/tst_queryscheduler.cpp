@@ -67,10 +67,8 @@ private slots:
         SimFleet fleet(fleetOf(60, TestPorts::at(900)));
         QVERIFY(!fleet.start());
         Pool pool(5);
-        QueryScheduler& scheduler = pool.scheduler;
-        QSignalSpy& answered = pool.answered;
+        auto& [scheduler, answered, finished] = pool;
         QSignalSpy sent(&scheduler, &QueryScheduler::requestSent);
-        QSignalSpy& finished = pool.finished;
         scheduler.run(tableOf(fleet));
         QTRY_COMPARE_WITH_TIMEOUT(finished.count(), 1, 5000);
         QCOMPARE(answered.count(), 60);
@@ -98,8 +96,7 @@ private slots:
         SimFleet fleet(fleetOf(3, TestPorts::at(1000), 300));
         QVERIFY(!fleet.start());
         Pool pool(QuerySpeed::lastSocketIndex(0, 19));
-        QueryScheduler& scheduler = pool.scheduler;
-        QSignalSpy& finished = pool.finished;
+        auto& [scheduler, answered, finished] = pool;
         QElapsedTimer clock;
         clock.start();
         scheduler.run(tableOf(fleet));
@@ -119,9 +116,7 @@ private slots:
         SimFleet fleet(options);
         QVERIFY(!fleet.start());
         Pool pool(19);
-        QueryScheduler& scheduler = pool.scheduler;
-        QSignalSpy& answered = pool.answered;
-        QSignalSpy& finished = pool.finished;
+        auto& [scheduler, answered, finished] = pool;
         QElapsedTimer clock;
         clock.start();
         scheduler.run(tableOf(fleet));
@@ -140,9 +135,7 @@ private slots:
         AddressTable table = tableOf(fleet);
         table.add(QStringLiteral("127.0.0.1"), TestPorts::at(1201));
         Pool pool(0);
-        QueryScheduler& scheduler = pool.scheduler;
-        QSignalSpy& answered = pool.answered;
-        QSignalSpy& finished = pool.finished;
+        auto& [scheduler, answered, finished] = pool;
         scheduler.run(table);
         QTRY_COMPARE_WITH_TIMEOUT(finished.count(), 1, 3000);
         QCOMPARE(answered.count(), 3);
@@ -153,8 +146,7 @@ private slots:
     void emptyTableFinishesOnceBackInTheEventLoop()
     {
         Pool pool(19);
-        QueryScheduler& scheduler = pool.scheduler;
-        QSignalSpy& finished = pool.finished;
+        auto& [scheduler, answered, finished] = pool;
         scheduler.run(AddressTable());
         QCOMPARE(finished.count(), 0);
         QTRY_COMPARE(finished.count(), 1);
@@ -166,9 +158,7 @@ private slots:
         SimFleet fleet(fleetOf(40, TestPorts::at(1300), 60));
         QVERIFY(!fleet.start());
         Pool pool(1);
-        QueryScheduler& scheduler = pool.scheduler;
-        QSignalSpy& answered = pool.answered;
-        QSignalSpy& finished = pool.finished;
+        auto& [scheduler, answered, finished] = pool;
         scheduler.run(tableOf(fleet));
         QTRY_VERIFY_WITH_TIMEOUT(answered.count() >= 4, 3000);
         scheduler.cancel();
@@ -190,8 +180,7 @@ private slots:
         SimFleet fleet(options);
         QVERIFY(!fleet.start());
         Pool pool(0);
-        QueryScheduler& scheduler = pool.scheduler;
-        QSignalSpy& answered = pool.answered;
+        auto& [scheduler, answered, finished] = pool;
         scheduler.run(tableOf(fleet));
         QTRY_COMPARE(fleet.infoRequests(), 1);
 
@@ -212,9 +201,7 @@ private slots:
         SimFleet fleet(options);
         QVERIFY(!fleet.start());
         Pool pool(0);
-        QueryScheduler& scheduler = pool.scheduler;
-        QSignalSpy& answered = pool.answered;
-        QSignalSpy& finished = pool.finished;
+        auto& [scheduler, answered, finished] = pool;
         AddressTable table;
         table.add(QStringLiteral("127.0.0.1"), TestPorts::at(1501));
         table.add(QStringLiteral("127.0.0.1"), TestPorts::at(1600)); // nobody there
@@ -316,8 +303,7 @@ private slots:
     void unusablePortsCountAsSilent()
     {
         Pool pool(1);
-        QueryScheduler& scheduler = pool.scheduler;
-        QSignalSpy& finished = pool.finished;
+        auto& [scheduler, answered, finished] = pool;
         AddressTable table;
         table.add(QStringLiteral("127.0.0.1"), 0);
         table.add(QStringLiteral("127.0.0.1"), 70000);

@@ -25,6 +25,18 @@ MasterAddress masterAt(quint16 port)
     return MasterAddress{"127.0.0.1", port};
 }
 
+// A session on its own pool, with spies on what it reports.
+struct Session {
+    QuerySession session;
+    QSignalSpy phases{&session, &QuerySession::phaseChanged};
+    QSignalSpy answered{&session, &QuerySession::serverAnswered};
+    QSignalSpy finished{&session, &QuerySession::finished};
+    QSignalSpy timedOut{&session, &QuerySession::masterTimedOut};
+    QSignalSpy failed{&session, &QuerySession::failed};
+
+    explicit Session(int lastSocketIndex = 1) { session.setPool({lastSocketIndex, PoolPort}); }
+};
+
 } // namespace
 
 class TestQuerySession final : public QObject {
@@ -38,11 +50,8 @@ private slots:
     {
         SimFleet fleet(fleetOf(300, TestPorts::at(1))); // two master datagrams
         QVERIFY(!fleet.start());
-        QuerySession session;
-        session.setPool({19, PoolPort});
-        QSignalSpy phases(&session, &QuerySession::phaseChanged);
-        QSignalSpy answered(&session, &QuerySession::serverAnswered);
-        QSignalSpy finished(&session, &QuerySession::finished);
+        Session run(19);
+        auto& [session, phases, answered, finished, timedOut, failed] = run;
         QVERIFY(!session.startMaster(masterAt(TestPorts::at(1))));
         QCOMPARE(session.phase(), QuerySession::Phase::Requesting);
         QTRY_COMPARE_WITH_TIMEOUT(finished.count(), 1, 10000);
@@ -68,10 +77,8 @@ private slots:
         QByteArray full = MasterProtocol::replyHeader();
         full.append(231 * 6, '\x01');
         fleet.setMasterDatagrams({full});
-        QuerySession session;
-        session.setPool({1, PoolPort});
-        QSignalSpy timedOut(&session, &QuerySession::masterTimedOut);
-        QSignalSpy phases(&session, &QuerySession::phaseChanged);
+        Session run;
+        auto& [session, phases, answered, finished, timedOut, failed] = run;
         QVERIFY(!session.startMaster(masterAt(TestPorts::at(501))));
         QTRY_COMPARE_WITH_TIMEOUT(timedOut.count(), 1, 4000);
         QCOMPARE(session.addresses().count(), 0);
@@ -86,9 +93,8 @@ private slots:
         for (int i = 0; i < MasterProtocol::MaxRecords + 1; ++i)
             listed.append({0x7F000001u, quint16(20000 + i % 1000)});
         fleet.setMasterDatagrams(SimReplies::serverList(listed));
-        QuerySession session;
-        session.setPool({1, PoolPort});
-        QSignalSpy failed(&session, &QuerySession::failed);
+        Session run;
+        auto& [session, phases, answered, finished, timedOut, failed] = run;
         QVERIFY(!session.startMaster(masterAt(TestPorts::at(601))));
         QTRY_COMPARE_WITH_TIMEOUT(failed.count(), 1, 4000);
         QCOMPARE(failed.first().at(0).value<QueryError>().kind, QueryError::Kind::TooManyServers);
@@ -106,10 +112,8 @@ private slots:
         QList<QByteArray> datagrams = SimReplies::serverList(listed);
         datagrams.removeLast(); // no short datagram: "more follow" for ever
         fleet.setMasterDatagrams(datagrams);
-        QuerySession session;
-        session.setPool({1, PoolPort});
-        QSignalSpy failed(&session, &QuerySession::failed);
-        QSignalSpy timedOut(&session, &QuerySession::masterTimedOut);
+        Session run;
+        auto& [session, phases, answered, finished, timedOut, failed] = run;
         QElapsedTimer clock;
         clock.start();
         QVERIFY(!session.startMaster(masterAt(TestPorts::at(651))));
@@ -123,8 +127,8 @@ private slots:
     {
         QUdpSocket squatter;
         QVERIFY(squatter.bind(QHostAddress::AnyIPv4, PoolPort + 1 + QuerySpeed::MasterPortOffset));
-        QuerySession session;
-        session.setPool({1, PoolPort});
+        Session run;
+        auto& [session, phases, answered, finished, timedOut, failed] = run;
         const auto error = session.startMaster(masterAt(TestPorts::at(701)));
         QVERIFY(error);
         QCOMPARE(error->kind, QueryError::Kind::PortUnavailable);
@@ -136,9 +140,8 @@ private slots:
     void unknownMasterHostFailsClearly()
     {
         HostLookup::setResolver([](const QString&) { return HostLookup::Result{{}, "Name or service not known"}; });
-        QuerySession session;
-        session.setPool({1, PoolPort});
-        QSignalSpy failed(&session, &QuerySession::failed);
+        Session run;
+        auto& [session, phases, answered, finished, timedOut, failed] = run;
         QVERIFY(!session.startMaster(MasterAddress{"no-such-host.test", 27650}));
         QTRY_COMPARE_WITH_TIMEOUT(failed.count(), 1, 1000);
         const auto error = failed.first().first().value<QueryError>();
@@ -159,9 +162,8 @@ private slots:
         });
         SimFleet fleet(fleetOf(2, TestPorts::at(651)));
         QVERIFY(!fleet.start());
-        QuerySession session;
-        session.setPool({1, PoolPort});
-        QSignalSpy timedOut(&session, &QuerySession::masterTimedOut);
+        Session run;
+        auto& [session, phases, answered, finished, timedOut, failed] = run;
         QElapsedTimer clock;
         clock.start();
         QVERIFY(!session.startMaster(MasterAddress{"stuck.test", TestPorts::at(651)}));
@@ -188,10 +190,8 @@ private slots:
                     request.makeReply(SimReplies::serverList({{0x7F000001u, TestPorts::at(662)}}).first()));
             }
         });
-        QuerySession session;
-        session.setPool({1, PoolPort});
-        QSignalSpy answered(&session, &QuerySession::serverAnswered);
-        QSignalSpy finished(&session, &QuerySession::finished);
+        Session run;
+        auto& [session, phases, answered, finished, timedOut, failed] = run;
         const auto master6 = parseMasterAddress(QStringLiteral("[::1]:%1").arg(TestPorts::at(660)));
         QVERIFY(master6);
         QVERIFY(!session.startMaster(*master6));
@@ -206,10 +206,9 @@ private slots:
         QVERIFY(!fleet.start());
         // The master lists a server that is not the fleet's; a rogue then
         // sends the master's reply from another port.
-        QuerySession session;
-        session.setPool({1, PoolPort});
+        Session run;
+        auto& [session, phases, answered, finished, timedOut, failed] = run;
         fleet.setMasterSilent(true);
-        QSignalSpy timedOut(&session, &QuerySession::masterTimedOut);
         QVERIFY(!session.startMaster(masterAt(TestPorts::at(801))));
         QUdpSocket rogue;
         QVERIFY(rogue.bind(QHostAddress::LocalHost, TestPorts::at(900)));
