@@ -6,14 +6,11 @@
 
 #include <QAction>
 #include <QApplication>
-#include <QClipboard>
 #include <QDir>
 #include <QFile>
-#include <QGuiApplication>
 #include <QHeaderView>
 #include <QLabel>
 #include <QLineEdit>
-#include <QMenu>
 #include <QPushButton>
 #include <QTemporaryDir>
 #include <QTest>
@@ -204,23 +201,6 @@ private slots:
         button(form, "cmdOK")->click();
         QVERIFY(form.isVisible());
         QCOMPARE(file(), bytes);
-    }
-
-    void copyColumnComesOutOnOneLine()
-    {
-        write("a:1\x01\x01One\r\nb:2\x01\x01Two\r\n");
-        FrmFavourites form(*m_settings, m_dir->path());
-        form.show();
-        ReportView* list = form.findChild<ReportView*>(QStringLiteral("lvwFavourites"));
-        const QPoint at = list->visualRect(list->model()->index(1, FavouritesModel::Address)).center();
-        QTest::mousePress(list->viewport(), Qt::RightButton, {}, at);
-        QTest::mouseRelease(list->viewport(), Qt::RightButton, {}, at);
-        auto* menu = form.findChild<QMenu*>();
-        menu->hide();
-        menu->findChild<QAction*>(QStringLiteral("mPopCopyColumn"))->trigger();
-        QCOMPARE(QGuiApplication::clipboard()->text(), QStringLiteral("a:1     b:2"));
-        menu->findChild<QAction*>(QStringLiteral("mPopCopyCell"))->trigger();
-        QCOMPARE(QGuiApplication::clipboard()->text(), QStringLiteral("b:2"));
     }
 
     void sortIsSavedAndRestored()
