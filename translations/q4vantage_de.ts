@@ -872,6 +872,10 @@ Auf einen freien Platz warten und beitreten, sobald einer frei wird?</translatio
         <source>%1 was added to your favourites.</source>
         <translation>%1 wurde zu Ihren Favoriten hinzugefügt.</translation>
     </message>
+    <message>
+        <source>C&amp;olumns</source>
+        <translation>Spa&amp;lten</translation>
+    </message>
 </context>
 <context>
     <name>ListTabs</name>

@@ -867,6 +867,10 @@ Wait for a free slot and join as soon as one opens?</source>
         <source>%1 was added to your favourites.</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>C&amp;olumns</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>ListTabs</name>

@@ -872,6 +872,10 @@ Attendre une place libre et rejoindre dès qu&apos;une place se libère ?</trans
         <source>%1 was added to your favourites.</source>
         <translation>%1 a été ajouté à vos favoris.</translation>
     </message>
+    <message>
+        <source>C&amp;olumns</source>
+        <translation>C&amp;olonnes</translation>
+    </message>
 </context>
 <context>
     <name>ListTabs</name>

@@ -872,6 +872,10 @@ Attendere un posto libero ed entrare appena se ne libera uno?</translation>
         <source>%1 was added to your favourites.</source>
         <translation>%1 è stato aggiunto ai tuoi preferiti.</translation>
     </message>
+    <message>
+        <source>C&amp;olumns</source>
+        <translation>C&amp;olonne</translation>
+    </message>
 </context>
 <context>
     <name>ListTabs</name>

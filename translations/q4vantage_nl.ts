@@ -872,6 +872,10 @@ Wachten op een vrije plek en deelnemen zodra er een vrijkomt?</translation>
         <source>%1 was added to your favourites.</source>
         <translation>%1 is toegevoegd aan uw favorieten.</translation>
     </message>
+    <message>
+        <source>C&amp;olumns</source>
+        <translation>K&amp;olommen</translation>
+    </message>
 </context>
 <context>
     <name>ListTabs</name>

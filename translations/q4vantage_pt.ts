@@ -872,6 +872,10 @@ Esperar por uma vaga e entrar assim que uma abrir?</translation>
         <source>%1 was added to your favourites.</source>
         <translation>%1 foi adicionado aos seus favoritos.</translation>
     </message>
+    <message>
+        <source>C&amp;olumns</source>
+        <translation>C&amp;olunas</translation>
+    </message>
 </context>
 <context>
     <name>ListTabs</name>

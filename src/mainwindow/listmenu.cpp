@@ -40,6 +40,12 @@ ListMenu::ListMenu(SettingsStore& settings, const ServerLists& lists, QString fa
     mPopJoin->setObjectName(QStringLiteral("mPopJoin"));
     mPopRefresh = mPopupAlt->addAction(QString());
     mPopRefresh->setObjectName(QStringLiteral("mPopRefresh"));
+    mPopColumns = mPopupAlt->addMenu(QString());
+    mPopColumns->setObjectName(QStringLiteral("mPopColumns"));
+    connect(mPopColumns, &QMenu::aboutToShow, this, [this] {
+        mPopColumns->clear();
+        m_shown().view()->addColumnEntries(*mPopColumns);
+    });
     connect(mPopJoin, &QAction::triggered, this, &ListMenu::joinRequested);
     connect(mPopRefresh, &QAction::triggered, this, [this] {
         if (const int server = m_shown().selectedServer(); server >= 0)
@@ -56,6 +62,7 @@ ListMenu::ListMenu(SettingsStore& settings, const ServerLists& lists, QString fa
 
 void ListMenu::popup(const QPoint& at)
 {
+    mPopColumns->menuAction()->setVisible(!m_shown().view()->optionalColumns().isEmpty());
     mPopupAlt->popup(at);
 }
 
@@ -73,6 +80,7 @@ void ListMenu::retranslate()
     mPopAddFriend->setText(tr("Add To F&riends"));
     mPopJoin->setText(tr("&Join"));
     mPopRefresh->setText(tr("R&efresh"));
+    mPopColumns->setTitle(tr("C&olumns"));
 }
 
 void ListMenu::addToFriends()

@@ -66,6 +66,7 @@ private:
     QAction* mPopAddFriend = nullptr;
     QAction* mPopJoin = nullptr;
     QAction* mPopRefresh = nullptr;
+    QMenu* mPopColumns = nullptr; // the list's optional columns, for the keyboard too
     // Guarded: while the window is torn down the pane may go before its
     // view, which still sends events on its way out.
     QPointer<const ListPane> m_players;

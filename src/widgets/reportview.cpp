@@ -88,9 +88,15 @@ void ReportView::showHeaderMenu(const QPoint& at)
     menu->setObjectName(QStringLiteral("mPopupColumns"));
     // A popup is hidden, not closed; its entry acts before the deletion.
     connect(menu, &QMenu::aboutToHide, menu, &QObject::deleteLater);
+    addColumnEntries(*menu);
+    menu->popup(horizontalHeader()->viewport()->mapToGlobal(at));
+}
+
+void ReportView::addColumnEntries(QMenu& menu)
+{
     QHeaderView* header = horizontalHeader();
     for (int column : std::as_const(m_optional)) {
-        QAction* action = menu->addAction(model()->headerData(column, Qt::Horizontal).toString());
+        QAction* action = menu.addAction(model()->headerData(column, Qt::Horizontal).toString());
         action->setObjectName(QStringLiteral("mPopColumn%1").arg(column));
         action->setCheckable(true);
         action->setChecked(!header->isSectionHidden(column));
@@ -106,7 +112,6 @@ void ReportView::showHeaderMenu(const QPoint& at)
             emit columnShownChanged(column, shown);
         });
     }
-    menu->popup(header->viewport()->mapToGlobal(at));
 }
 
 void ReportView::showEvent(QShowEvent* event)

@@ -9,6 +9,8 @@
 // per row, so lists of a hundred thousand players stay quick to update.
 // It remembers the mouse button last pressed on its rows, because a double
 // click joins and a right click opens a menu only after the matching press.
+class QMenu;
+
 class ReportView final : public QTableView {
     Q_OBJECT
     Q_DISABLE_COPY_MOVE(ReportView)
@@ -31,6 +33,9 @@ public:
     // header offers each of them, ticked while it is shown.
     void setOptionalColumns(const QList<int>& columns);
     QList<int> optionalColumns() const { return m_optional; }
+    // Adds an entry per optional column to the menu, ticked while shown;
+    // a click shows or hides it.
+    void addColumnEntries(QMenu& menu);
 
 signals:
     // The user showed or hid an optional column from the header's menu.

@@ -167,6 +167,18 @@ private slots:
         QVERIFY(header->isSectionHidden(ServerListModel::Country));
         QCOMPARE(w.settings().get(u"SColumnShown8"), QStringLiteral("0"));
         QCOMPARE(copiedRow(w, 0).size(), 8);
+
+        // The keyboard reaches the same entry through the list's menu:
+        // Shift+F10 on a row, the submenu's letter, Enter.
+        QTest::keyClick(w.focus(servers), Qt::Key_F10, Qt::ShiftModifier);
+        QTRY_VERIFY(w.find<QMenu>("mPopupAlt")->isVisible());
+        const QString columns = w.find<QMenu>("mPopColumns")->title();
+        const QChar letter = columns.at(columns.indexOf(QLatin1Char('&')) + 1).toUpper();
+        QTest::keyClick(QApplication::activePopupWidget(), Qt::Key(letter.unicode()));
+        QTRY_COMPARE(QApplication::activePopupWidget()->objectName(), QStringLiteral("mPopColumns"));
+        QTest::keyClick(QApplication::activePopupWidget(), Qt::Key_Return);
+        QTRY_VERIFY(!header->isSectionHidden(ServerListModel::Country));
+        QTRY_VERIFY(!QApplication::activePopupWidget());
     }
 
     // Without a database nothing is placed and nothing is asked: no flag,
