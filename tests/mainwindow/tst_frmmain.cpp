@@ -139,17 +139,6 @@ private slots:
         QCOMPARE(Mnemonics::plain(run.find<QLabel>("lblPlayerName")->text()), QStringLiteral("Name:"));
     }
 
-    void switchingLanguageRetranslatesTheOpenWindow()
-    {
-        TestWindow run(*m_settings);
-        QVERIFY(run.show());
-        QCOMPARE(Mnemonics::plain(run.button("cmdFav")->text()), QStringLiteral("Query Favourites"));
-        run.language.apply(1);
-        QTRY_COMPARE(Mnemonics::plain(run.button("cmdFav")->text()), QStringLiteral("Query Favorites"));
-        run.language.apply(0);
-        QTRY_COMPARE(Mnemonics::plain(run.button("cmdFav")->text()), QStringLiteral("Query Favourites"));
-    }
-
     void optionsChangeTheLanguageOfTheWindowAndAreSaved()
     {
         TestWindow run(*m_settings, m_files.folder());

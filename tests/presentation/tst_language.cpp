@@ -15,23 +15,8 @@ class TestLanguage final : public QObject {
     Q_OBJECT
 
 private slots:
-    // The three texts with "favourite" in them; the texts the program adds
-    // that name favourites follow them.
-    void americanEnglishSpellsFavoritesOnly()
-    {
-        Language language;
-        QVERIFY(language.apply(1));
-        QCOMPARE(translated("Query Favourites", "QueryBar"), QStringLiteral("Query Favorites"));
-        QCOMPARE(translated("Favourites"), QStringLiteral("Favorites"));
-        QCOMPARE(translated("&Add To Favourites", "ListMenu"), QStringLiteral("&Add To Favorites"));
-        QCOMPARE(translated("Query Masters", "QueryBar"), QStringLiteral("Query Masters"));
-        QCOMPARE(translated("Cancel Query", "QueryBar"), QStringLiteral("Cancel Query"));
-
-        QVERIFY(language.apply(0));
-        QCOMPARE(translated("Favourites"), QStringLiteral("Favourites"));
-        QCOMPARE(language.current(), 0);
-    }
-
+    // Apart from English (UK), a language the table does not have leaves
+    // the one in use.
     void indexOutsideTheTableChangesNothing()
     {
         Language language;
