@@ -61,7 +61,7 @@ int filter()
         for (int p = 0; p < 15; ++p)
             fifteen.append({quint8(p), quint16(20 + p), 25000, "^1Player^7" + QByteArray::number(p), "[c]"});
         const SimReplies::Rules rules{{"si_name", "^2Server " + QByteArray::number(i)},
-                                      {"si_map", i % 3 ? "q4dm" + QByteArray::number(i % 9) : "q4ctf1"},
+                                      {"si_map", i % 3 ? "mp/q4dm" + QByteArray::number(i % 9) : "mp/q4ctf1"},
                                       {"si_maxplayers", "16"},
                                       {"si_usepass", "0"}};
         ServerRecord record = InfoProtocol::parseReply(SimReplies::infoResponse(rules, fifteen)).value();
@@ -93,7 +93,7 @@ int filter()
     playerView.show();
     QCoreApplication::processEvents();
 
-    const QList<Filters::VariableFilter> rules[] = {{{"si_map", "q4dm*"}}, {{"si_*", "*7"}}, {}};
+    const QList<Filters::VariableFilter> rules[] = {{{"si_map", "mp/q4dm*"}}, {{"si_*", "*7"}}, {}};
     qint64 worst = 0;
     for (const auto& rule : rules) {
         QElapsedTimer clock;

@@ -560,14 +560,6 @@
         <translation>Proxyserver für Updates verwenden</translation>
     </message>
     <message>
-        <source>Quake 4 Executable:</source>
-        <translation>Quake 4 Programmdatei:</translation>
-    </message>
-    <message>
-        <source>Browse</source>
-        <translation>Durchsuchen</translation>
-    </message>
-    <message>
         <source>OK</source>
         <translation>OK</translation>
     </message>
@@ -637,6 +629,123 @@
     <message>
         <source>No</source>
         <translation>Nein</translation>
+    </message>
+</context>
+<context>
+    <name>GameBox</name>
+    <message>
+        <source>Game:</source>
+        <translation>Spiel:</translation>
+    </message>
+    <message>
+        <source>Look Again</source>
+        <translation>Erneut suchen</translation>
+    </message>
+    <message>
+        <source>Looks for the game&apos;s installs on this machine again: Steam&apos;s libraries, the Linux release and Wine.</source>
+        <translation>Sucht erneut nach Installationen des Spiels auf diesem Rechner: Steam-Bibliotheken, die Linux-Version und Wine.</translation>
+    </message>
+    <message>
+        <source>Quake 4 Executable:</source>
+        <translation>Quake 4 Programmdatei:</translation>
+    </message>
+    <message>
+        <source>Browse</source>
+        <translation>Durchsuchen</translation>
+    </message>
+    <message>
+        <source>A join runs:</source>
+        <translation>Beitreten startet:</translation>
+    </message>
+    <message>
+        <source>Looking for the game on this machine...</source>
+        <translation>Spiel wird auf diesem Rechner gesucht...</translation>
+    </message>
+    <message>
+        <source>None found</source>
+        <translation>Keins gefunden</translation>
+    </message>
+    <message>
+        <source>Ask at the first join</source>
+        <translation>Beim ersten Beitreten fragen</translation>
+    </message>
+    <message>
+        <source>Other program...</source>
+        <translation>Anderes Programm...</translation>
+    </message>
+    <message>
+        <source>No program chosen</source>
+        <translation>Kein Programm gewählt</translation>
+    </message>
+    <message>
+        <source>Started in %1</source>
+        <translation>Gestartet in %1</translation>
+    </message>
+    <message>
+        <source>Chosen at the first join</source>
+        <translation>Wird beim ersten Beitreten gewählt</translation>
+    </message>
+</context>
+<context>
+    <name>GameChooser</name>
+    <message>
+        <source>The game&apos;s Windows build</source>
+        <translation>Die Windows-Version des Spiels</translation>
+    </message>
+    <message>
+        <source>%1 is the game&apos;s Windows build, which this system cannot start by itself, and neither Steam with the game nor Wine is installed here.
+
+Install the game in Steam (which runs it through Proton), or install Wine (Debian&apos;s package &quot;wine&quot;), or choose the Linux release&apos;s &quot;quake4&quot; instead.</source>
+        <translation>%1 ist die Windows-Version des Spiels, die dieses System nicht selbst starten kann, und weder Steam mit dem Spiel noch Wine ist hier installiert.
+
+Installieren Sie das Spiel in Steam (das es mit Proton ausführt) oder Wine (Debian-Paket &quot;wine&quot;), oder wählen Sie stattdessen &quot;quake4&quot; der Linux-Version.</translation>
+    </message>
+    <message>
+        <source>Through Steam</source>
+        <translation>Über Steam</translation>
+    </message>
+    <message>
+        <source>Through Wine</source>
+        <translation>Über Wine</translation>
+    </message>
+    <message>
+        <source>%1 is the game&apos;s Windows build, which this system cannot start by itself. Start it through Steam (%2) or through Wine?</source>
+        <translation>%1 ist die Windows-Version des Spiels, die dieses System nicht selbst starten kann. Über Steam (%2) oder über Wine starten?</translation>
+    </message>
+    <message>
+        <source>%1 is the game&apos;s Windows build, which this system cannot start by itself. Start it through Steam (%2)?</source>
+        <translation>%1 ist die Windows-Version des Spiels, die dieses System nicht selbst starten kann. Über Steam (%2) starten?</translation>
+    </message>
+    <message>
+        <source>%1 is the game&apos;s Windows build, which this system cannot start by itself. Start it through Wine?</source>
+        <translation>%1 ist die Windows-Version des Spiels, die dieses System nicht selbst starten kann. Über Wine starten?</translation>
+    </message>
+    <message>
+        <source>Which Quake 4?</source>
+        <translation>Welches Quake 4?</translation>
+    </message>
+    <message>
+        <source>Quake 4 is installed more than once here. Which one should a join start? You can change it later in Options.</source>
+        <translation>Quake 4 ist hier mehrfach installiert. Welche Installation soll beim Beitreten starten? Sie können das später in den Optionen ändern.</translation>
+    </message>
+</context>
+<context>
+    <name>GameInstall</name>
+    <message>
+        <source>Steam: %1</source>
+        <translation>Steam: %1</translation>
+    </message>
+    <message>
+        <source>Steam (Flatpak): %1</source>
+        <translation>Steam (Flatpak): %1</translation>
+    </message>
+    <message>
+        <source>Linux release: %1</source>
+        <translation>Linux-Version: %1</translation>
+    </message>
+    <message>
+        <source>Wine: %1</source>
+        <translation>Wine: %1</translation>
     </message>
 </context>
 <context>
@@ -718,6 +827,14 @@ Auf einen freien Platz warten und beitreten, sobald einer frei wird?</translatio
     <message>
         <source>missing</source>
         <translation>fehlt</translation>
+    </message>
+    <message>
+        <source>Looking for the game on this machine...</source>
+        <translation>Spiel wird auf diesem Rechner gesucht...</translation>
+    </message>
+    <message>
+        <source>Using the game found on this machine: %1. Options can choose another.</source>
+        <translation>Das auf diesem Rechner gefundene Spiel wird verwendet: %1. In den Optionen lässt sich ein anderes wählen.</translation>
     </message>
 </context>
 <context>

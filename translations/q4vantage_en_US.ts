@@ -556,14 +556,6 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Quake 4 Executable:</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Browse</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>OK</source>
         <translation type="unfinished"></translation>
     </message>
@@ -632,6 +624,121 @@
     </message>
     <message>
         <source>No</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>GameBox</name>
+    <message>
+        <source>Game:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Look Again</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Looks for the game&apos;s installs on this machine again: Steam&apos;s libraries, the Linux release and Wine.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Quake 4 Executable:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Browse</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A join runs:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Looking for the game on this machine...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>None found</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Ask at the first join</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Other program...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No program chosen</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Started in %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Chosen at the first join</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>GameChooser</name>
+    <message>
+        <source>The game&apos;s Windows build</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 is the game&apos;s Windows build, which this system cannot start by itself, and neither Steam with the game nor Wine is installed here.
+
+Install the game in Steam (which runs it through Proton), or install Wine (Debian&apos;s package &quot;wine&quot;), or choose the Linux release&apos;s &quot;quake4&quot; instead.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Through Steam</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Through Wine</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 is the game&apos;s Windows build, which this system cannot start by itself. Start it through Steam (%2) or through Wine?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 is the game&apos;s Windows build, which this system cannot start by itself. Start it through Steam (%2)?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 is the game&apos;s Windows build, which this system cannot start by itself. Start it through Wine?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Which Quake 4?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Quake 4 is installed more than once here. Which one should a join start? You can change it later in Options.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>GameInstall</name>
+    <message>
+        <source>Steam: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Steam (Flatpak): %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Linux release: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Wine: %1</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -712,6 +819,14 @@ Wait for a free slot and join as soon as one opens?</source>
     </message>
     <message>
         <source>missing</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Looking for the game on this machine...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Using the game found on this machine: %1. Options can choose another.</source>
         <translation type="unfinished"></translation>
     </message>
 </context>

@@ -560,14 +560,6 @@
         <translation>Utiliser un proxy pour les mises à jour</translation>
     </message>
     <message>
-        <source>Quake 4 Executable:</source>
-        <translation>Exécutable de Quake 4 :</translation>
-    </message>
-    <message>
-        <source>Browse</source>
-        <translation>Parcourir</translation>
-    </message>
-    <message>
         <source>OK</source>
         <translation>OK</translation>
     </message>
@@ -637,6 +629,123 @@
     <message>
         <source>No</source>
         <translation>Non</translation>
+    </message>
+</context>
+<context>
+    <name>GameBox</name>
+    <message>
+        <source>Game:</source>
+        <translation>Jeu :</translation>
+    </message>
+    <message>
+        <source>Look Again</source>
+        <translation>Chercher à nouveau</translation>
+    </message>
+    <message>
+        <source>Looks for the game&apos;s installs on this machine again: Steam&apos;s libraries, the Linux release and Wine.</source>
+        <translation>Cherche à nouveau les installations du jeu sur cette machine : bibliothèques Steam, version Linux et Wine.</translation>
+    </message>
+    <message>
+        <source>Quake 4 Executable:</source>
+        <translation>Exécutable de Quake 4 :</translation>
+    </message>
+    <message>
+        <source>Browse</source>
+        <translation>Parcourir</translation>
+    </message>
+    <message>
+        <source>A join runs:</source>
+        <translation>Rejoindre lance :</translation>
+    </message>
+    <message>
+        <source>Looking for the game on this machine...</source>
+        <translation>Recherche du jeu sur cette machine...</translation>
+    </message>
+    <message>
+        <source>None found</source>
+        <translation>Aucun trouvé</translation>
+    </message>
+    <message>
+        <source>Ask at the first join</source>
+        <translation>Demander au premier essai</translation>
+    </message>
+    <message>
+        <source>Other program...</source>
+        <translation>Autre programme...</translation>
+    </message>
+    <message>
+        <source>No program chosen</source>
+        <translation>Aucun programme choisi</translation>
+    </message>
+    <message>
+        <source>Started in %1</source>
+        <translation>Lancé dans %1</translation>
+    </message>
+    <message>
+        <source>Chosen at the first join</source>
+        <translation>Choisi au premier essai</translation>
+    </message>
+</context>
+<context>
+    <name>GameChooser</name>
+    <message>
+        <source>The game&apos;s Windows build</source>
+        <translation>La version Windows du jeu</translation>
+    </message>
+    <message>
+        <source>%1 is the game&apos;s Windows build, which this system cannot start by itself, and neither Steam with the game nor Wine is installed here.
+
+Install the game in Steam (which runs it through Proton), or install Wine (Debian&apos;s package &quot;wine&quot;), or choose the Linux release&apos;s &quot;quake4&quot; instead.</source>
+        <translation>%1 est la version Windows du jeu, que ce système ne peut pas lancer seul, et ni Steam avec le jeu ni Wine ne sont installés ici.
+
+Installez le jeu dans Steam (qui l&apos;exécute avec Proton), ou installez Wine (paquet Debian &quot;wine&quot;), ou choisissez plutôt &quot;quake4&quot; de la version Linux.</translation>
+    </message>
+    <message>
+        <source>Through Steam</source>
+        <translation>Avec Steam</translation>
+    </message>
+    <message>
+        <source>Through Wine</source>
+        <translation>Avec Wine</translation>
+    </message>
+    <message>
+        <source>%1 is the game&apos;s Windows build, which this system cannot start by itself. Start it through Steam (%2) or through Wine?</source>
+        <translation>%1 est la version Windows du jeu, que ce système ne peut pas lancer seul. La lancer avec Steam (%2) ou avec Wine ?</translation>
+    </message>
+    <message>
+        <source>%1 is the game&apos;s Windows build, which this system cannot start by itself. Start it through Steam (%2)?</source>
+        <translation>%1 est la version Windows du jeu, que ce système ne peut pas lancer seul. La lancer avec Steam (%2) ?</translation>
+    </message>
+    <message>
+        <source>%1 is the game&apos;s Windows build, which this system cannot start by itself. Start it through Wine?</source>
+        <translation>%1 est la version Windows du jeu, que ce système ne peut pas lancer seul. La lancer avec Wine ?</translation>
+    </message>
+    <message>
+        <source>Which Quake 4?</source>
+        <translation>Quel Quake 4 ?</translation>
+    </message>
+    <message>
+        <source>Quake 4 is installed more than once here. Which one should a join start? You can change it later in Options.</source>
+        <translation>Quake 4 est installé plusieurs fois ici. Lequel lancer pour rejoindre ? Vous pourrez le changer plus tard dans les Options.</translation>
+    </message>
+</context>
+<context>
+    <name>GameInstall</name>
+    <message>
+        <source>Steam: %1</source>
+        <translation>Steam : %1</translation>
+    </message>
+    <message>
+        <source>Steam (Flatpak): %1</source>
+        <translation>Steam (Flatpak) : %1</translation>
+    </message>
+    <message>
+        <source>Linux release: %1</source>
+        <translation>Version Linux : %1</translation>
+    </message>
+    <message>
+        <source>Wine: %1</source>
+        <translation>Wine : %1</translation>
     </message>
 </context>
 <context>
@@ -718,6 +827,14 @@ Attendre une place libre et rejoindre dès qu&apos;une place se libère ?</trans
     <message>
         <source>missing</source>
         <translation>absente</translation>
+    </message>
+    <message>
+        <source>Looking for the game on this machine...</source>
+        <translation>Recherche du jeu sur cette machine...</translation>
+    </message>
+    <message>
+        <source>Using the game found on this machine: %1. Options can choose another.</source>
+        <translation>Utilisation du jeu trouvé sur cette machine : %1. Les Options permettent d&apos;en choisir un autre.</translation>
     </message>
 </context>
 <context>

@@ -560,14 +560,6 @@ hanno risposto %2 server su %3</translation>
         <translation>Usa un server proxy per gli aggiornamenti</translation>
     </message>
     <message>
-        <source>Quake 4 Executable:</source>
-        <translation>Eseguibile di Quake 4:</translation>
-    </message>
-    <message>
-        <source>Browse</source>
-        <translation>Sfoglia</translation>
-    </message>
-    <message>
         <source>OK</source>
         <translation>OK</translation>
     </message>
@@ -637,6 +629,123 @@ hanno risposto %2 server su %3</translation>
     <message>
         <source>No</source>
         <translation>No</translation>
+    </message>
+</context>
+<context>
+    <name>GameBox</name>
+    <message>
+        <source>Game:</source>
+        <translation>Gioco:</translation>
+    </message>
+    <message>
+        <source>Look Again</source>
+        <translation>Cerca di nuovo</translation>
+    </message>
+    <message>
+        <source>Looks for the game&apos;s installs on this machine again: Steam&apos;s libraries, the Linux release and Wine.</source>
+        <translation>Cerca di nuovo le installazioni del gioco su questo computer: librerie di Steam, versione Linux e Wine.</translation>
+    </message>
+    <message>
+        <source>Quake 4 Executable:</source>
+        <translation>Eseguibile di Quake 4:</translation>
+    </message>
+    <message>
+        <source>Browse</source>
+        <translation>Sfoglia</translation>
+    </message>
+    <message>
+        <source>A join runs:</source>
+        <translation>Entrare avvia:</translation>
+    </message>
+    <message>
+        <source>Looking for the game on this machine...</source>
+        <translation>Ricerca del gioco su questo computer...</translation>
+    </message>
+    <message>
+        <source>None found</source>
+        <translation>Nessuno trovato</translation>
+    </message>
+    <message>
+        <source>Ask at the first join</source>
+        <translation>Chiedi al primo ingresso</translation>
+    </message>
+    <message>
+        <source>Other program...</source>
+        <translation>Altro programma...</translation>
+    </message>
+    <message>
+        <source>No program chosen</source>
+        <translation>Nessun programma scelto</translation>
+    </message>
+    <message>
+        <source>Started in %1</source>
+        <translation>Avviato in %1</translation>
+    </message>
+    <message>
+        <source>Chosen at the first join</source>
+        <translation>Scelto al primo ingresso</translation>
+    </message>
+</context>
+<context>
+    <name>GameChooser</name>
+    <message>
+        <source>The game&apos;s Windows build</source>
+        <translation>La versione Windows del gioco</translation>
+    </message>
+    <message>
+        <source>%1 is the game&apos;s Windows build, which this system cannot start by itself, and neither Steam with the game nor Wine is installed here.
+
+Install the game in Steam (which runs it through Proton), or install Wine (Debian&apos;s package &quot;wine&quot;), or choose the Linux release&apos;s &quot;quake4&quot; instead.</source>
+        <translation>%1 è la versione Windows del gioco, che questo sistema non può avviare da solo, e qui non sono installati né Steam con il gioco né Wine.
+
+Installa il gioco in Steam (che lo esegue con Proton), oppure installa Wine (pacchetto Debian &quot;wine&quot;), oppure scegli &quot;quake4&quot; della versione Linux.</translation>
+    </message>
+    <message>
+        <source>Through Steam</source>
+        <translation>Con Steam</translation>
+    </message>
+    <message>
+        <source>Through Wine</source>
+        <translation>Con Wine</translation>
+    </message>
+    <message>
+        <source>%1 is the game&apos;s Windows build, which this system cannot start by itself. Start it through Steam (%2) or through Wine?</source>
+        <translation>%1 è la versione Windows del gioco, che questo sistema non può avviare da solo. Avviarla con Steam (%2) o con Wine?</translation>
+    </message>
+    <message>
+        <source>%1 is the game&apos;s Windows build, which this system cannot start by itself. Start it through Steam (%2)?</source>
+        <translation>%1 è la versione Windows del gioco, che questo sistema non può avviare da solo. Avviarla con Steam (%2)?</translation>
+    </message>
+    <message>
+        <source>%1 is the game&apos;s Windows build, which this system cannot start by itself. Start it through Wine?</source>
+        <translation>%1 è la versione Windows del gioco, che questo sistema non può avviare da solo. Avviarla con Wine?</translation>
+    </message>
+    <message>
+        <source>Which Quake 4?</source>
+        <translation>Quale Quake 4?</translation>
+    </message>
+    <message>
+        <source>Quake 4 is installed more than once here. Which one should a join start? You can change it later in Options.</source>
+        <translation>Quake 4 è installato più volte qui. Quale avviare per entrare? Puoi cambiarlo più tardi nelle Opzioni.</translation>
+    </message>
+</context>
+<context>
+    <name>GameInstall</name>
+    <message>
+        <source>Steam: %1</source>
+        <translation>Steam: %1</translation>
+    </message>
+    <message>
+        <source>Steam (Flatpak): %1</source>
+        <translation>Steam (Flatpak): %1</translation>
+    </message>
+    <message>
+        <source>Linux release: %1</source>
+        <translation>Versione Linux: %1</translation>
+    </message>
+    <message>
+        <source>Wine: %1</source>
+        <translation>Wine: %1</translation>
     </message>
 </context>
 <context>
@@ -718,6 +827,14 @@ Attendere un posto libero ed entrare appena se ne libera uno?</translation>
     <message>
         <source>missing</source>
         <translation>mancante</translation>
+    </message>
+    <message>
+        <source>Looking for the game on this machine...</source>
+        <translation>Ricerca del gioco su questo computer...</translation>
+    </message>
+    <message>
+        <source>Using the game found on this machine: %1. Options can choose another.</source>
+        <translation>Uso del gioco trovato su questo computer: %1. Nelle Opzioni se ne può scegliere un altro.</translation>
     </message>
 </context>
 <context>

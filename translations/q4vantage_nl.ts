@@ -560,14 +560,6 @@
         <translation>Proxyserver gebruiken voor updates</translation>
     </message>
     <message>
-        <source>Quake 4 Executable:</source>
-        <translation>Quake 4-programma:</translation>
-    </message>
-    <message>
-        <source>Browse</source>
-        <translation>Bladeren</translation>
-    </message>
-    <message>
         <source>OK</source>
         <translation>OK</translation>
     </message>
@@ -637,6 +629,123 @@
     <message>
         <source>No</source>
         <translation>Nee</translation>
+    </message>
+</context>
+<context>
+    <name>GameBox</name>
+    <message>
+        <source>Game:</source>
+        <translation>Spel:</translation>
+    </message>
+    <message>
+        <source>Look Again</source>
+        <translation>Opnieuw zoeken</translation>
+    </message>
+    <message>
+        <source>Looks for the game&apos;s installs on this machine again: Steam&apos;s libraries, the Linux release and Wine.</source>
+        <translation>Zoekt opnieuw naar installaties van het spel op deze computer: Steam-bibliotheken, de Linux-versie en Wine.</translation>
+    </message>
+    <message>
+        <source>Quake 4 Executable:</source>
+        <translation>Quake 4-programma:</translation>
+    </message>
+    <message>
+        <source>Browse</source>
+        <translation>Bladeren</translation>
+    </message>
+    <message>
+        <source>A join runs:</source>
+        <translation>Deelnemen start:</translation>
+    </message>
+    <message>
+        <source>Looking for the game on this machine...</source>
+        <translation>Spel wordt op deze computer gezocht...</translation>
+    </message>
+    <message>
+        <source>None found</source>
+        <translation>Niets gevonden</translation>
+    </message>
+    <message>
+        <source>Ask at the first join</source>
+        <translation>Vragen bij eerste keer deelnemen</translation>
+    </message>
+    <message>
+        <source>Other program...</source>
+        <translation>Ander programma...</translation>
+    </message>
+    <message>
+        <source>No program chosen</source>
+        <translation>Geen programma gekozen</translation>
+    </message>
+    <message>
+        <source>Started in %1</source>
+        <translation>Gestart in %1</translation>
+    </message>
+    <message>
+        <source>Chosen at the first join</source>
+        <translation>Gekozen bij eerste keer deelnemen</translation>
+    </message>
+</context>
+<context>
+    <name>GameChooser</name>
+    <message>
+        <source>The game&apos;s Windows build</source>
+        <translation>De Windows-versie van het spel</translation>
+    </message>
+    <message>
+        <source>%1 is the game&apos;s Windows build, which this system cannot start by itself, and neither Steam with the game nor Wine is installed here.
+
+Install the game in Steam (which runs it through Proton), or install Wine (Debian&apos;s package &quot;wine&quot;), or choose the Linux release&apos;s &quot;quake4&quot; instead.</source>
+        <translation>%1 is de Windows-versie van het spel, die dit systeem niet zelf kan starten, en Steam met het spel noch Wine is hier geïnstalleerd.
+
+Installeer het spel in Steam (dat het via Proton draait), of installeer Wine (Debian-pakket &quot;wine&quot;), of kies in plaats daarvan &quot;quake4&quot; van de Linux-versie.</translation>
+    </message>
+    <message>
+        <source>Through Steam</source>
+        <translation>Via Steam</translation>
+    </message>
+    <message>
+        <source>Through Wine</source>
+        <translation>Via Wine</translation>
+    </message>
+    <message>
+        <source>%1 is the game&apos;s Windows build, which this system cannot start by itself. Start it through Steam (%2) or through Wine?</source>
+        <translation>%1 is de Windows-versie van het spel, die dit systeem niet zelf kan starten. Starten via Steam (%2) of via Wine?</translation>
+    </message>
+    <message>
+        <source>%1 is the game&apos;s Windows build, which this system cannot start by itself. Start it through Steam (%2)?</source>
+        <translation>%1 is de Windows-versie van het spel, die dit systeem niet zelf kan starten. Starten via Steam (%2)?</translation>
+    </message>
+    <message>
+        <source>%1 is the game&apos;s Windows build, which this system cannot start by itself. Start it through Wine?</source>
+        <translation>%1 is de Windows-versie van het spel, die dit systeem niet zelf kan starten. Starten via Wine?</translation>
+    </message>
+    <message>
+        <source>Which Quake 4?</source>
+        <translation>Welke Quake 4?</translation>
+    </message>
+    <message>
+        <source>Quake 4 is installed more than once here. Which one should a join start? You can change it later in Options.</source>
+        <translation>Quake 4 is hier meer dan eens geïnstalleerd. Welke moet deelnemen starten? U kunt dit later wijzigen in Opties.</translation>
+    </message>
+</context>
+<context>
+    <name>GameInstall</name>
+    <message>
+        <source>Steam: %1</source>
+        <translation>Steam: %1</translation>
+    </message>
+    <message>
+        <source>Steam (Flatpak): %1</source>
+        <translation>Steam (Flatpak): %1</translation>
+    </message>
+    <message>
+        <source>Linux release: %1</source>
+        <translation>Linux-versie: %1</translation>
+    </message>
+    <message>
+        <source>Wine: %1</source>
+        <translation>Wine: %1</translation>
     </message>
 </context>
 <context>
@@ -718,6 +827,14 @@ Wachten op een vrije plek en deelnemen zodra er een vrijkomt?</translation>
     <message>
         <source>missing</source>
         <translation>ontbreekt</translation>
+    </message>
+    <message>
+        <source>Looking for the game on this machine...</source>
+        <translation>Spel wordt op deze computer gezocht...</translation>
+    </message>
+    <message>
+        <source>Using the game found on this machine: %1. Options can choose another.</source>
+        <translation>Het op deze computer gevonden spel wordt gebruikt: %1. In Opties kunt u een ander kiezen.</translation>
     </message>
 </context>
 <context>

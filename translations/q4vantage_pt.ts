@@ -560,14 +560,6 @@ responderam %2 de %3 servidores</translation>
         <translation>Usar servidor proxy para atualizações</translation>
     </message>
     <message>
-        <source>Quake 4 Executable:</source>
-        <translation>Executável do Quake 4:</translation>
-    </message>
-    <message>
-        <source>Browse</source>
-        <translation>Procurar...</translation>
-    </message>
-    <message>
         <source>OK</source>
         <translation>OK</translation>
     </message>
@@ -637,6 +629,123 @@ responderam %2 de %3 servidores</translation>
     <message>
         <source>No</source>
         <translation>Não</translation>
+    </message>
+</context>
+<context>
+    <name>GameBox</name>
+    <message>
+        <source>Game:</source>
+        <translation>Jogo:</translation>
+    </message>
+    <message>
+        <source>Look Again</source>
+        <translation>Procurar de novo</translation>
+    </message>
+    <message>
+        <source>Looks for the game&apos;s installs on this machine again: Steam&apos;s libraries, the Linux release and Wine.</source>
+        <translation>Procura de novo as instalações do jogo neste computador: bibliotecas do Steam, versão Linux e Wine.</translation>
+    </message>
+    <message>
+        <source>Quake 4 Executable:</source>
+        <translation>Executável do Quake 4:</translation>
+    </message>
+    <message>
+        <source>Browse</source>
+        <translation>Procurar...</translation>
+    </message>
+    <message>
+        <source>A join runs:</source>
+        <translation>Entrar executa:</translation>
+    </message>
+    <message>
+        <source>Looking for the game on this machine...</source>
+        <translation>Procurando o jogo neste computador...</translation>
+    </message>
+    <message>
+        <source>None found</source>
+        <translation>Nenhum encontrado</translation>
+    </message>
+    <message>
+        <source>Ask at the first join</source>
+        <translation>Perguntar ao entrar pela primeira vez</translation>
+    </message>
+    <message>
+        <source>Other program...</source>
+        <translation>Outro programa...</translation>
+    </message>
+    <message>
+        <source>No program chosen</source>
+        <translation>Nenhum programa escolhido</translation>
+    </message>
+    <message>
+        <source>Started in %1</source>
+        <translation>Iniciado em %1</translation>
+    </message>
+    <message>
+        <source>Chosen at the first join</source>
+        <translation>Escolhido ao entrar pela primeira vez</translation>
+    </message>
+</context>
+<context>
+    <name>GameChooser</name>
+    <message>
+        <source>The game&apos;s Windows build</source>
+        <translation>A versão Windows do jogo</translation>
+    </message>
+    <message>
+        <source>%1 is the game&apos;s Windows build, which this system cannot start by itself, and neither Steam with the game nor Wine is installed here.
+
+Install the game in Steam (which runs it through Proton), or install Wine (Debian&apos;s package &quot;wine&quot;), or choose the Linux release&apos;s &quot;quake4&quot; instead.</source>
+        <translation>%1 é a versão Windows do jogo, que este sistema não consegue iniciar sozinho, e nem o Steam com o jogo nem o Wine estão instalados aqui.
+
+Instale o jogo no Steam (que o executa com o Proton), ou instale o Wine (pacote Debian &quot;wine&quot;), ou escolha o &quot;quake4&quot; da versão Linux.</translation>
+    </message>
+    <message>
+        <source>Through Steam</source>
+        <translation>Pelo Steam</translation>
+    </message>
+    <message>
+        <source>Through Wine</source>
+        <translation>Pelo Wine</translation>
+    </message>
+    <message>
+        <source>%1 is the game&apos;s Windows build, which this system cannot start by itself. Start it through Steam (%2) or through Wine?</source>
+        <translation>%1 é a versão Windows do jogo, que este sistema não consegue iniciar sozinho. Iniciá-la pelo Steam (%2) ou pelo Wine?</translation>
+    </message>
+    <message>
+        <source>%1 is the game&apos;s Windows build, which this system cannot start by itself. Start it through Steam (%2)?</source>
+        <translation>%1 é a versão Windows do jogo, que este sistema não consegue iniciar sozinho. Iniciá-la pelo Steam (%2)?</translation>
+    </message>
+    <message>
+        <source>%1 is the game&apos;s Windows build, which this system cannot start by itself. Start it through Wine?</source>
+        <translation>%1 é a versão Windows do jogo, que este sistema não consegue iniciar sozinho. Iniciá-la pelo Wine?</translation>
+    </message>
+    <message>
+        <source>Which Quake 4?</source>
+        <translation>Qual Quake 4?</translation>
+    </message>
+    <message>
+        <source>Quake 4 is installed more than once here. Which one should a join start? You can change it later in Options.</source>
+        <translation>O Quake 4 está instalado mais de uma vez aqui. Qual deve ser iniciado ao entrar? Pode mudar isto depois nas Opções.</translation>
+    </message>
+</context>
+<context>
+    <name>GameInstall</name>
+    <message>
+        <source>Steam: %1</source>
+        <translation>Steam: %1</translation>
+    </message>
+    <message>
+        <source>Steam (Flatpak): %1</source>
+        <translation>Steam (Flatpak): %1</translation>
+    </message>
+    <message>
+        <source>Linux release: %1</source>
+        <translation>Versão Linux: %1</translation>
+    </message>
+    <message>
+        <source>Wine: %1</source>
+        <translation>Wine: %1</translation>
     </message>
 </context>
 <context>
@@ -718,6 +827,14 @@ Esperar por uma vaga e entrar assim que uma abrir?</translation>
     <message>
         <source>missing</source>
         <translation>em falta</translation>
+    </message>
+    <message>
+        <source>Looking for the game on this machine...</source>
+        <translation>Procurando o jogo neste computador...</translation>
+    </message>
+    <message>
+        <source>Using the game found on this machine: %1. Options can choose another.</source>
+        <translation>Usando o jogo encontrado neste computador: %1. Nas Opções pode escolher outro.</translation>
     </message>
 </context>
 <context>

@@ -11,12 +11,13 @@
 #include <QPushButton>
 
 DialogBar::DialogBar(SettingsStore& settings, Desktop& desktop, Language& language, ThemeService& themes,
-                     QString dataFolder, SelectServer selectServer, QWidget* parent)
+                     GameInstalls& installs, QString dataFolder, SelectServer selectServer, QWidget* parent)
     : QWidget(parent)
     , m_settings(settings)
     , m_desktop(desktop)
     , m_language(language)
     , m_themes(themes)
+    , m_installs(installs)
     , m_dataFolder(std::move(dataFolder))
     , m_selectServer(std::move(selectServer))
     , m_filters(new FrmFilters(settings, m_dataFolder, this))
@@ -54,7 +55,7 @@ FrmOptions* DialogBar::openOptions()
 {
     // Modal to the window, but not a nested event loop: the window keeps
     // drawing and tests can work the dialog.
-    auto* options = new FrmOptions(m_settings, m_desktop, m_language, m_themes, m_dataFolder, window());
+    auto* options = new FrmOptions(m_settings, m_desktop, m_language, m_themes, m_installs, m_dataFolder, window());
     options->setAttribute(Qt::WA_DeleteOnClose);
     options->setWindowModality(Qt::WindowModal);
     options->open();

@@ -10,6 +10,7 @@ class Desktop;
 class FrmFilters;
 class FrmHistory;
 class FrmOptions;
+class GameInstalls;
 class Language;
 class QLabel;
 class QPushButton;
@@ -29,8 +30,8 @@ public:
     // listed.
     using SelectServer = std::function<bool(const QString& address)>;
 
-    DialogBar(SettingsStore& settings, Desktop& desktop, Language& language, ThemeService& themes, QString dataFolder,
-              SelectServer selectServer, QWidget* parent = nullptr);
+    DialogBar(SettingsStore& settings, Desktop& desktop, Language& language, ThemeService& themes,
+              GameInstalls& installs, QString dataFolder, SelectServer selectServer, QWidget* parent = nullptr);
 
     const FrmFilters& filters() const { return *m_filters; }
     FrmOptions* openOptions();
@@ -56,6 +57,7 @@ private:
     Desktop& m_desktop;
     Language& m_language;
     ThemeService& m_themes;
+    GameInstalls& m_installs;
     QString m_dataFolder;
     SelectServer m_selectServer;
     FrmFilters* m_filters = nullptr;

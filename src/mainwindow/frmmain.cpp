@@ -5,6 +5,7 @@
 #include "mainwindow/autorefresh.h"
 #include "mainwindow/dialogbar.h"
 #include "mainwindow/findbar.h"
+#include "game/gameinstalls.h"
 #include "mainwindow/joinflow.h"
 #include "mainwindow/joinpanel.h"
 #include "mainwindow/listmenu.h"
@@ -75,8 +76,10 @@ void FrmMain::createControls()
     m_lists = new ServerLists(this);
     m_lists->setClock([this] { return m_desktop.clock().nowMs(); });
     m_lists->setFriends(m_settings.value(Keys::Friends));
+    // Looked for when first needed (a join, the options), never at start.
+    m_installs = new GameInstalls(m_desktop.gamePlaces(), this);
     m_dialogs = new DialogBar(
-        m_settings, m_desktop, m_language, *m_themes, m_dataFolder,
+        m_settings, m_desktop, m_language, *m_themes, *m_installs, m_dataFolder,
         [this](const QString& address) { return selectServer(address); }, this);
     m_lists->setRules(m_dialogs->filters().filters(), m_dialogs->filters().builtIn());
     m_queries = new QueryController(m_settings, m_dataFolder, m_desktop.clock(), this);
@@ -91,7 +94,7 @@ void FrmMain::createControls()
     m_details = &m_tabs->details();
 
     m_joinPanel = new JoinPanel(
-        m_settings, m_desktop, Favourites::filePath(m_dataFolder), PlayHistory::filePath(m_dataFolder),
+        m_settings, m_desktop, *m_installs, Favourites::filePath(m_dataFolder), PlayHistory::filePath(m_dataFolder),
         [this](const QString& address) {
             const int index = m_lists->servers().store().indexOf(address);
             return index >= 0 ? &m_lists->server(index) : nullptr;

@@ -11,6 +11,7 @@ class AutoRefresh;
 class Desktop;
 class DialogBar;
 class FindBar;
+class GameInstalls;
 class JoinPanel;
 class Language;
 class ListMenu;
@@ -116,6 +117,7 @@ private:
     ListMenu* m_menu = nullptr;
     ThemeService* m_themes = nullptr;
     UpdateFlow* m_updates = nullptr;
+    GameInstalls* m_installs = nullptr;
     DialogBar* m_dialogs = nullptr;
     AutoRefresh* m_autoRefresh = nullptr;
     SlotWaiter* m_waiter = nullptr;

@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "mainwindow/joinflow.h"
 
-#include "mainwindow/joincommand.h"
+#include "game/gameinstalls.h"
+#include "game/installfinder.h"
+#include "game/joincommand.h"
 #include "mainwindow/mapcheck.h"
 #include "mainwindow/slotwaiter.h"
 #include "platform/desktop.h"
@@ -14,6 +16,15 @@
 #include <QDir>
 #include <QFileInfo>
 
+#include <utility>
+
+namespace {
+
+// A server names its map: what a box or the status line quotes of it.
+constexpr qsizetype MaxShownMapName = 64;
+
+} // namespace
+
 JoinFlow::Target JoinFlow::Target::of(const ServerRecord& server, const QString& plainName)
 {
     Target target{
@@ -24,11 +35,14 @@ JoinFlow::Target JoinFlow::Target::of(const ServerRecord& server, const QString&
     return target;
 }
 
-JoinFlow::JoinFlow(SettingsStore& settings, Desktop& desktop, QString favouritesPath, QString historyPath,
-                   const HistoryComboBox& playerName, const HistoryComboBox& password, QWidget* window)
+JoinFlow::JoinFlow(SettingsStore& settings, Desktop& desktop, GameInstalls& installs, QString favouritesPath,
+                   QString historyPath, const HistoryComboBox& playerName, const HistoryComboBox& password,
+                   QWidget* window)
     : QObject(window)
     , m_settings(settings)
     , m_desktop(desktop)
+    , m_installs(installs)
+    , m_chooser(settings, desktop, installs)
     , m_favouritesPath(std::move(favouritesPath))
     , m_historyPath(std::move(historyPath))
     , m_playerName(playerName)
@@ -36,6 +50,8 @@ JoinFlow::JoinFlow(SettingsStore& settings, Desktop& desktop, QString favourites
     , m_window(window)
     , m_maps(new MapCheck(this))
 {
+    connect(m_maps, &MapCheck::indexed, this, &JoinFlow::mapStateChanged);
+    connect(&m_installs, &GameInstalls::looked, this, &JoinFlow::mapStateChanged);
 }
 
 void JoinFlow::joinByAddress()
@@ -76,21 +92,29 @@ QString JoinFlow::passwordFor(const Target& target) const
     return QString();
 }
 
-QString JoinFlow::executable()
+std::optional<GameInstall> JoinFlow::chosenWithoutLooking() const
 {
-    QString path = m_settings.value(Keys::Path);
-    if (!path.isEmpty())
-        return path;
-    path = m_desktop.chooseExecutable(m_window);
-    if (!path.isEmpty())
-        m_settings.set(Keys::Path, path);
-    return path;
+    // A program picked as the game has always been started (Path): nothing
+    // to look for first.
+    const QString setting = m_settings.value(Keys::Game);
+    if (setting.isEmpty() || setting == GameInstall::PickedSetting)
+        if (auto picked = InstallFinder::chosen(setting, m_settings.value(Keys::Path), {}, m_installs.places()))
+            if (!picked->isWindowsBuild())
+                return picked;
+    return std::nullopt;
 }
 
 QString JoinFlow::mapState(const ServerRecord& server)
 {
+    std::optional<GameInstall> install = chosenWithoutLooking();
+    // Needed now: looked for once, and the pane is told when known.
+    m_installs.look();
+    if (!install && m_installs.known())
+        install = m_chooser.chosen();
+    if (!install)
+        return {};
     const Target target = Target::of(server, QString());
-    switch (m_maps->check(MapCheck::gameFoldersOf(m_settings.value(Keys::Path)), target.map, target.mod)) {
+    switch (m_maps->check(install->gameFolders(), target.map, target.mod)) {
     case MapCheck::Verdict::Installed:
         return tr("installed");
     case MapCheck::Verdict::MissingMap:
@@ -101,35 +125,91 @@ QString JoinFlow::mapState(const ServerRecord& server)
     }
 }
 
-bool JoinFlow::mapSettled(const Target& target)
+template <typename Sender, typename Signal> void JoinFlow::resumeOn(Sender* sender, Signal signal, const Rest& rest)
 {
-    // No game folder yet (asked for at the start): nothing to check, nothing asked.
-    switch (m_maps->check(MapCheck::gameFoldersOf(m_settings.value(Keys::Path)), target.map, target.mod)) {
+    // Enter pressed three times while the folders are read is one join.
+    disconnect(m_waiting);
+    m_waiting = connect(
+        sender, signal, this, [this, rest] { proceed(rest); }, Qt::SingleShotConnection);
+}
+
+JoinFlow::Settled JoinFlow::settleInstall(std::optional<GameInstall>& install)
+{
+    if (m_chooser.pickedWithoutPath()) {
+        // "Other program" chosen, none picked yet: the documented dialog.
+        const auto picked = m_chooser.pick(m_window);
+        if (!picked)
+            return Settled::No;
+        m_chooser.remember(picked->install, picked->path);
+        install = picked->install;
+        return Settled::Yes;
+    }
+    if ((install = chosenWithoutLooking()))
+        return Settled::Yes;
+    if (!m_installs.known()) {
+        m_installs.look();
+        return Settled::Later;
+    }
+    if (const auto chosen = m_chooser.chosen()) {
+        if (!chosen->isWindowsBuild()) {
+            install = chosen;
+            return Settled::Yes;
+        }
+        // An .exe kept from before cannot start here by itself.
+        const auto through = m_chooser.runWindowsBuild(m_window, chosen->program);
+        if (!through)
+            return Settled::No;
+        m_chooser.remember(*through);
+        install = through;
+        return Settled::Yes;
+    }
+    const QList<GameInstall>& found = m_installs.found();
+    if (found.size() == 1) {
+        install = found.first();
+        m_taken = tr("Using the game found on this machine: %1. Options can choose another.").arg(install->label());
+    } else if (found.size() > 1) {
+        install = m_chooser.pickFound(m_window);
+    } else if (const auto picked = m_chooser.pick(m_window)) {
+        m_chooser.remember(picked->install, picked->path);
+        install = picked->install;
+        return Settled::Yes;
+    }
+    if (!install)
+        return Settled::No;
+    m_chooser.remember(*install);
+    return Settled::Yes;
+}
+
+JoinFlow::Settled JoinFlow::settleMap(const GameInstall& install, const Target& target)
+{
+    switch (m_maps->check(install.gameFolders(), target.map, target.mod)) {
     case MapCheck::Verdict::NotChecked:
     case MapCheck::Verdict::Installed:
-        return true;
+        return Settled::Yes;
     case MapCheck::Verdict::Pending:
         // Read once per folder, off the window's thread; the join goes on
         // when it has been.
-        emit status(tr("Looking for %1 in the game's archives...").arg(target.map), StatusTone::Querying);
-        connect(
-            m_maps, &MapCheck::indexed, this, [this, target] { join(target); }, Qt::SingleShotConnection);
-        return false;
+        emit status(tr("Looking for %1 in the game's archives...").arg(target.map.left(MaxShownMapName)),
+                    StatusTone::Querying);
+        return Settled::Later;
     case MapCheck::Verdict::MissingMap:
     case MapCheck::Verdict::MissingMod:
         break;
     }
+    const QString map = target.map.left(MaxShownMapName);
+    const QString mod = target.mod.left(MaxShownMapName);
     const QString question = GameFiles::modFolder(target.mod).isEmpty()
-                                 ? tr("%1 is not installed. Join anyway?").arg(target.map)
-                                 : tr("%1 is not installed (mod %2). Join anyway?").arg(target.map, target.mod);
+                                 ? tr("%1 is not installed. Join anyway?").arg(map)
+                                 : tr("%1 is not installed (mod %2). Join anyway?").arg(map, mod);
     return m_desktop.message(m_window, Desktop::Icon::Question, target.serverName, question,
-                             QMessageBox::Yes | QMessageBox::No) == QMessageBox::Yes;
+                             QMessageBox::Yes | QMessageBox::No) == QMessageBox::Yes
+               ? Settled::Yes
+               : Settled::No;
 }
 
 void JoinFlow::join(const Target& target)
 {
-    if (!mapSettled(target))
-        return;
+    disconnect(m_waiting);
     emit joining();
     QString password = passwordFor(target);
     if (target.passworded && password.isEmpty()) {
@@ -142,38 +222,70 @@ void JoinFlow::join(const Target& target)
                               QMessageBox::Yes | QMessageBox::No) != QMessageBox::Yes)
             return;
     }
+    bool waitForSlot = false;
     if (target.full && m_settings.value(Keys::OfferSlotWait)) {
         const auto answer = m_desktop.message(
             m_window, Desktop::Icon::Question, target.serverName,
             tr("%1 is full.\nWait for a free slot and join as soon as one opens?").arg(target.serverName),
             QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel,
             {{QMessageBox::Yes, tr("Wait for a Slot")}, {QMessageBox::No, tr("Join Anyway")}});
-        if (answer == QMessageBox::Yes) {
-            // Asked now, not when the slot opens minutes later.
-            if (!executable().isEmpty())
-                emit waitRequested(target, password);
+        if (answer != QMessageBox::Yes && answer != QMessageBox::No)
             return;
-        }
-        if (answer != QMessageBox::No)
-            return;
+        waitForSlot = answer == QMessageBox::Yes;
     }
-    start(target, password);
+    proceed({target, password, waitForSlot, true});
 }
 
 void JoinFlow::start(const Target& target, const QString& password)
 {
-    const QString program = executable();
-    if (program.isEmpty())
+    disconnect(m_waiting);
+    proceed({target, password, false, false});
+}
+
+void JoinFlow::proceed(const Rest& rest)
+{
+    std::optional<GameInstall> install;
+    switch (settleInstall(install)) {
+    case Settled::No:
         return;
-    const JoinCommand command = JoinCommand::make(program, m_playerName.currentText(), target.address, password);
+    case Settled::Later:
+        emit status(tr("Looking for the game on this machine..."), StatusTone::Querying);
+        resumeOn(&m_installs, &GameInstalls::looked, rest);
+        return;
+    case Settled::Yes:
+        break;
+    }
+    if (rest.checkMap) {
+        switch (settleMap(*install, rest.target)) {
+        case Settled::No:
+            return;
+        case Settled::Later:
+            resumeOn(m_maps, &MapCheck::indexed, rest);
+            return;
+        case Settled::Yes:
+            break;
+        }
+    }
+    if (rest.waitForSlot)
+        emit waitRequested(rest.target, rest.password);
+    else
+        launch(*install, rest.target, rest.password);
+}
+
+void JoinFlow::launch(const GameInstall& install, const Target& target, const QString& password)
+{
+    const JoinCommand command = JoinCommand::make(install, m_playerName.currentText(), target.address, password);
     // The address only: the status line never shows the password.
-    emit status(tr("Connecting to %1").arg(target.address), StatusTone::Done);
-    if (!m_desktop.startDetached(command.program, command.arguments, command.workingFolder)) {
-        const QFileInfo file(program);
+    QString said = tr("Connecting to %1").arg(target.address);
+    if (!m_taken.isEmpty())
+        said += QLatin1Char('\n') + std::exchange(m_taken, QString());
+    emit status(said, StatusTone::Done);
+    if (!m_desktop.startDetached(command.program, command.arguments, command.workingFolder, command.environment)) {
+        const QFileInfo file(command.program);
         const QString why = !file.exists()         ? tr("The game could not be started: %1 does not exist.")
                             : !file.isExecutable() ? tr("The game could not be started: %1 is not a program.")
                                                    : tr("The game could not be started: %1.");
-        emit status(why.arg(QDir::toNativeSeparators(program)), StatusTone::Failed);
+        emit status(why.arg(QDir::toNativeSeparators(command.program)), StatusTone::Failed);
         return;
     }
     record(target);

@@ -30,7 +30,7 @@ public:
 
 } // namespace
 
-JoinPanel::JoinPanel(SettingsStore& settings, Desktop& desktop, const QString& favouritesPath,
+JoinPanel::JoinPanel(SettingsStore& settings, Desktop& desktop, GameInstalls& installs, const QString& favouritesPath,
                      const QString& historyPath, ListedServer listed, QWidget* window)
     : QFrame(window)
 {
@@ -54,7 +54,8 @@ JoinPanel::JoinPanel(SettingsStore& settings, Desktop& desktop, const QString& f
     cmdJoinIP = makeControl<QPushButton>(this, "cmdJoinIP");
     cmdJoin->setAutoDefault(false);
     cmdJoinIP->setAutoDefault(false);
-    m_flow = new JoinFlow(settings, desktop, favouritesPath, historyPath, *cmbPlayerName, *cmbPassword, window);
+    m_flow = new JoinFlow(settings, desktop, installs, favouritesPath, historyPath, *cmbPlayerName, *cmbPassword,
+                          window);
     m_waiter = new SlotWaiter(desktop.clock(), this);
     cmdStopWaiting = makeControl<QPushButton>(window, "cmdStopWaiting");
     cmdStopWaiting->hide();

@@ -6,6 +6,7 @@
 #include <functional>
 
 class Desktop;
+class GameInstalls;
 class HistoryComboBox;
 class JoinFlow;
 class PasswordKeeper;
@@ -29,8 +30,8 @@ public:
     // The listed server of an "address:port", or none.
     using ListedServer = std::function<const ServerRecord*(const QString& address)>;
 
-    JoinPanel(SettingsStore& settings, Desktop& desktop, const QString& favouritesPath, const QString& historyPath,
-              ListedServer listed, QWidget* window);
+    JoinPanel(SettingsStore& settings, Desktop& desktop, GameInstalls& installs, const QString& favouritesPath,
+              const QString& historyPath, ListedServer listed, QWidget* window);
 
     HistoryComboBox* playerName() const { return cmbPlayerName; }
     HistoryComboBox* password() const { return cmbPassword; }

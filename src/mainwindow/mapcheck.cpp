@@ -11,13 +11,6 @@ MapCheck::MapCheck(QObject* parent)
 {
 }
 
-QStringList MapCheck::gameFoldersOf(const QString& executable)
-{
-    if (executable.trimmed().isEmpty())
-        return {};
-    return {QFileInfo(executable).absolutePath(), QDir::home().filePath(QStringLiteral(".quake4"))};
-}
-
 MapCheck::Verdict MapCheck::check(const QStringList& gameFolders, const QString& map, const QString& fsGame)
 {
     const QStringList entries = GameFiles::mapEntries(map);
@@ -51,7 +44,11 @@ MapCheck::Verdict MapCheck::check(const QStringList& gameFolders, const QString&
     // No q4base anywhere: this is no game folder we know how to read.
     if (!baseThere)
         return Verdict::NotChecked;
-    return mapThere ? Verdict::Installed : modThere ? Verdict::MissingMap : Verdict::MissingMod;
+    // The game cannot join a mod's server without the mod, even with the
+    // map in q4base.
+    if (!modThere)
+        return Verdict::MissingMod;
+    return mapThere ? Verdict::Installed : Verdict::MissingMap;
 }
 
 void MapCheck::read(const QString& folder)

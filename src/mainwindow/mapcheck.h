@@ -19,11 +19,10 @@ public:
 
     explicit MapCheck(QObject* parent = nullptr);
 
-    // gameFolders hold q4base and the mods' folders (the executable's
-    // folder, the user's own). Pending while a folder is still being read.
+    // gameFolders hold q4base and the mods' folders (the install's own,
+    // the user's). Pending while a folder is still being read; a mod the
+    // game lacks is missing whatever q4base holds.
     Verdict check(const QStringList& gameFolders, const QString& map, const QString& fsGame);
-    // The game folders of an executable: its own, and the user's ~/.quake4.
-    static QStringList gameFoldersOf(const QString& executable);
 
 signals:
     // A folder was read: a pending check can be asked again.

@@ -60,7 +60,7 @@ void ServerSelection::showPlayer(int server, int player)
 void ServerSelection::followMapCheck(JoinFlow& flow)
 {
     m_details.setMapState([&flow](const ServerRecord& server) { return flow.mapState(server); });
-    connect(&flow.maps(), &MapCheck::indexed, this, [this] { refreshed(m_server); });
+    connect(&flow, &JoinFlow::mapStateChanged, this, [this] { refreshed(m_server); });
 }
 
 void ServerSelection::refreshed(int server)

@@ -5,6 +5,7 @@
 #include <QApplication>
 #include <QColorDialog>
 #include <QDesktopServices>
+#include <QDir>
 #include <QFileDialog>
 #include <QGuiApplication>
 #include <QInputDialog>
@@ -40,9 +41,11 @@ void Desktop::closeOtherWindows(const QWidget* main)
     }
 }
 
-QString Desktop::chooseExecutable(QWidget* parent)
+QString Desktop::chooseExecutable(QWidget* parent, const QString& folder)
 {
-    return openFileName(parent, tr("Select your Quake 4 Executable"), QString(),
+    // The home folder by default: Steam's and Wine's folders are hidden
+    // ones below it, typed or shown from there.
+    return openFileName(parent, tr("Select your Quake 4 Executable"), folder.isEmpty() ? QDir::homePath() : folder,
                         tr("Quake 4 Executable (%1)").arg(executablePattern()));
 }
 
@@ -82,7 +85,24 @@ std::optional<QString> QtDesktop::inputText(QWidget* parent, const QString& titl
 
 QString QtDesktop::openFileName(QWidget* parent, const QString& title, const QString& folder, const QString& filter)
 {
-    return QFileDialog::getOpenFileName(parent, title, folder, filter);
+    QFileDialog dialog(parent, title, folder, filter);
+    dialog.setFileMode(QFileDialog::ExistingFile);
+    // The game often lies below a hidden folder (~/.steam, ~/.wine).
+    dialog.setFilter(dialog.filter() | QDir::Hidden);
+    if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty())
+        return {};
+    return dialog.selectedFiles().constFirst();
+}
+
+std::optional<int> QtDesktop::chooseItem(QWidget* parent, const QString& title, const QString& prompt,
+                                         const QStringList& items)
+{
+    bool ok = false;
+    const QString item = QInputDialog::getItem(parent, title, prompt, items, 0, false, &ok);
+    if (!ok)
+        return std::nullopt;
+    const qsizetype index = items.indexOf(item);
+    return index < 0 ? std::nullopt : std::optional<int>(int(index));
 }
 
 bool QtDesktop::openUrl(const QUrl& url)
@@ -99,9 +119,23 @@ std::optional<QColor> QtDesktop::pickColour(QWidget* parent, const QColor& start
     return dialog.selectedColor();
 }
 
-bool QtDesktop::startDetached(const QString& program, const QStringList& arguments, const QString& workingFolder)
+bool QtDesktop::startDetached(const QString& program, const QStringList& arguments, const QString& workingFolder,
+                              const QStringList& environment)
 {
-    return QProcess::startDetached(program, arguments, workingFolder);
+    QProcess process;
+    process.setProgram(program);
+    process.setArguments(arguments);
+    process.setWorkingDirectory(workingFolder);
+    if (!environment.isEmpty()) {
+        QProcessEnvironment variables = QProcessEnvironment::systemEnvironment();
+        for (const QString& entry : environment) {
+            const qsizetype equals = entry.indexOf(QLatin1Char('='));
+            if (equals > 0)
+                variables.insert(entry.left(equals), entry.mid(equals + 1));
+        }
+        process.setProcessEnvironment(variables);
+    }
+    return process.startDetached();
 }
 
 QtDesktop::QtDesktop() = default;

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "platform/clock.h"
+#include "platform/gameplaces.h"
 #include "platform/secretstore.h"
 
 #include <QColor>
@@ -34,8 +35,9 @@ public:
     // an .exe, its Linux binaries have no extension.
     static QString executablePattern();
     // The file dialog that asks for the game's executable (the options'
-    // Browse, a join without one); an empty text when the user cancelled.
-    QString chooseExecutable(QWidget* parent);
+    // Browse, a join without one), opened in folder (the home folder when
+    // empty); an empty text when the user cancelled.
+    QString chooseExecutable(QWidget* parent, const QString& folder = {});
 
     // Closes every other visible window of the program (editors, dialogs)
     // when the main window closes, so each writes what it holds.
@@ -61,6 +63,11 @@ public:
     virtual QString openFileName(QWidget* parent, const QString& title, const QString& folder,
                                  const QString& filter) = 0;
 
+    // A modal box with a list to pick one entry of; its index, or nothing
+    // when the user cancelled.
+    virtual std::optional<int> chooseItem(QWidget* parent, const QString& title, const QString& prompt,
+                                          const QStringList& items) = 0;
+
     // The colour picker, opened with a colour; nothing when the user
     // cancelled.
     virtual std::optional<QColor> pickColour(QWidget* parent, const QColor& start) = 0;
@@ -69,8 +76,13 @@ public:
     virtual bool openUrl(const QUrl& url) = 0;
 
     // Starts a program that outlives this one. The arguments are passed as
-    // they are, never through a shell.
-    virtual bool startDetached(const QString& program, const QStringList& arguments, const QString& workingFolder) = 0;
+    // they are, never through a shell; environment holds "NAME=value"
+    // entries added to this program's own.
+    virtual bool startDetached(const QString& program, const QStringList& arguments, const QString& workingFolder,
+                               const QStringList& environment) = 0;
+
+    // Where this machine may hold the game.
+    virtual GamePlaces gamePlaces() const = 0;
 
     // The time and the slow timers (minutes, not the query's milliseconds).
     virtual Clock& clock() = 0;
@@ -94,9 +106,13 @@ public:
     std::optional<QString> inputText(QWidget* parent, const QString& title, const QString& prompt,
                                      const QString& initialText = {}, Echo echo = Echo::Normal) override;
     QString openFileName(QWidget* parent, const QString& title, const QString& folder, const QString& filter) override;
+    std::optional<int> chooseItem(QWidget* parent, const QString& title, const QString& prompt,
+                                  const QStringList& items) override;
     std::optional<QColor> pickColour(QWidget* parent, const QColor& start) override;
     bool openUrl(const QUrl& url) override;
-    bool startDetached(const QString& program, const QStringList& arguments, const QString& workingFolder) override;
+    bool startDetached(const QString& program, const QStringList& arguments, const QString& workingFolder,
+                       const QStringList& environment) override;
+    GamePlaces gamePlaces() const override { return GamePlaces::ofThisMachine(); }
     Clock& clock() override { return m_clock; }
     SecretStore& secrets() override { return m_secrets; }
     void setNotifying(bool on) override;

@@ -3,6 +3,7 @@
 
 #include "platform/desktop.h"
 #include "presentation/friendstab.h"
+#include "presentation/gamebox.h"
 #include "presentation/language.h"
 #include "presentation/serverstab.h"
 #include "presentation/startportrule.h"
@@ -29,7 +30,7 @@
 #include <QVBoxLayout>
 
 FrmOptions::FrmOptions(SettingsStore& settings, Desktop& desktop, Language& language, ThemeService& themes,
-                       const QString& dataFolder, QWidget* parent)
+                       GameInstalls& installs, const QString& dataFolder, QWidget* parent)
     : QDialog(parent)
     , m_settings(settings)
     , m_desktop(desktop)
@@ -51,7 +52,7 @@ FrmOptions::FrmOptions(SettingsStore& settings, Desktop& desktop, Language& lang
     m_friendsTab = new FriendsTab(settings, desktop, tabOptions);
     m_friendsTab->setObjectName(QStringLiteral("tabFriends"));
     tabOptions->addTab(m_friendsTab, QString());
-    buildSettingsTab(settingsPage);
+    buildSettingsTab(settingsPage, installs);
 
     lblMessage = new MessageLine(this);
     cmdOK = makeControl<QPushButton>(this, "cmdOK");
@@ -84,7 +85,7 @@ FrmOptions::FrmOptions(SettingsStore& settings, Desktop& desktop, Language& lang
     load();
 }
 
-void FrmOptions::buildSettingsTab(QWidget* page)
+void FrmOptions::buildSettingsTab(QWidget* page, GameInstalls& installs)
 {
     lblLanguage = makeControl<QLabel>(page, "lblLanguage");
     cmbLanguage = makeControl<QComboBox>(page, "cmbLanguage");
@@ -106,16 +107,12 @@ void FrmOptions::buildSettingsTab(QWidget* page)
     lblPortDesc->setWordWrap(true);
     chkProxy = makeControl<QCheckBox>(page, "chkProxy");
     txtProxy = makeControl<QLineEdit>(page, "txtProxy");
-    lblPath = makeControl<QLabel>(page, "lblPath");
-    txtPath = makeControl<QLineEdit>(page, "txtPath");
-    cmdBrowse = makeControl<QPushButton>(page, "cmdBrowse");
     chkKeyring = makeControl<QCheckBox>(page, "chkKeyring");
 
     // Each caption leads to its box: a click, and its Alt+letter.
     lblLanguage->setBuddy(cmbLanguage);
     lblSpeed->setBuddy(cmbSpeed);
     lblPort->setBuddy(txtStartPort);
-    lblPath->setBuddy(txtPath);
 
     auto* grid = new QGridLayout(page);
     grid->addWidget(lblLanguage, 0, 0);
@@ -132,11 +129,9 @@ void FrmOptions::buildSettingsTab(QWidget* page)
     grid->addWidget(chkRefresh, 6, 0, 1, 4);
     grid->addWidget(chkProxy, 7, 0, 1, 4);
     grid->addWidget(txtProxy, 8, 0, 1, 4);
-    grid->addWidget(lblPath, 9, 0, 1, 4);
-    grid->addWidget(txtPath, 10, 0, 1, 3);
-    grid->addWidget(cmdBrowse, 10, 3);
-    grid->addWidget(chkKeyring, 11, 0, 1, 4);
-    grid->setRowStretch(12, 1);
+    m_game = new GameBox(m_settings, m_desktop, installs, page, grid, 9);
+    grid->addWidget(chkKeyring, 13, 0, 1, 4);
+    grid->setRowStretch(14, 1);
     grid->setColumnStretch(1, 1);
     grid->setColumnStretch(3, 1);
 
@@ -147,7 +142,6 @@ void FrmOptions::buildSettingsTab(QWidget* page)
     connect(txtStartPort, &QLineEdit::textChanged, this, &FrmOptions::runStartPortRule);
     connect(cmbSpeed, &QComboBox::currentIndexChanged, this, &FrmOptions::runStartPortRule);
     connect(chkProxy, &QCheckBox::toggled, txtProxy, &QLineEdit::setEnabled);
-    connect(cmdBrowse, &QPushButton::clicked, this, &FrmOptions::browse);
 }
 
 void FrmOptions::retranslateUi()
@@ -174,8 +168,7 @@ void FrmOptions::retranslateUi()
     lblPort->setText(tr("Port Range:"));
     lblPortDesc->setText(tr("Note: Port Range is dependant on the query speed."));
     chkProxy->setText(tr("Use Proxy Server for updates"));
-    lblPath->setText(tr("Quake 4 Executable:"));
-    cmdBrowse->setText(tr("Browse"));
+    m_game->retranslateUi();
 
     m_themeTab->retranslateUi();
 
@@ -208,7 +201,7 @@ void FrmOptions::load()
     txtProxy->setText(m_settings.value(Keys::ProxyAddress));
     txtProxy->setEnabled(chkProxy->isChecked());
     chkRefresh->setChecked(m_settings.value(Keys::RefreshServers));
-    txtPath->setText(m_settings.value(Keys::Path));
+    m_game->load();
 
     m_serversTab->load();
     m_friendsTab->load();
@@ -255,14 +248,7 @@ void FrmOptions::resetToDefaults()
     txtStartPort->setText(QString::number(Keys::StartPort.defaultValue));
     chkProxy->setChecked(false);
     txtProxy->clear();
-    txtPath->clear();
-}
-
-void FrmOptions::browse()
-{
-    const QString path = m_desktop.chooseExecutable(this);
-    if (!path.isEmpty())
-        txtPath->setText(path);
+    m_game->resetToDefaults();
 }
 
 bool FrmOptions::save()
@@ -286,7 +272,7 @@ bool FrmOptions::save()
         m_settings.set(Keys::Proxy, chkProxy->isChecked());
         m_settings.set(Keys::ProxyAddress, txtProxy->text());
         m_settings.set(Keys::RefreshServers, chkRefresh->isChecked());
-        m_settings.set(Keys::Path, txtPath->text());
+        m_game->save();
         m_settings.set(Keys::Speed, cmbSpeed->currentIndex());
         m_serversTab->save();
         m_friendsTab->save();

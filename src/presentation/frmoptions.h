@@ -6,6 +6,8 @@
 #include <QDialog>
 
 class Desktop;
+class GameBox;
+class GameInstalls;
 class Language;
 class MessageLine;
 class QCheckBox;
@@ -31,9 +33,10 @@ class FrmOptions final : public QDialog {
 public:
     enum Tab { SettingsTab = 0, ThemeTab = 1, SourcesTab = 2, FriendsTabIndex = 3 };
 
-    // dataFolder holds the known servers the "Servers" tab can forget.
+    // dataFolder holds the known servers the "Servers" tab can forget;
+    // installs are the game's, looked for when the dialog opens.
     FrmOptions(SettingsStore& settings, Desktop& desktop, Language& language, ThemeService& themes,
-               const QString& dataFolder, QWidget* parent = nullptr);
+               GameInstalls& installs, const QString& dataFolder, QWidget* parent = nullptr);
 
     // OK and Apply: false, with the port message, when the start port is
     // refused; nothing is written then.
@@ -44,12 +47,11 @@ protected:
     void reject() override;
 
 private:
-    void buildSettingsTab(QWidget* page);
+    void buildSettingsTab(QWidget* page, GameInstalls& installs);
     void retranslateUi();
     void load();
     void runStartPortRule();
     void resetToDefaults();
-    void browse();
     void say(const QString& text);
 
     SettingsStore& m_settings;
@@ -74,9 +76,7 @@ private:
     QCheckBox* chkProxy = nullptr;
     QLineEdit* txtProxy = nullptr;
     QCheckBox* chkRefresh = nullptr;
-    QLabel* lblPath = nullptr;
-    QLineEdit* txtPath = nullptr;
-    QPushButton* cmdBrowse = nullptr;
+    GameBox* m_game = nullptr;
 
     ::ThemeTab* m_themeTab = nullptr;
     ServersTab* m_serversTab = nullptr;

@@ -85,7 +85,7 @@ void UpdateFlow::downloaded(const QString& installer, InstallerTrust::Verdict ve
                           QMessageBox::Ok);
         return;
     }
-    if (!m_desktop.startDetached(installer, {}, QString())) {
+    if (!m_desktop.startDetached(installer, {}, QString(), {})) {
         m_desktop.message(m_window, Desktop::Icon::Warning, title,
                           tr("The installer was saved to %1, but it cannot be started on this system.")
                               .arg(QDir::toNativeSeparators(installer)),

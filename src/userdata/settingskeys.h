@@ -57,6 +57,10 @@ inline constexpr NumberSetting Speed{u"Speed", 5};
 inline constexpr NumberSetting StartPort{u"StartPort", 9000};
 inline constexpr FlagSetting RefreshServers{u"RefreshServers", true};
 inline constexpr TextSetting Path{u"Path"};
+// The install a join starts: "steam:FOLDER", "flatpak-steam:FOLDER",
+// "linux:FOLDER", "wine:FOLDER", or "program" for the program in Path.
+// Empty: none chosen yet (a Path set before is still the program).
+inline constexpr TextSetting Game{u"Game"};
 inline constexpr FlagSetting CloseAfterJoin{u"CloseAfterJoin", true};
 inline constexpr FlagSetting IncludeEmpty{u"IncludeEmpty", true};
 inline constexpr FlagSetting IncludeFull{u"IncludeFull", true};

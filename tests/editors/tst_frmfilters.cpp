@@ -61,9 +61,9 @@ private slots:
 
     void loadsOnlyTheFirstSavedFilter()
     {
-        QVERIFY(Filters::writeFile(filtersPath(), {{"si_map", "q4dm*"}, {"si_usepass", "0"}, {"gamename", "q4max"}}));
+        QVERIFY(Filters::writeFile(filtersPath(), {{"si_map", "mp/q4dm*"}, {"si_usepass", "0"}, {"gamename", "q4max"}}));
         FrmFilters form(*m_settings, m_dir->path());
-        QCOMPARE(form.filters(), (QList<Filters::VariableFilter>{{"si_map", "q4dm*"}}));
+        QCOMPARE(form.filters(), (QList<Filters::VariableFilter>{{"si_map", "mp/q4dm*"}}));
     }
 
     void editingCommitsAliasesValuesAndSavesAtOnce()
@@ -107,15 +107,15 @@ private slots:
         QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
         QCOMPARE(form.filters().at(0).variable, QStringLiteral("si_map"));
         QCOMPARE(QApplication::focusWidget(), box);
-        QTest::keyClicks(QApplication::focusWidget(), QStringLiteral("q4dm*"));
+        QTest::keyClicks(QApplication::focusWidget(), QStringLiteral("mp/q4dm*"));
         QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
-        QCOMPARE(form.filters().at(0), (Filters::VariableFilter{"si_map", "q4dm*"}));
-        QCOMPARE(fileBytes(filtersPath()), QByteArray("si_map\x01q4dm*\r\n"));
+        QCOMPARE(form.filters().at(0), (Filters::VariableFilter{"si_map", "mp/q4dm*"}));
+        QCOMPARE(fileBytes(filtersPath()), QByteArray("si_map\x01mp/q4dm*\r\n"));
     }
 
     void theKeyboardEditsACellAndTheMenuKeyOpensTheMenu()
     {
-        QVERIFY(Filters::writeFile(filtersPath(), {{"si_map", "q4dm*"}}));
+        QVERIFY(Filters::writeFile(filtersPath(), {{"si_map", "mp/q4dm*"}}));
         FrmFilters form(*m_settings, m_dir->path());
         form.show();
         QVERIFY(QTest::qWaitForWindowExposed(&form));
@@ -131,12 +131,12 @@ private slots:
         QVERIFY(box->isVisible());
         QCOMPARE(QApplication::focusWidget(), box);
         QTest::keyClick(box, Qt::Key_A, Qt::ControlModifier);
-        QTest::keyClicks(box, QStringLiteral("q4ctf*"));
+        QTest::keyClicks(box, QStringLiteral("mp/q4ctf*"));
         // The editor's Enter commits; it must not reach the list and open
         // the editor again.
         press(Qt::Key_Return);
         QVERIFY(!box->isVisible());
-        QCOMPARE(form.filters(), (QList<Filters::VariableFilter>{{"si_map", "q4ctf*"}}));
+        QCOMPARE(form.filters(), (QList<Filters::VariableFilter>{{"si_map", "mp/q4ctf*"}}));
 
         list->setFocus(Qt::TabFocusReason);
         press(Qt::Key_F10, Qt::ShiftModifier);
@@ -146,7 +146,7 @@ private slots:
         // "Edit Cell" from a menu opened by keys edits the current cell.
         menu->findChild<QAction*>(QStringLiteral("mPopEditCell"))->trigger();
         QVERIFY(box->isVisible());
-        QCOMPARE(box->text(), QStringLiteral("q4ctf*"));
+        QCOMPARE(box->text(), QStringLiteral("mp/q4ctf*"));
     }
 
     void aFailedSaveIsToldButTheListsStillFollow()
@@ -195,7 +195,7 @@ private slots:
 
     void copyColumnComesOutOnOneLine()
     {
-        QVERIFY(Filters::writeFile(filtersPath(), {{"si_map", "q4dm*"}}));
+        QVERIFY(Filters::writeFile(filtersPath(), {{"si_map", "mp/q4dm*"}}));
         FrmFilters form(*m_settings, m_dir->path());
         form.show();
         QTest::mouseClick(form.findChild<QPushButton*>(QStringLiteral("cmdNew")), Qt::LeftButton);
@@ -207,9 +207,9 @@ private slots:
         QVERIFY(menu->isVisible());
         menu->hide();
         menu->findChild<QAction*>(QStringLiteral("mPopCopyColumn"))->trigger();
-        QCOMPARE(QGuiApplication::clipboard()->text(), QStringLiteral("q4dm*     "));
+        QCOMPARE(QGuiApplication::clipboard()->text(), QStringLiteral("mp/q4dm*     "));
         menu->findChild<QAction*>(QStringLiteral("mPopCopyRow"))->trigger();
-        QCOMPARE(QGuiApplication::clipboard()->text(), QStringLiteral("si_map     q4dm*"));
+        QCOMPARE(QGuiApplication::clipboard()->text(), QStringLiteral("si_map     mp/q4dm*"));
     }
 
     void draggedColumnsAreSavedThenPlacedByTheFavouritesKeys()

@@ -29,7 +29,7 @@ constexpr qint64 Minute = 60 * 1000;
 
 inline SimReplies::Rules rules(const QByteArray& name, int maxPlayers)
 {
-    return {{"si_name", name}, {"si_map", "q4dm1"}, {"si_maxplayers", QByteArray::number(maxPlayers)}};
+    return {{"si_name", name}, {"si_map", "mp/q4dm1"}, {"si_maxplayers", QByteArray::number(maxPlayers)}};
 }
 
 inline QList<SimReplies::Player> players(const QList<QByteArray>& names)

@@ -243,21 +243,26 @@ private slots:
         QCOMPARE(j.desktop.unexpectedCalls, 0);
     }
 
+    // Nothing installed where the game is looked for: the documented file
+    // dialog, once, opened in the home folder.
     void theExecutableIsAskedForOnce()
     {
         Joined j;
         j.settings().save(Keys::Path.key, QString());
         j.desktop.fileAnswers.enqueue(QString()); // cancelled
         j.doubleClick(1);
+        QTRY_COMPARE(j.desktop.fileRequests.size(), 1);
         QVERIFY(j.desktop.starts.isEmpty());
         QCOMPARE(j.desktop.fileRequests.last().title, QStringLiteral("Select your Quake 4 Executable"));
         QCOMPARE(j.desktop.fileRequests.last().filter, QStringLiteral("Quake 4 Executable (*)"));
+        QCOMPARE(j.desktop.fileRequests.last().folder, QDir::homePath());
         j.desktop.fileAnswers.enqueue(QStringLiteral("/games/q4/quake4"));
         j.doubleClick(1);
         QCOMPARE(j.settings().get(Keys::Path.key), QStringLiteral("/games/q4/quake4"));
         QCOMPARE(j.desktop.starts.last().workingFolder, QStringLiteral("/games/q4"));
         j.doubleClick(1);
         QCOMPARE(j.desktop.fileRequests.size(), 2);
+        QCOMPARE(j.desktop.starts.size(), 2);
     }
 
     void joinByTypedAddress()

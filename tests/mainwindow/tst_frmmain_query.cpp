@@ -281,7 +281,7 @@ private slots:
             ++row;
         const int target = 2;
         const int oldPlayers = int(fleet.servers().at(target).players.size());
-        fleet.setServer(target, {{"si_name", "^1Re^7named"}, {"si_map", "q4dm9"}, {"si_maxplayers", "8"}},
+        fleet.setServer(target, {{"si_name", "^1Re^7named"}, {"si_map", "mp/q4dm9"}, {"si_maxplayers", "8"}},
                         {{0, 30, 25000, "^2New", ""}, {1, 40, 25000, "Other", "[C]"}});
         const int requests = fleet.servers().at(target).requests;
 
@@ -294,7 +294,7 @@ private slots:
         QCOMPARE(serverName->caption(), QStringLiteral("Renamed"));
         QCOMPARE(serverName->color(1).rgb(), ColourCodes::ShowServerName(u"^1Re^7named").colours.first());
         QCOMPARE(fleet.servers().at(target).requests, requests + 1);
-        QCOMPARE(w.cell("lstServerList", row, ServerListModel::Map), QStringLiteral("q4dm9"));
+        QCOMPARE(w.cell("lstServerList", row, ServerListModel::Map), QStringLiteral("mp/q4dm9"));
         QCOMPARE(w.cell("lstServerList", row, ServerListModel::Players), QStringLiteral("2/8"));
         QCOMPARE(w.visible("lstServerList")->rowCount(), 5);
         QCOMPARE(w.visible("lstPlayerList")->rowCount(), playersBefore - oldPlayers + 2);

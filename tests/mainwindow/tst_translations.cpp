@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
+#include "game/gameinstalls.h"
 #include "editors/frmfavourites.h"
 #include "editors/frmfilters.h"
 #include "editors/frmhistory.h"
@@ -118,7 +119,8 @@ class TestTranslations final : public QObject {
         Language language;
         FrmMain main{settings, desktop, language, dir.path()};
         ThemeService themes{dir.path()};
-        FrmOptions options{settings, desktop, language, themes, dir.path()};
+        GameInstalls installs{desktop.places};
+        FrmOptions options{settings, desktop, language, themes, installs, dir.path()};
         FrmFavourites favourites{settings, dir.path()};
         FrmFilters filters{settings, dir.path()};
         FrmHistory history{settings, dir.path()};
@@ -154,6 +156,8 @@ private slots:
     {
         QFETCH(int, index);
         Windows windows;
+        // The options list the installs once they have been looked for.
+        QTRY_VERIFY(windows.installs.known());
         const QMap<QString, QString> english = windows.texts();
         QVERIFY(english.size() > 100);
         QVERIFY(windows.language.apply(index));

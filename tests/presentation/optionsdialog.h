@@ -2,6 +2,7 @@
 #pragma once
 
 #include "findcontrol.h"
+#include "game/gameinstalls.h"
 #include "presentation/colourswatch.h"
 #include "presentation/frmoptions.h"
 #include "presentation/language.h"
@@ -38,11 +39,14 @@ protected:
     std::unique_ptr<ScriptedDesktop> m_desktop;
     std::unique_ptr<Language> m_language;
     std::unique_ptr<ThemeService> m_themes;
+    std::unique_ptr<GameInstalls> m_installs;
     std::unique_ptr<FrmOptions> m_form;
 
     FrmOptions& open()
     {
-        m_form = std::make_unique<FrmOptions>(*m_settings, *m_desktop, *m_language, *m_themes, m_dir->path());
+        m_installs = std::make_unique<GameInstalls>(m_desktop->places);
+        m_form = std::make_unique<FrmOptions>(*m_settings, *m_desktop, *m_language, *m_themes, *m_installs,
+                                              m_dir->path());
         m_form->show();
         if (!QTest::qWaitForWindowExposed(m_form.get()))
             qFatal("the options dialog did not show");
@@ -93,6 +97,7 @@ protected:
     void tearDown()
     {
         m_form.reset();
+        m_installs.reset();
         QCOMPARE(m_desktop->unexpectedCalls, 0);
     }
 };

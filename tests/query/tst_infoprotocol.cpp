@@ -63,7 +63,7 @@ QByteArray fixture(const char* name)
     return file.readAll();
 }
 
-const QByteArray StandardPairs = keyValues({"si_name", "^1Red ^7Server", "si_map", "q4dm1", "si_maxplayers", "16",
+const QByteArray StandardPairs = keyValues({"si_name", "^1Red ^7Server", "si_map", "mp/q4dm1", "si_maxplayers", "16",
                                             "si_gametype", "Tourney", "gamename", "q4max", "si_usepass", "1"});
 
 } // namespace
@@ -83,7 +83,7 @@ private slots:
     {
         const ServerRecord server = parsed(reply(StandardPairs));
         QCOMPARE(server.name, QStringLiteral("^1Red ^7Server"));
-        QCOMPARE(server.map, QStringLiteral("q4dm1"));
+        QCOMPARE(server.map, QStringLiteral("mp/q4dm1"));
         QCOMPARE(server.maxPlayers, 16);
         QCOMPARE(server.gameType, QStringLiteral("Tourney"));
         QCOMPARE(server.gameName, QStringLiteral("q4max"));
@@ -97,8 +97,8 @@ private slots:
 
     void keysMatchInAnyCaseAndKeepTheirSpelling()
     {
-        const ServerRecord server = parsed(reply(keyValues({"SI_Map", "q4ctf1", "GameName", "baseQ4"})));
-        QCOMPARE(server.map, QStringLiteral("q4ctf1"));
+        const ServerRecord server = parsed(reply(keyValues({"SI_Map", "mp/q4ctf1", "GameName", "baseQ4"})));
+        QCOMPARE(server.map, QStringLiteral("mp/q4ctf1"));
         QCOMPARE(server.gameName, QStringLiteral("baseQ4"));
         QCOMPARE(server.tokens.at(2), QStringLiteral("SI_Map"));
     }

@@ -36,6 +36,17 @@ QString ScriptedDesktop::openFileName(QWidget*, const QString& title, const QStr
     return fileAnswers.dequeue();
 }
 
+std::optional<int> ScriptedDesktop::chooseItem(QWidget*, const QString& title, const QString& prompt,
+                                               const QStringList& items)
+{
+    choices.append({title, prompt, items});
+    if (choiceAnswers.isEmpty()) {
+        ++unexpectedCalls;
+        return std::nullopt;
+    }
+    return choiceAnswers.dequeue();
+}
+
 std::optional<QColor> ScriptedDesktop::pickColour(QWidget*, const QColor& start)
 {
     colourRequests.append(start);
@@ -52,9 +63,10 @@ bool ScriptedDesktop::openUrl(const QUrl& url)
     return true;
 }
 
-bool ScriptedDesktop::startDetached(const QString& program, const QStringList& arguments, const QString& workingFolder)
+bool ScriptedDesktop::startDetached(const QString& program, const QStringList& arguments, const QString& workingFolder,
+                                    const QStringList& environment)
 {
-    starts.append({program, arguments, workingFolder});
+    starts.append({program, arguments, workingFolder, environment});
     return startSucceeds;
 }
 

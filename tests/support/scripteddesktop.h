@@ -56,17 +56,27 @@ public:
         QString program;
         QStringList arguments;
         QString workingFolder;
+        QStringList environment;
+    };
+    struct Choice {
+        QString title;
+        QString prompt;
+        QStringList items;
     };
 
     QQueue<QMessageBox::StandardButton> messageAnswers;
     QQueue<std::optional<QString>> inputAnswers;
     QQueue<QString> fileAnswers;
+    QQueue<std::optional<int>> choiceAnswers;
+    // Nothing of the game unless a test lays it out: never this machine's.
+    GamePlaces places;
     QQueue<std::optional<QColor>> colourAnswers;
     bool startSucceeds = true;
 
     QList<Message> messages;
     QList<Input> inputs;
     QList<FileRequest> fileRequests;
+    QList<Choice> choices;
     QList<QColor> colourRequests;
     QList<QUrl> openedUrls;
     QList<Start> starts;
@@ -83,9 +93,13 @@ public:
     std::optional<QString> inputText(QWidget* parent, const QString& title, const QString& prompt,
                                      const QString& initialText = {}, Echo echo = Echo::Normal) override;
     QString openFileName(QWidget* parent, const QString& title, const QString& folder, const QString& filter) override;
+    std::optional<int> chooseItem(QWidget* parent, const QString& title, const QString& prompt,
+                                  const QStringList& items) override;
     std::optional<QColor> pickColour(QWidget* parent, const QColor& start) override;
     bool openUrl(const QUrl& url) override;
-    bool startDetached(const QString& program, const QStringList& arguments, const QString& workingFolder) override;
+    bool startDetached(const QString& program, const QStringList& arguments, const QString& workingFolder,
+                       const QStringList& environment) override;
+    GamePlaces gamePlaces() const override { return places; }
     Clock& clock() override { return manualClock; }
     SecretStore& secrets() override { return keyring; }
     void setNotifying(bool on) override { notifying = on; }

@@ -16,7 +16,7 @@ ServerRecord server(int players, int maxPlayers, int zeroPing, const char* mark)
     record.maxPlayers = qint16(maxPlayers);
     record.zeroPingCount = zeroPing;
     record.passwordMark = QString::fromLatin1(mark);
-    record.tokens = {"si_map", "q4dm1"};
+    record.tokens = {"si_map", "mp/q4dm1"};
     return record;
 }
 
@@ -71,7 +71,7 @@ private slots:
         QVERIFY(passesServerTest(tokens, {}));
         QVERIFY(passesServerTest(tokens, {{"si_map", "mp/q4dm5"}}));
         QVERIFY(passesServerTest(tokens, {{"SI_MAP", "mp/q4dm*"}}));
-        QVERIFY(!passesServerTest(tokens, {{"si_map", "q4ctf*"}}));
+        QVERIFY(!passesServerTest(tokens, {{"si_map", "mp/q4ctf*"}}));
         // The first key matching the variable decides: si_* finds si_name.
         QVERIFY(passesServerTest(tokens, {{"si_*", "arena"}}));
         QVERIFY(!passesServerTest(tokens, {{"si_*", "16"}}));
@@ -103,7 +103,7 @@ private slots:
         QVERIFY(isVisible(server(15, 16, 0, " "), {}, noFull));
         QVERIFY(!isVisible(server(1, 16, 0, "*"), {}, noPassworded));
         QVERIFY(isVisible(server(1, 16, 0, " "), {}, noPassworded));
-        QVERIFY(!isVisible(server(1, 16, 0, " "), {{"si_map", "q4dm2"}}, all));
+        QVERIFY(!isVisible(server(1, 16, 0, " "), {{"si_map", "mp/q4dm2"}}, all));
     }
 
     void aliasesAndNormalisation()

@@ -39,6 +39,7 @@ private slots:
             {Keys::StartPort.key, u"StartPort"},
             {Keys::RefreshServers.key, u"RefreshServers"},
             {Keys::Path.key, u"Path"},
+            {Keys::Game.key, u"Game"},
             {Keys::CloseAfterJoin.key, u"CloseAfterJoin"},
             {Keys::IncludeEmpty.key, u"IncludeEmpty"},
             {Keys::IncludeFull.key, u"IncludeFull"},

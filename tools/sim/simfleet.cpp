@@ -13,8 +13,9 @@ namespace {
 
 const QList<QByteArray> Words{"Frag",  "Rail",   "Strogg", "Arena", "Dark", "Quad",  "Fury",  "Rocket",
                               "Storm", "Hammer", "Nexus",  "Vapor", "Grim", "Blood", "Ghost", "Iron"};
-const QList<QByteArray> Maps{"q4dm1", "q4dm2", "q4dm3",  "q4dm4",  "q4dm5", "q4dm6",
-                             "q4dm7", "q4dm8", "q4ctf1", "q4ctf2", "q4xdm1"};
+// As retail servers name them: the path below maps/.
+const QList<QByteArray> Maps{"mp/q4dm1", "mp/q4dm2", "mp/q4dm3",  "mp/q4dm4",  "mp/q4dm5", "mp/q4dm6",
+                             "mp/q4dm7", "mp/q4dm8", "mp/q4ctf1", "mp/q4ctf2", "mp/q4xdm1"};
 const QList<QByteArray> GameTypes{"DM", "Tourney", "Team DM", "CTF", "Arena CTF"};
 const QList<QByteArray> GameNames{"baseQUAKE4-1", "q4max", "q4x", "baseQUAKE4-1", "baseQUAKE4-1"};
 const QList<QByteArray> Clans{"", "", "[UFO]", "=LoL=", "^1Red^7", "{XyZ}", ""};
