@@ -166,9 +166,9 @@ void GameBox::showCommand()
     const QString setting = choice();
     const bool program = setting == GameInstall::PickedSetting ||
                          (setting == NotChosen && m_installs.known() && m_installs.found().isEmpty());
-    // Path is the program's: it says nothing for an install found.
+    // Path is the program's: it says nothing for an install found. Browse
+    // stays: a program picked there becomes the choice.
     txtPath->setEnabled(program);
-    cmdBrowse->setEnabled(program || !m_installs.known() || setting == NotChosen);
     const auto install = shownInstall();
     if (!install) {
         txtGameCommand->clear();

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
+#include "fakemachine.h"
 #include "optionsdialog.h"
 
 // The options dialog's settings, ports, executable and server sources.
@@ -144,6 +145,73 @@ private slots:
         click("cmdApply");
         QVERIFY(m_form->isVisible());
         QCOMPARE(m_settings->get(Keys::Path.key), QStringLiteral("/opt/quake4/quake4.x86"));
+    }
+
+    // The installs found are offered with the command a join runs; Look
+    // Again finds one installed meanwhile; an .exe browsed to is offered to
+    // Wine; the choice is saved by OK and shown again.
+    void theGameIsChosenFromTheInstallsFound()
+    {
+        FakeMachine machine;
+        machine.program(QStringLiteral("bin/steam"));
+        machine.steamGame(QStringLiteral("home/.local/share/Steam"));
+        machine.program(QStringLiteral("root/opt/quake4/quake4"));
+        m_desktop->places = machine.places();
+        m_settings->save(Keys::PlayerName.key, QStringLiteral("Me"));
+        open();
+        auto* games = find<QComboBox>("cmbGame");
+        QTRY_VERIFY(games->isEnabled());
+        const QString steamGame = machine.real(QStringLiteral("home/.local/share/Steam/steamapps/common/Quake 4"));
+        const QString linux = machine.real(QStringLiteral("root/opt/quake4"));
+        auto items = [games] {
+            QStringList texts;
+            for (int i = 0; i < games->count(); ++i)
+                texts << games->itemText(i);
+            return texts;
+        };
+        QCOMPARE(items(), (QStringList{"Ask at the first join", "Steam: " + steamGame, "Linux release: " + linux,
+                                       "Other program..."}));
+        QCOMPARE(games->currentIndex(), 0);
+        QCOMPARE(find<QLineEdit>("txtGameCommand")->text(), QString());
+
+        choose("cmbGame", 1);
+        QCOMPARE(find<QLineEdit>("txtGameCommand")->text(),
+                 machine.path(QStringLiteral("bin/steam")) +
+                     QStringLiteral(" -applaunch 2210 +set ui_name \"Me\" +connect 192.0.2.1:28004"));
+        QVERIFY(find<QLineEdit>("txtGameCommand")->isReadOnly());
+        QVERIFY2(!find<QLineEdit>("txtPath")->isEnabled(), "Path is the other program's");
+        choose("cmbGame", 2);
+        QCOMPARE(find<QLineEdit>("txtGameCommand")->text(),
+                 linux + QStringLiteral("/quake4 +set ui_name \"Me\" +connect 192.0.2.1:28004"));
+
+        machine.program(QStringLiteral("bin/wine"));
+        machine.write(QStringLiteral("home/.wine/drive_c/Program Files/id Software/Quake 4/quake4.exe"), "MZ");
+        click("cmdLookAgain");
+        QTRY_COMPARE(games->count(), 5);
+        QCOMPARE(games->currentText(), "Linux release: " + linux);
+
+        const QString exe = machine.path(QStringLiteral("games/quake4.exe"));
+        machine.write(QStringLiteral("games/quake4.exe"), "MZ");
+        m_desktop->fileAnswers << exe;
+        m_desktop->messageAnswers << QMessageBox::No; // "Through Wine"
+        click("cmdBrowse");
+        QCOMPARE(m_desktop->fileRequests.last().folder, linux);
+        QCOMPARE(games->currentText(), "Wine: " + exe);
+        QCOMPARE(find<QLineEdit>("txtPath")->text(), exe);
+        QCOMPARE(find<QLineEdit>("txtGameCommand")->text(),
+                 machine.path(QStringLiteral("bin/wine")) +
+                     QStringLiteral(" quake4.exe +set ui_name \"Me\" +connect 192.0.2.1:28004"));
+        click("cmdOK");
+        QCOMPARE(m_settings->get(Keys::Game.key), QStringLiteral("wine:") + exe);
+        QCOMPARE(m_settings->get(Keys::Path.key), exe);
+
+        open();
+        QTRY_VERIFY(find<QComboBox>("cmbGame")->isEnabled());
+        QCOMPARE(find<QComboBox>("cmbGame")->currentText(), "Wine: " + exe);
+        m_desktop->messageAnswers << QMessageBox::Yes;
+        click("cmdDefaults");
+        QCOMPARE(find<QComboBox>("cmbGame")->currentIndex(), 0);
+        QCOMPARE(find<QLineEdit>("txtPath")->text(), QString());
     }
 
     void theServersTabEditsEverySource()
