@@ -15,6 +15,8 @@
 //   q4vantage-bench countries one country lookup per answering server: the
 //                             cost on Debian's location database
 //   q4vantage-bench mapscan FOLDER  one read of a game folder's archives
+//   q4vantage-bench installs  looking for the game's installs (Steam's
+//                             libraries, the Linux release, Wine)
 //   q4vantage-bench filter    re-filtering 10,000 servers and 150,000 players,
 //                             with 50 friends marked, and a refresh of every
 //                             server applied in place
@@ -327,6 +329,7 @@ int sources();   // bench_sources.cpp
 int filter();    // bench_filter.cpp
 int countries(); // bench_countries.cpp
 int mapscan(const QString& folder);
+int installs(); // bench_installs.cpp
 
 int main(int argc, char* argv[])
 {
@@ -351,10 +354,12 @@ int main(int argc, char* argv[])
         return sources();
     if (which == QLatin1String("countries"))
         return countries();
+    if (which == QLatin1String("installs"))
+        return installs();
     if (which == QLatin1String("mapscan"))
         return mapscan(argc > 2 ? QString::fromLocal8Bit(argv[2]) : QString());
     std::fprintf(
         stderr,
-        "usage: q4vantage-bench pool|cost|window [SERVERS]|windowping|parse|filter|sources|countries|mapscan\n");
+        "usage: q4vantage-bench pool|cost|window [SERVERS]|windowping|parse|filter|sources|countries|mapscan|installs\n");
     return 2;
 }

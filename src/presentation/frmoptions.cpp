@@ -130,8 +130,8 @@ void FrmOptions::buildSettingsTab(QWidget* page, GameInstalls& installs)
     grid->addWidget(chkProxy, 7, 0, 1, 4);
     grid->addWidget(txtProxy, 8, 0, 1, 4);
     m_game = new GameBox(m_settings, m_desktop, installs, page, grid, 9);
-    grid->addWidget(chkKeyring, 13, 0, 1, 4);
-    grid->setRowStretch(14, 1);
+    grid->addWidget(chkKeyring, 15, 0, 1, 4);
+    grid->setRowStretch(16, 1);
     grid->setColumnStretch(1, 1);
     grid->setColumnStretch(3, 1);
 

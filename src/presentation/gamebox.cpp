@@ -48,14 +48,16 @@ GameBox::GameBox(SettingsStore& settings, Desktop& desktop, GameInstalls& instal
     lblPath->setBuddy(txtPath);
     lblGameCommand->setBuddy(txtGameCommand);
 
-    grid->addWidget(lblGame, row, 0);
-    grid->addWidget(cmbGame, row, 1, 1, 2);
-    grid->addWidget(cmdLookAgain, row, 3);
-    grid->addWidget(lblPath, row + 1, 0, 1, 4);
-    grid->addWidget(txtPath, row + 2, 0, 1, 3);
-    grid->addWidget(cmdBrowse, row + 2, 3);
-    grid->addWidget(lblGameCommand, row + 3, 0);
-    grid->addWidget(txtGameCommand, row + 3, 1, 1, 3);
+    // Each caption above its box, as the executable's always was: the
+    // boxes hold long folders and get the whole width.
+    grid->addWidget(lblGame, row, 0, 1, 4);
+    grid->addWidget(cmbGame, row + 1, 0, 1, 3);
+    grid->addWidget(cmdLookAgain, row + 1, 3);
+    grid->addWidget(lblPath, row + 2, 0, 1, 4);
+    grid->addWidget(txtPath, row + 3, 0, 1, 3);
+    grid->addWidget(cmdBrowse, row + 3, 3);
+    grid->addWidget(lblGameCommand, row + 4, 0, 1, 4);
+    grid->addWidget(txtGameCommand, row + 5, 0, 1, 4);
 
     connect(cmbGame, &QComboBox::currentIndexChanged, this, &GameBox::showCommand);
     connect(txtPath, &QLineEdit::textChanged, this, &GameBox::showCommand);
@@ -106,8 +108,10 @@ void GameBox::fill(const QString& chosen)
     cmbGame->setEnabled(true);
     cmbGame->addItem(m_installs.found().isEmpty() ? tr("None found") : tr("Ask at the first join"), NotChosen);
     for (const GameInstall& install : m_installs.found() + m_picked)
-        if (cmbGame->findData(install.settingText()) < 0)
+        if (cmbGame->findData(install.settingText()) < 0) {
             cmbGame->addItem(install.label(), install.settingText());
+            cmbGame->setItemData(cmbGame->count() - 1, install.label(), Qt::ToolTipRole);
+        }
     cmbGame->addItem(tr("Other program..."), GameInstall::PickedSetting);
     choose(chosen);
     showCommand();

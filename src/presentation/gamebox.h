@@ -26,7 +26,7 @@ class GameBox final : public QObject {
     Q_DISABLE_COPY_MOVE(GameBox)
 
 public:
-    // The controls are made on page and placed in grid from row on: four
+    // The controls are made on page and placed in grid from row on: six
     // rows, four columns.
     GameBox(SettingsStore& settings, Desktop& desktop, GameInstalls& installs, QWidget* page, QGridLayout* grid,
             int row);

@@ -28,6 +28,8 @@
 #include <QDialog>
 #include <QDir>
 #include <QEventLoop>
+#include <QFile>
+#include <QFileInfo>
 #include <QHeaderView>
 #include <QLabel>
 #include <QMenu>
@@ -117,11 +119,35 @@ void toggleOptionalColumn(ReportView* list)
     settle();
 }
 
+// A player's machine: the game in Steam's default library, steam on PATH.
+// The options show it found and chosen, with the command a join runs.
+QString layOutSteam(const QTemporaryDir& machine)
+{
+    const QDir root(machine.path());
+    const QString game = root.filePath(QStringLiteral("home/.local/share/Steam/steamapps/common/Quake 4"));
+    root.mkpath(game + QStringLiteral("/q4base"));
+    root.mkpath(QStringLiteral("bin"));
+    QFile manifest(root.filePath(QStringLiteral("home/.local/share/Steam/steamapps/appmanifest_2210.acf")));
+    manifest.open(QIODevice::WriteOnly);
+    manifest.write("\"AppState\"\n{\n\t\"appid\"\t\t\"2210\"\n\t\"installdir\"\t\t\"Quake 4\"\n}\n");
+    QFile steam(root.filePath(QStringLiteral("bin/steam")));
+    steam.open(QIODevice::WriteOnly);
+    steam.write("#!/bin/sh\n");
+    steam.setPermissions(QFileDevice::ReadOwner | QFileDevice::WriteOwner | QFileDevice::ExeOwner);
+    qputenv("HOME", root.filePath(QStringLiteral("home")).toLocal8Bit());
+    qputenv("PATH", root.filePath(QStringLiteral("bin")).toLocal8Bit() + ':' + qgetenv("PATH"));
+    return QFileInfo(game).canonicalFilePath();
+}
+
+QString steamGame;
+
 bool shootLanguage(SimFleet& fleet, int language, const QDir& out)
 {
     QTemporaryDir data;
     SettingsStore settings(data.filePath(QStringLiteral("settings.ini")));
     settings.save(Keys::Language.key, QString::number(language));
+    settings.save(Keys::Game.key, QStringLiteral("steam:") + steamGame);
+    settings.save(Keys::PlayerName.key, QStringLiteral("^1Fr^7agger"));
     // The fleet, and two small ones elsewhere in the world (by the
     // location database below): 127.0.0.9 in the United States, 127.0.0.17
     // in Russia.
@@ -253,6 +279,9 @@ int main(int argc, char* argv[])
         languages.append(index.toInt());
     if (languages.isEmpty())
         languages = {0, 1, 2, 3, 4, 5, 6};
+
+    const QTemporaryDir machine;
+    steamGame = layOutSteam(machine);
 
     FleetOptions fleet;
     fleet.servers = 40;
