@@ -44,6 +44,18 @@ QList<QString> reached(const Counts& before, const Counts& after, int threshold)
     return servers;
 }
 
+QString shortName(const QString& name)
+{
+    QString line = name.left(MaxNameLength + 1);
+    for (QChar& c : line)
+        if (c.category() == QChar::Other_Control || c == QChar::LineSeparator || c == QChar::ParagraphSeparator)
+            c = QLatin1Char(' ');
+    line = line.trimmed();
+    if (line.size() > MaxNameLength)
+        line = line.left(MaxNameLength - 3).trimmed() + QStringLiteral("...");
+    return line;
+}
+
 Shown firstLines(const QStringList& lines, int maxLines)
 {
     const int size = int(lines.size());

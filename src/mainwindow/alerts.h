@@ -35,6 +35,12 @@ using Counts = QHash<QString, Count>;
 // not news (it has no "before"); a threshold below 1 means never.
 QList<QString> reached(const Counts& before, const Counts& after, int threshold);
 
+// A player's or server's name as news quotes it: one line (controls become
+// blanks) of at most MaxNameLength characters, "..." marking a cut. The
+// names come from any server; the news must stay readable.
+inline constexpr qsizetype MaxNameLength = 48;
+QString shortName(const QString& name);
+
 // What fits a notification or the status line: the first lines, the last
 // of them giving way to "and N more" when there are more than maxLines.
 struct Shown {

@@ -109,9 +109,12 @@ void AutoRefresh::notify(const QList<Alerts::Sighting>& arrived, const QList<QSt
         return;
     QStringList lines;
     for (const Alerts::Sighting& sighting : arrived)
-        lines.append(tr("%1 is playing on %2").arg(sighting.player, sighting.server));
+        lines.append(
+            tr("%1 is playing on %2").arg(Alerts::shortName(sighting.player), Alerts::shortName(sighting.server)));
     for (const QString& address : filled)
-        lines.append(tr("%1 has %2 players").arg(counts.value(address).server).arg(counts.value(address).players));
+        lines.append(tr("%1 has %2 players")
+                         .arg(Alerts::shortName(counts.value(address).server))
+                         .arg(counts.value(address).players));
     // The tray shows one message at a time: one for the round, and a click
     // goes to its first server.
     const QString address = arrived.isEmpty() ? filled.first() : arrived.first().address;

@@ -49,6 +49,11 @@ QString Desktop::chooseExecutable(QWidget* parent, const QString& folder)
                         tr("Quake 4 Executable (%1)").arg(executablePattern()));
 }
 
+QString Desktop::notificationMarkup(const QString& plain)
+{
+    return plain.left(MaxNotificationLength).toHtmlEscaped();
+}
+
 QString Desktop::executablePattern()
 {
 #ifdef Q_OS_WIN
@@ -163,6 +168,11 @@ bool QtDesktop::notify(const QString& title, const QString& text, std::function<
     if (!m_tray || !QSystemTrayIcon::supportsMessages())
         return false;
     m_clicked = std::move(clicked);
-    m_tray->showMessage(title, text, QSystemTrayIcon::Information);
+#ifdef Q_OS_WIN
+    // Windows' balloons show text as it is.
+    m_tray->showMessage(title, text.left(MaxNotificationLength), QSystemTrayIcon::Information);
+#else
+    m_tray->showMessage(notificationMarkup(title), notificationMarkup(text), QSystemTrayIcon::Information);
+#endif
     return true;
 }

@@ -39,6 +39,12 @@ public:
     // empty); an empty text when the user cancelled.
     QString chooseExecutable(QWidget* parent, const QString& folder = {});
 
+    // Plain text as a notification server reads it: the freedesktop servers
+    // take the body as markup, so a name like "<a href=...>" would be a
+    // link; escaped, and at most MaxNotificationLength characters.
+    static constexpr qsizetype MaxNotificationLength = 1000;
+    static QString notificationMarkup(const QString& plain);
+
     // Closes every other visible window of the program (editors, dialogs)
     // when the main window closes, so each writes what it holds.
     static void closeOtherWindows(const QWidget* main);

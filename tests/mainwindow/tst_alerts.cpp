@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "mainwindow/alerts.h"
 #include "mainwindow/slotwaiter.h"
+#include "platform/desktop.h"
 #include "query/records.h"
 
 #include <QTest>
@@ -90,6 +91,39 @@ private slots:
         QCOMPARE(Alerts::firstLines({"a", "b"}, 2).more, 0);
         QCOMPARE(Alerts::firstLines(five, 1).lines, QStringList{"a"}); // no room for "more"
         QCOMPARE(Alerts::firstLines(five, 1).more, 4);
+    }
+
+    // Names come from any server: news quotes them on one short line, and
+    // a notification server that reads markup gets none from them.
+    void hostileNamesReachTheNewsAsText_data()
+    {
+        QTest::addColumn<QString>("name");
+        QTest::addColumn<QString>("shown");
+        QTest::addColumn<QString>("markup");
+        QTest::newRow("plain") << "Frag Arena"
+                               << "Frag Arena"
+                               << "Frag Arena";
+        QTest::newRow("markup") << "<a href=\"https://evil.example\">Click</a>"
+                                << "<a href=\"https://evil.example\">Click</a>"
+                                << "&lt;a href=&quot;https://evil.example&quot;&gt;Click&lt;/a&gt;";
+        QTest::newRow("lines") << "one\ntwo\r\u2028three"
+                               << "one two  three"
+                               << "one two  three";
+        QTest::newRow("long") << QString(120000, QLatin1Char('x')) << QString(45, QLatin1Char('x')) + "..."
+                              << QString(45, QLatin1Char('x')) + "...";
+        QTest::newRow("exactly the limit")
+            << QString(Alerts::MaxNameLength, QLatin1Char('y')) << QString(Alerts::MaxNameLength, QLatin1Char('y'))
+            << QString(Alerts::MaxNameLength, QLatin1Char('y'));
+    }
+    void hostileNamesReachTheNewsAsText()
+    {
+        QFETCH(QString, name);
+        QFETCH(QString, shown);
+        QFETCH(QString, markup);
+        QCOMPARE(Alerts::shortName(name), shown);
+        QCOMPARE(Desktop::notificationMarkup(Alerts::shortName(name)), markup);
+        QVERIFY(Desktop::notificationMarkup(QString(5000, QLatin1Char('<'))).size() <=
+                Desktop::MaxNotificationLength * 4);
     }
 
     void whenWaitingEnds_data()
