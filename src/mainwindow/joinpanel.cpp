@@ -10,23 +10,59 @@
 #include "widgets/historycombobox.h"
 #include "widgets/namedcontrol.h"
 
+#include <QAccessible>
+#include <QAccessibleWidget>
+#include <QComboBox>
 #include <QGridLayout>
+#include <QIdentityProxyModel>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
-#include <QStyledItemDelegate>
 
 namespace {
 
-// Draws each entry as the password box does: one dot per character.
-class MaskedItemDelegate final : public QStyledItemDelegate {
+const char* const SecretProperty = "q4vSecret";
+
+// The remembered passwords as the box's list shows them, and as a screen
+// reader reads them: one dot per character. The box itself takes an
+// entry's real text (an editable combo box reads EditRole).
+class MaskedPasswords final : public QIdentityProxyModel {
 public:
-    using QStyledItemDelegate::QStyledItemDelegate;
-    QString displayText(const QVariant& value, const QLocale&) const override
+    using QIdentityProxyModel::QIdentityProxyModel;
+    QVariant data(const QModelIndex& index, int role) const override
     {
-        return QString(value.toString().size(), QChar(0x25CF));
+        if (role == Qt::DisplayRole || role == Qt::AccessibleTextRole || role == Qt::ToolTipRole)
+            return QString(QIdentityProxyModel::data(index, Qt::EditRole).toString().size(), QChar(0x25CF));
+        return QIdentityProxyModel::data(index, role);
     }
 };
+
+// What assistive technology hears of the password box: its name and dots.
+// Qt's own combo box interface gives the typed text as the name on Linux.
+class SecretBoxAccessible final : public QAccessibleWidget {
+public:
+    explicit SecretBoxAccessible(QWidget* box)
+        : QAccessibleWidget(box, QAccessible::ComboBox)
+    {
+    }
+    QString text(QAccessible::Text t) const override
+    {
+        auto* box = static_cast<QComboBox*>(widget());
+        if (t == QAccessible::Value)
+            return QString(box->currentText().size(), QChar(0x25CF));
+        if (t == QAccessible::Name)
+            return box->accessibleName();
+        return QAccessibleWidget::text(t);
+    }
+};
+
+QAccessibleInterface* secretBoxAccessible(const QString&, QObject* object)
+{
+    auto* box = qobject_cast<QComboBox*>(object);
+    if (box && box->property(SecretProperty).toBool())
+        return new SecretBoxAccessible(box);
+    return nullptr;
+}
 
 } // namespace
 
@@ -44,7 +80,18 @@ JoinPanel::JoinPanel(SettingsStore& settings, Desktop& desktop, GameInstalls& in
     // Nobody looking over the player's shoulder reads the password, in the
     // box or in its list of remembered ones.
     cmbPassword->lineEdit()->setEchoMode(QLineEdit::Password);
-    cmbPassword->setItemDelegate(new MaskedItemDelegate(cmbPassword));
+    auto* masked = new MaskedPasswords(cmbPassword);
+    // The box deletes a model of its own when given another: the list
+    // moves under the mask first.
+    cmbPassword->model()->setParent(masked);
+    masked->setSourceModel(cmbPassword->model());
+    cmbPassword->setModel(masked);
+    cmbPassword->setProperty(SecretProperty, true);
+    static const bool factoryInstalled = [] {
+        QAccessible::installFactory(&secretBoxAccessible);
+        return true;
+    }();
+    Q_UNUSED(factoryInstalled);
     m_passwords = new PasswordKeeper(settings, desktop.secrets(), *cmbPassword, this);
     m_passwords->restore();
     lblPassword->setBuddy(cmbPassword);
@@ -54,8 +101,8 @@ JoinPanel::JoinPanel(SettingsStore& settings, Desktop& desktop, GameInstalls& in
     cmdJoinIP = makeControl<QPushButton>(this, "cmdJoinIP");
     cmdJoin->setAutoDefault(false);
     cmdJoinIP->setAutoDefault(false);
-    m_flow = new JoinFlow(settings, desktop, installs, favouritesPath, historyPath, *cmbPlayerName, *cmbPassword,
-                          window);
+    m_flow =
+        new JoinFlow(settings, desktop, installs, favouritesPath, historyPath, *cmbPlayerName, *cmbPassword, window);
     m_waiter = new SlotWaiter(desktop.clock(), this);
     cmdStopWaiting = makeControl<QPushButton>(window, "cmdStopWaiting");
     cmdStopWaiting->hide();
@@ -117,4 +164,5 @@ void JoinPanel::retranslate()
     cmdStopWaiting->setText(tr("Stop Waiting"));
     lblPlayerName->setText(tr("Name:"));
     lblPassword->setText(tr("Password:"));
+    cmbPassword->setAccessibleName(tr("Password:"));
 }
