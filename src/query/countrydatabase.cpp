@@ -3,6 +3,7 @@
 
 #include <QDateTime>
 #include <QFile>
+#include <QFileInfo>
 
 #include <cstdio>
 #include <cstring>
@@ -36,8 +37,13 @@ CountryDatabase::~CountryDatabase() = default;
 
 CountryDatabase::Opened CountryDatabase::open(const QString& path)
 {
-    if (!QFile::exists(path))
+    const QFileInfo info(path);
+    if (!info.exists())
         return {nullptr, QStringLiteral("%1 does not exist").arg(path)};
+    // A FIFO or a device would block the open for as long as nobody writes:
+    // only a regular file (or a link to one) is a database.
+    if (!info.isFile())
+        return {nullptr, QStringLiteral("%1 is not a regular file").arg(path)};
     auto handles = std::make_unique<Handles>();
     if (loc_new(&handles->context) != 0)
         return {nullptr, QStringLiteral("libloc could not start")};

@@ -4,6 +4,7 @@
 
 #include <QElapsedTimer>
 #include <QFile>
+#include <QProcess>
 #include <QTemporaryDir>
 #include <QTest>
 
@@ -74,6 +75,12 @@ private slots:
             else
                 QVERIFY(opened.error.endsWith(QStringLiteral("is not an IP location database")));
         }
+        // A FIFO nobody writes to would hang the open (and the window's
+        // start) for ever; a folder is no file either.
+        const QString fifo = m_dir.filePath(QStringLiteral("fifo.db"));
+        QCOMPARE(QProcess::execute(QStringLiteral("mkfifo"), {fifo}), 0);
+        QCOMPARE(CountryDatabase::open(fifo).error, fifo + QStringLiteral(" is not a regular file"));
+        QCOMPARE(CountryDatabase::open(m_dir.path()).error, m_dir.path() + QStringLiteral(" is not a regular file"));
     }
 
     // Debian's own database, when it is installed.

@@ -113,6 +113,25 @@ private slots:
         }
     }
 
+    // A database named by mistake (a FIFO would hang the open) is said,
+    // and the query goes on without countries.
+    void aBadCountryDatabaseIsSaid()
+    {
+        FleetOptions options;
+        options.servers = 2;
+        options.masterPort = TestPorts::at(451);
+        options.firstServerPort = TestPorts::at(452);
+        SimFleet fleet(options);
+        QVERIFY(!fleet.start());
+        const QString fifo = m_home.filePath(QStringLiteral("fifo.db"));
+        QCOMPARE(QProcess::execute(QStringLiteral("mkfifo"), {fifo}), 0);
+        const Run run = runTool(
+            {"--master", TestPorts::local(451), "--start-port", Start, "--format", "json", "--country-database", fifo});
+        QCOMPARE(run.exitCode, 0);
+        QVERIFY2(run.err.contains("no countries: " + fifo.toUtf8() + " is not a regular file"), run.err);
+        QCOMPARE(QJsonDocument::fromJson(run.out).object()[QStringLiteral("answered")].toInt(), 2);
+    }
+
     void everySourceIsReportedOnItsOwn()
     {
         FleetOptions options;

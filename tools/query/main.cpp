@@ -185,8 +185,13 @@ int main(int argc, char* argv[])
     // Without a database the servers are not placed; that is no failure.
     const QString countries =
         parser.isSet(countriesOption) ? parser.value(countriesOption) : settings.value(Keys::CountryDatabase);
-    if (!countries.isEmpty())
-        session.setCountries(CountryDatabase::open(countries).database);
+    if (!countries.isEmpty()) {
+        const CountryDatabase::Opened opened = CountryDatabase::open(countries);
+        // Said, and the query goes on without countries.
+        if (!opened.database)
+            std::fprintf(stderr, "q4vantage-query: no countries: %s\n", qPrintable(opened.error));
+        session.setCountries(opened.database);
+    }
     int exitCode = Finished;
     // Each answer is written as it comes and then forgotten.
     QueryReport::Writer writer(format == QLatin1String("json") ? QueryReport::Format::Json : QueryReport::Format::Text);
