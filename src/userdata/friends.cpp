@@ -19,7 +19,7 @@ std::optional<QString> checkEntry(const QString& typed)
     const QString entry = typed.trimmed();
     // The entries are stored ended by the code-1 character: a control
     // character would split or end one on the next start.
-    if (entry.isEmpty() || std::any_of(entry.cbegin(), entry.cend(), [](QChar c) { return c.unicode() < 0x20; }))
+    if (entry.isEmpty() || entry.size() > MaxEntryLength || std::any_of(entry.cbegin(), entry.cend(), [](QChar c) { return c.unicode() < 0x20; }))
         return std::nullopt;
     return entry;
 }
@@ -41,7 +41,7 @@ Matcher::Matcher(const QStringList& entries)
     : m_entries(entries)
 {
     for (const QString& entry : entries) {
-        if (entry.isEmpty())
+        if (entry.isEmpty() || entry.size() > MaxEntryLength)
             continue;
         const QString folded = entry.toCaseFolded();
         if (std::any_of(folded.cbegin(), folded.cend(), isWildcard))

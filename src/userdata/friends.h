@@ -14,7 +14,10 @@ namespace Friends {
 
 // The friends are kept as remembered entries: "Friends" in the settings.
 // What the list editor stores for a typed entry: the text without blanks
-// around it, or nothing for an empty one or one with a control character.
+// around it, or nothing for an empty one, one with a control character or
+// one longer than MaxEntryLength (a pattern is tried against every player
+// at every refresh; no name is that long).
+inline constexpr qsizetype MaxEntryLength = 256;
 std::optional<QString> checkEntry(const QString& typed);
 
 // The pattern that matches exactly this name: the wildcard characters are
@@ -23,7 +26,8 @@ QString patternFor(const QString& plainName);
 
 // The friends compiled for matching many names: plain names (the usual
 // case) are looked up in a hash, only real patterns are tried one by one,
-// so 50 friends cost little per player.
+// so 50 friends cost little per player. Entries no editor would store (too
+// long: a settings file edited by hand) are left out.
 class Matcher final {
 public:
     Matcher() = default;

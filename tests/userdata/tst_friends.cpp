@@ -66,6 +66,13 @@ private slots:
         QCOMPARE(Friends::checkEntry(QStringLiteral("   ")), std::nullopt);
         QCOMPARE(Friends::checkEntry(QStringLiteral("Bob\x01Amy")), std::nullopt);
         QCOMPARE(Friends::checkEntry(QStringLiteral("Bob\tAmy")), std::nullopt);
+        // An unclosed "[" with 100 KB after it cost a second per refresh.
+        const QString huge = QStringLiteral("[") + QString(100000, QLatin1Char('a'));
+        QCOMPARE(Friends::checkEntry(huge), std::nullopt);
+        QCOMPARE(Friends::checkEntry(huge.left(Friends::MaxEntryLength)), huge.left(Friends::MaxEntryLength));
+        const Friends::Matcher matcher({huge, QStringLiteral("Bob")});
+        QVERIFY(!matcher.matches(QString(300, QLatin1Char('a'))));
+        QVERIFY(matcher.matches(QStringLiteral("bob")));
     }
 };
 
