@@ -8,6 +8,7 @@
 
 #include <QEvent>
 #include <QLabel>
+#include <QPointer>
 #include <QProgressBar>
 #include <QVBoxLayout>
 
@@ -75,8 +76,13 @@ void FrmDownload::showProgress(qint64 received, qint64 total)
 void FrmDownload::fail(const QString& text)
 {
     m_downloader->cancel();
-    m_desktop.message(this, Desktop::Icon::Critical, tr("Quake 4 Vantage Update"), text, QMessageBox::Ok);
-    QDialog::reject();
+    // The box belongs to the main window: this window may be closed (and
+    // deleted) while the box is open, taking a box of its own with it.
+    const QPointer<FrmDownload> self(this);
+    Desktop& desktop = m_desktop;
+    desktop.message(parentWidget(), Desktop::Icon::Critical, tr("Quake 4 Vantage Update"), text, QMessageBox::Ok);
+    if (self)
+        self->QDialog::reject();
 }
 
 void FrmDownload::reject()

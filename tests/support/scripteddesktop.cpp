@@ -3,11 +3,13 @@
 
 #include <QTimer>
 
-QMessageBox::StandardButton ScriptedDesktop::message(QWidget*, Icon icon, const QString& title, const QString& text,
-                                                     QMessageBox::StandardButtons buttons,
+QMessageBox::StandardButton ScriptedDesktop::message(QWidget* parent, Icon icon, const QString& title,
+                                                     const QString& text, QMessageBox::StandardButtons buttons,
                                                      const ButtonTexts& buttonTexts)
 {
     messages.append({icon, title, text, buttons, buttonTexts});
+    if (whileMessageOpen)
+        std::exchange(whileMessageOpen, {})(parent);
     if (messageAnswers.isEmpty()) {
         ++unexpectedCalls;
         return QMessageBox::Cancel;

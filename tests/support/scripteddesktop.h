@@ -65,6 +65,9 @@ public:
     };
 
     QQueue<QMessageBox::StandardButton> messageAnswers;
+    // Runs while a message box is open, as a user (or assistive tool)
+    // acting on other windows meanwhile; its parent is given.
+    std::function<void(QWidget* parent)> whileMessageOpen;
     QQueue<std::optional<QString>> inputAnswers;
     QQueue<QString> fileAnswers;
     QQueue<std::optional<int>> choiceAnswers;

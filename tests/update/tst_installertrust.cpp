@@ -169,6 +169,35 @@ private slots:
         QCOMPARE(plain.requests(), 0);
     }
 
+    // "Error During Download" is open when the download window beneath is
+    // closed (its Cancel pressed, as assistive tools do) and deleted: the
+    // box belongs to the main window and outlives it (signal 11 before).
+    void theErrorOutlivesTheDownloadWindow()
+    {
+        HttpResponder::Reply cut;
+        cut.raw = true;
+        cut.body = "HTTP/1.1 200 OK\r\nContent-Length: 100\r\nConnection: close\r\n\r\n" + QByteArray(30, 'x');
+        m_site->set(VersionPath, {200, "99.0.0", "text/plain", 0});
+        m_site->set(InstallerPath, cut);
+        QWidget* boxParent = nullptr;
+        m_desktop->whileMessageOpen = [&boxParent](QWidget* parent) {
+            boxParent = parent;
+            auto* download = QApplication::activeModalWidget()
+                                 ? qobject_cast<FrmDownload*>(QApplication::activeModalWidget())
+                                 : nullptr;
+            for (QWidget* window : QApplication::topLevelWidgets())
+                if (auto* found = qobject_cast<FrmDownload*>(window))
+                    download = found;
+            QVERIFY(download);
+            QTest::mouseClick(download->findChild<QPushButton*>(QStringLiteral("cmdCancel")), Qt::LeftButton);
+            QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        };
+        QVERIFY(downloadAndHear().startsWith(QStringLiteral("Error During Download")));
+        QCOMPARE(boxParent, m_window.get());
+        QTRY_VERIFY(!dialog<FrmDownload>("frmDownload"));
+        QVERIFY(m_desktop->starts.isEmpty());
+    }
+
     void onlyAWayAllOverHttpsStarts()
     {
         using InstallerTrust::Verdict;
