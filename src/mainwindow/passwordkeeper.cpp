@@ -36,14 +36,24 @@ QString PasswordKeeper::encode(const Kept& kept)
             .toJson(QJsonDocument::Compact));
 }
 
-PasswordKeeper::Kept PasswordKeeper::decode(const QString& text)
+std::optional<PasswordKeeper::Kept> PasswordKeeper::decode(const QString& text)
 {
-    const QJsonObject object = QJsonDocument::fromJson(text.toUtf8()).object();
+    QJsonParseError error;
+    const QJsonDocument document = QJsonDocument::fromJson(text.toUtf8(), &error);
+    if (error.error != QJsonParseError::NoError || !document.isObject())
+        return std::nullopt;
+    const QJsonObject object = document.object();
+    const QJsonValue password = object.value(QStringLiteral("password"));
+    const QJsonValue remembered = object.value(QStringLiteral("remembered"));
+    if (!password.isString() || !remembered.isArray())
+        return std::nullopt;
     Kept kept;
-    kept.password = object.value(QStringLiteral("password")).toString();
-    for (const QJsonValue& entry : object.value(QStringLiteral("remembered")).toArray())
-        if (entry.isString())
-            kept.remembered.append(entry.toString());
+    kept.password = password.toString();
+    for (const QJsonValue& entry : remembered.toArray()) {
+        if (!entry.isString())
+            return std::nullopt;
+        kept.remembered.append(entry.toString());
+    }
     return kept;
 }
 
@@ -76,7 +86,15 @@ void PasswordKeeper::restore()
             m_unavailable = true;
             return;
         }
-        Kept kept = answer == SecretStore::Answer::Found ? decode(value) : Kept{};
+        std::optional<Kept> read = answer == SecretStore::Answer::Found ? decode(value) : Kept{};
+        if (!read) {
+            // Not what this program writes: never overwritten; the file
+            // keeps the passwords as without a keyring.
+            qWarning("The keyring's entry for the passwords is not this program's: it is left as it is.");
+            m_unavailable = true;
+            return;
+        }
+        Kept kept = *read;
         m_confirmed = kept;
         // What the file still holds (an older version's, or what the
         // keyring missed at the last close) joins the keyring's.

@@ -35,7 +35,9 @@ public:
         friend bool operator==(const Kept&, const Kept&) = default;
     };
     static QString encode(const Kept& kept);
-    static Kept decode(const QString& text);
+    // Nothing when the text is not what encode() writes (another program's
+    // secret under our name, a damaged one): such a secret is left alone.
+    static std::optional<Kept> decode(const QString& text);
 
 private:
     bool wanted() const;

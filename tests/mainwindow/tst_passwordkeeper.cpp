@@ -74,9 +74,11 @@ private slots:
         QTest::qWait(0);
         QCOMPARE(run.box.currentText(), QStringLiteral("typed"));
         QCOMPARE(run.box.entries(), QStringList{"kept"});
-        QTRY_COMPARE_WITH_TIMEOUT(PasswordKeeper::decode(stored()).password, QStringLiteral("typed"), 3000);
+        QTRY_COMPARE_WITH_TIMEOUT(PasswordKeeper::decode(stored()).value_or(PasswordKeeper::Kept{}).password,
+                                  QStringLiteral("typed"), 3000);
         run.box.remember(QStringLiteral("typed"));
-        QTRY_COMPARE_WITH_TIMEOUT(PasswordKeeper::decode(stored()).remembered, (QStringList{"kept", "typed"}), 3000);
+        QTRY_COMPARE_WITH_TIMEOUT(PasswordKeeper::decode(stored()).value_or(PasswordKeeper::Kept{}).remembered,
+                                  (QStringList{"kept", "typed"}), 3000);
     }
 
     // Closed before the keyring confirmed: the file keeps them, so nothing
@@ -90,7 +92,8 @@ private slots:
         }
         QCOMPARE(m_settings->value(Keys::Password), QStringLiteral("late"));
         Run again(*m_settings, m_keyring);
-        QTRY_COMPARE(PasswordKeeper::decode(stored()).password, QStringLiteral("late"));
+        QTRY_COMPARE(PasswordKeeper::decode(stored()).value_or(PasswordKeeper::Kept{}).password,
+                     QStringLiteral("late"));
         QTest::qWait(0);
         again.keeper.writeOnClose();
         QCOMPARE(m_settings->value(Keys::Password), QString());
@@ -125,11 +128,38 @@ private slots:
         QCOMPARE(m_settings->value(Keys::PasswordBox), QStringList{"pw"});
     }
 
-    void garbageFromTheKeyringReadsAsNothing()
+    // A secret under our name that is not ours (garbage, binary, other
+    // types) was overwritten within half a second of the start: it is left
+    // alone, and the file keeps the passwords.
+    void aSecretNotOursIsLeftAlone_data()
     {
-        QCOMPARE(PasswordKeeper::decode(QStringLiteral("not json")), PasswordKeeper::Kept{});
-        QCOMPARE(PasswordKeeper::decode(QStringLiteral("{\"password\":5,\"remembered\":[\"a\",7]}")),
-                 (PasswordKeeper::Kept{QString(), {"a"}}));
+        QTest::addColumn<QString>("secret");
+        QTest::newRow("garbage") << "not json";
+        QTest::newRow("binary") << QString::fromLatin1(QByteArray("\x00\xff\x10{", 4));
+        QTest::newRow("wrong types") << "{\"password\":5,\"remembered\":[\"a\",7]}";
+        QTest::newRow("an array") << "[\"pw\"]";
+        QTest::newRow("missing list") << "{\"password\":\"pw\"}";
+    }
+    void aSecretNotOursIsLeftAlone()
+    {
+        QFETCH(QString, secret);
+        QCOMPARE(PasswordKeeper::decode(secret), std::nullopt);
+        m_keyring.values.insert(QStringLiteral("passwords"), secret);
+        const QHash<QString, QString> before = m_keyring.values;
+        {
+            Run run(*m_settings, m_keyring);
+            QTest::qWait(0);
+            run.box.setEditText(QStringLiteral("pw"));
+            QTest::qWait(1200);
+            run.keeper.writeOnClose();
+        }
+        QCOMPARE(m_keyring.writes, 0);
+        QCOMPARE(m_keyring.values, before);
+        QCOMPARE(m_settings->value(Keys::Password), QStringLiteral("pw"));
+    }
+
+    void theSecretRoundTrips()
+    {
         const PasswordKeeper::Kept odd{QStringLiteral("p\"w\n\u00e9"), {QStringLiteral("\u0001x")}};
         QCOMPARE(PasswordKeeper::decode(PasswordKeeper::encode(odd)), odd);
     }
