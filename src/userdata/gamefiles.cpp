@@ -19,6 +19,20 @@ bool isSafeName(const QString& name)
            !name.split(QLatin1Char('/')).contains(QStringLiteral(".."));
 }
 
+// Only what a map check asks for is kept: names of maps.
+bool isMapName(const QString& name)
+{
+    return name.startsWith(QLatin1String("maps/")) &&
+           (name.endsWith(QLatin1String(".map")) || name.endsWith(QLatin1String(".proc")) ||
+            name.endsWith(QLatin1String(".cm")));
+}
+
+void keep(const QString& name, QSet<QString>& into)
+{
+    if (into.size() < MaxKept && isSafeName(name) && isMapName(name))
+        into.insert(name);
+}
+
 bool readNames(zip_t* archive, QSet<QString>& into)
 {
     const zip_int64_t count = zip_get_num_entries(archive, 0);
@@ -26,13 +40,45 @@ bool readNames(zip_t* archive, QSet<QString>& into)
         return false;
     for (zip_int64_t i = 0; i < std::min<zip_int64_t>(count, MaxEntries); ++i) {
         const char* raw = zip_get_name(archive, zip_uint64_t(i), ZIP_FL_ENC_GUESS);
-        if (!raw)
+        if (!raw || qstrnlen(raw, MaxNameBytes + 1) > MaxNameBytes)
             continue;
-        const QString name = QString::fromUtf8(raw).toLower();
-        if (isSafeName(name))
-            into.insert(name);
+        keep(QString::fromUtf8(raw).toLower(), into);
     }
     return true;
+}
+
+quint64 little(const QByteArray& bytes, qsizetype at, int size)
+{
+    quint64 value = 0;
+    for (int i = size - 1; i >= 0; --i)
+        value = (value << 8) | quint8(bytes.at(at + i));
+    return value;
+}
+
+// The size of the central directory the archive's end record claims, read
+// from its last 64 KiB (zip64 too); 0 when none is found (libzip decides).
+quint64 claimedDirectoryBytes(QFile& file)
+{
+    const qint64 tail = std::min<qint64>(file.size(), 65557 + 20);
+    if (tail < 22 || !file.seek(file.size() - tail))
+        return 0;
+    const QByteArray bytes = file.read(tail);
+    const qsizetype end = bytes.lastIndexOf(QByteArray("PK\x05\x06", 4));
+    if (end < 0 || end + 22 > bytes.size())
+        return 0;
+    quint64 size = little(bytes, end + 12, 4);
+    if (size != 0xFFFFFFFF)
+        return size;
+    // Zip64: the locator just before names the real end record.
+    if (end < 20 || bytes.mid(end - 20, 4) != QByteArray("PK\x06\x07", 4))
+        return 0;
+    const quint64 record = little(bytes, end - 20 + 8, 8);
+    if (record > quint64(file.size()) || !file.seek(qint64(record)))
+        return 0;
+    const QByteArray zip64 = file.read(56);
+    if (zip64.size() < 56 || !zip64.startsWith(QByteArray("PK\x06\x06", 4)))
+        return 0;
+    return little(zip64, 40, 8);
 }
 
 } // namespace
@@ -71,6 +117,11 @@ bool archiveEntries(const QString& path, QSet<QString>& into)
     // libzip takes an empty file for an empty archive; the game does not.
     if (QFileInfo(path).size() == 0)
         return false;
+    {
+        QFile file(path);
+        if (!file.open(QIODevice::ReadOnly) || claimedDirectoryBytes(file) > quint64(MaxDirectoryBytes))
+            return false;
+    }
     int error = 0;
     zip_t* archive = zip_open(QFile::encodeName(path).constData(), ZIP_RDONLY, &error);
     if (!archive)
@@ -119,7 +170,7 @@ Index indexFolder(const QString& folder)
     }
     QDirIterator loose(dir.filePath(QStringLiteral("maps")), QDir::Files, QDirIterator::Subdirectories);
     for (qsizetype found = 0; loose.hasNext() && found < MaxEntries; ++found)
-        index.entries.insert(dir.relativeFilePath(loose.next()).toLower());
+        keep(dir.relativeFilePath(loose.next()).toLower(), index.entries);
     return index;
 }
 

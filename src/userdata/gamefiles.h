@@ -13,7 +13,14 @@
 // names climbing out with "..") costs at most MaxEntries names.
 namespace GameFiles {
 
-inline constexpr qsizetype MaxEntries = 100000; // per archive
+inline constexpr qsizetype MaxEntries = 100000; // read per archive
+// What an index keeps: the names a map check asks for (below maps/, ending
+// .map, .proc or .cm), each of at most MaxNameBytes, MaxKept in all; and an
+// archive whose directory claims more than MaxDirectoryBytes is not opened
+// (libzip would hold all of it).
+inline constexpr qsizetype MaxNameBytes = 160;
+inline constexpr qsizetype MaxKept = 20000;
+inline constexpr qint64 MaxDirectoryBytes = 32 * 1024 * 1024;
 inline const QString BaseFolder = QStringLiteral("q4base");
 
 // The names a map may stand under in an archive, in lower case:
@@ -26,8 +33,8 @@ QStringList modFolders(const QString& fsGame);
 // The mod's own folder, or empty for the base game.
 QString modFolder(const QString& fsGame);
 
-// The entry names of one archive, in lower case; false when it is no
-// readable zip file.
+// The map names of one archive (as above), in lower case; false when it is
+// no readable zip file.
 bool archiveEntries(const QString& path, QSet<QString>& into);
 bool archiveEntries(const QByteArray& bytes, QSet<QString>& into);
 

@@ -39,7 +39,8 @@ private slots:
                          {"maps/mp/Q4DM1.map", "maps/mp/q4dm1.proc", "../evil.map", "/abs.map", "textures/x.tga"}));
         QSet<QString> names;
         QVERIFY(GameFiles::archiveEntries(file(QStringLiteral("a.pk4")), names));
-        QCOMPARE(names, (QSet<QString>{"maps/mp/q4dm1.map", "maps/mp/q4dm1.proc", "textures/x.tga"}));
+        // Only what a map check asks for is kept.
+        QCOMPARE(names, (QSet<QString>{"maps/mp/q4dm1.map", "maps/mp/q4dm1.proc"}));
         QFile whole(file(QStringLiteral("a.pk4")));
         QVERIFY(whole.open(QIODevice::ReadOnly));
         const QByteArray bytes = whole.readAll();
@@ -55,15 +56,39 @@ private slots:
         }
     }
 
+    // 100,000 names of 8 KB kept 2,361 MB for the session; a sparse
+    // archive claiming a 4 GiB directory cost a 1.5 GB peak. Names are
+    // bounded by count and size, and such a directory is never opened.
     void aHugeDirectoryIsCut()
     {
         QStringList names;
         for (int i = 0; i < GameFiles::MaxEntries + 500; ++i)
-            names.append(QStringLiteral("f/%1").arg(i));
+            names.append(QStringLiteral("maps/%1.map").arg(i));
         QVERIFY(writeZip(file(QStringLiteral("huge.pk4")), names));
         QSet<QString> read;
         QVERIFY(GameFiles::archiveEntries(file(QStringLiteral("huge.pk4")), read));
-        QCOMPARE(read.size(), GameFiles::MaxEntries);
+        QCOMPARE(read.size(), GameFiles::MaxKept);
+
+        const QString longName = QStringLiteral("maps/") + QString(8000, QLatin1Char('x')) + QStringLiteral(".map");
+        QVERIFY(writeZip(file(QStringLiteral("long.pk4")), {longName, "maps/mp/q4dm1.map"}));
+        QSet<QString> shortOnly;
+        QVERIFY(GameFiles::archiveEntries(file(QStringLiteral("long.pk4")), shortOnly));
+        QCOMPARE(shortOnly, QSet<QString>{"maps/mp/q4dm1.map"});
+
+        // The end record claims a directory of 3 GiB.
+        QFile small(file(QStringLiteral("long.pk4")));
+        QVERIFY(small.open(QIODevice::ReadOnly));
+        QByteArray bytes = small.readAll();
+        const qsizetype end = bytes.lastIndexOf(QByteArray("PK\x05\x06", 4));
+        QVERIFY(end > 0);
+        bytes.replace(end + 12, 4, QByteArray("\x00\x00\x00\xC0", 4));
+        QFile claiming(file(QStringLiteral("claiming.pk4")));
+        QVERIFY(claiming.open(QIODevice::WriteOnly));
+        claiming.write(bytes);
+        claiming.close();
+        QSet<QString> none;
+        QVERIFY(!GameFiles::archiveEntries(file(QStringLiteral("claiming.pk4")), none));
+        QVERIFY(none.isEmpty());
     }
 
     // A game folder: its archives in name order, the broken ones named,
