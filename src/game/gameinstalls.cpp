@@ -3,28 +3,8 @@
 
 #include "game/installfinder.h"
 
-#include <QElapsedTimer>
 #include <QFutureWatcher>
 #include <QtConcurrent/QtConcurrentRun>
-
-namespace {
-
-struct Look {
-    QList<GameInstall> found;
-    qint64 ms = 0;
-};
-
-Look lookFor(const GamePlaces& places)
-{
-    QElapsedTimer timer;
-    timer.start();
-    Look look;
-    look.found = InstallFinder::find(places);
-    look.ms = timer.elapsed();
-    return look;
-}
-
-} // namespace
 
 GameInstalls::GameInstalls(GamePlaces places, QObject* parent)
     : QObject(parent)
@@ -37,9 +17,9 @@ void GameInstalls::look()
     if (m_known || m_looking)
         return;
     m_looking = true;
-    auto* watcher = new QFutureWatcher<Look>(this);
-    connect(watcher, &QFutureWatcher<Look>::finished, this, [this, watcher] {
-        const Look result = watcher->result();
+    auto* watcher = new QFutureWatcher<QList<GameInstall>>(this);
+    connect(watcher, &QFutureWatcher<QList<GameInstall>>::finished, this, [this, watcher] {
+        const QList<GameInstall> result = watcher->result();
         watcher->deleteLater();
         m_looking = false;
         if (m_again) {
@@ -48,12 +28,11 @@ void GameInstalls::look()
             look();
             return;
         }
-        m_found = result.found;
-        m_lastLookMs = result.ms;
+        m_found = result;
         m_known = true;
         emit looked();
     });
-    watcher->setFuture(QtConcurrent::run(&lookFor, m_places));
+    watcher->setFuture(QtConcurrent::run(&InstallFinder::find, m_places));
 }
 
 void GameInstalls::lookAgain()

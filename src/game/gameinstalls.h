@@ -24,8 +24,6 @@ public:
     void look();
     // Looks again, whatever was found before.
     void lookAgain();
-    // How long the last look took, in milliseconds.
-    qint64 lastLookMs() const { return m_lastLookMs; }
 
 signals:
     // The installs are known (again).
@@ -37,5 +35,4 @@ private:
     bool m_known = false;
     bool m_looking = false;
     bool m_again = false;
-    qint64 m_lastLookMs = 0;
 };
