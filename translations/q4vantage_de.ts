@@ -1245,6 +1245,14 @@ Auf einen freien Platz warten und beitreten, sobald einer frei wird?</translatio
             <numerusform>%n Server bekannt.</numerusform>
         </translation>
     </message>
+    <message>
+        <source>At most %1 master servers are asked. Remove one before adding another.</source>
+        <translation>Es werden höchstens %1 Master-Server gefragt. Entfernen Sie einen, bevor Sie einen weiteren hinzufügen.</translation>
+    </message>
+    <message>
+        <source>At most %1 server lists are fetched. Remove one before adding another.</source>
+        <translation>Es werden höchstens %1 Serverlisten abgerufen. Entfernen Sie eine, bevor Sie eine weitere hinzufügen.</translation>
+    </message>
 </context>
 <context>
     <name>SlotWaiter</name>
@@ -1320,6 +1328,34 @@ Auf einen freien Platz warten und beitreten, sobald einer frei wird?</translatio
     <message>
         <source>Options, &quot;Servers&quot; tab, adds sources</source>
         <translation>Optionen, Reiter „Server“, nimmt Quellen auf</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 and %n more</source>
+        <translation>
+            <numerusform>%1 und %n weitere</numerusform>
+            <numerusform>%1 und %n weitere</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n more master servers left out: at most %1 are asked.</source>
+        <translation>
+            <numerusform>%n weiterer Master-Server ausgelassen: höchstens %1 werden gefragt.</numerusform>
+            <numerusform>%n weitere Master-Server ausgelassen: höchstens %1 werden gefragt.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n more server lists left out: at most %1 are fetched.</source>
+        <translation>
+            <numerusform>%n weitere Serverliste ausgelassen: höchstens %1 werden abgerufen.</numerusform>
+            <numerusform>%n weitere Serverlisten ausgelassen: höchstens %1 werden abgerufen.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>... and %n more (the status line&apos;s tooltip lists them all)</source>
+        <translation>
+            <numerusform>... und %n weitere (der Tooltip der Statuszeile nennt alle)</numerusform>
+            <numerusform>... und %n weitere (der Tooltip der Statuszeile nennt alle)</numerusform>
+        </translation>
     </message>
 </context>
 <context>

@@ -1235,6 +1235,14 @@ Wait for a free slot and join as soon as one opens?</source>
             <numerusform>%n servers known.</numerusform>
         </translation>
     </message>
+    <message>
+        <source>At most %1 master servers are asked. Remove one before adding another.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>At most %1 server lists are fetched. Remove one before adding another.</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>SlotWaiter</name>
@@ -1310,6 +1318,34 @@ Wait for a free slot and join as soon as one opens?</source>
     <message>
         <source>Options, &quot;Servers&quot; tab, adds sources</source>
         <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 and %n more</source>
+        <translation>
+            <numerusform>%1 and %n more</numerusform>
+            <numerusform>%1 and %n more</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n more master servers left out: at most %1 are asked.</source>
+        <translation>
+            <numerusform>%n more master server left out: at most %1 are asked.</numerusform>
+            <numerusform>%n more master servers left out: at most %1 are asked.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n more server lists left out: at most %1 are fetched.</source>
+        <translation>
+            <numerusform>%n more server list left out: at most %1 are fetched.</numerusform>
+            <numerusform>%n more server lists left out: at most %1 are fetched.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>... and %n more (the status line&apos;s tooltip lists them all)</source>
+        <translation>
+            <numerusform>... and %n more (the status line's tooltip lists them all)</numerusform>
+            <numerusform>... and %n more (the status line's tooltip lists them all)</numerusform>
+        </translation>
     </message>
 </context>
 <context>

@@ -1245,6 +1245,14 @@ Attendre une place libre et rejoindre dès qu&apos;une place se libère ?</trans
             <numerusform>%n serveurs connus.</numerusform>
         </translation>
     </message>
+    <message>
+        <source>At most %1 master servers are asked. Remove one before adding another.</source>
+        <translation>Au plus %1 serveurs principaux sont interrogés. Retirez-en un avant d'en ajouter un autre.</translation>
+    </message>
+    <message>
+        <source>At most %1 server lists are fetched. Remove one before adding another.</source>
+        <translation>Au plus %1 listes de serveurs sont téléchargées. Retirez-en une avant d'en ajouter une autre.</translation>
+    </message>
 </context>
 <context>
     <name>SlotWaiter</name>
@@ -1320,6 +1328,34 @@ Attendre une place libre et rejoindre dès qu&apos;une place se libère ?</trans
     <message>
         <source>Options, &quot;Servers&quot; tab, adds sources</source>
         <translation>Options, onglet « Serveurs », ajoute des sources</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 and %n more</source>
+        <translation>
+            <numerusform>%1 et %n autre</numerusform>
+            <numerusform>%1 et %n autres</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n more master servers left out: at most %1 are asked.</source>
+        <translation>
+            <numerusform>%n autre serveur principal laissé de côté : au plus %1 sont interrogés.</numerusform>
+            <numerusform>%n autres serveurs principaux laissés de côté : au plus %1 sont interrogés.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n more server lists left out: at most %1 are fetched.</source>
+        <translation>
+            <numerusform>%n autre liste de serveurs laissée de côté : au plus %1 sont téléchargées.</numerusform>
+            <numerusform>%n autres listes de serveurs laissées de côté : au plus %1 sont téléchargées.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>... and %n more (the status line&apos;s tooltip lists them all)</source>
+        <translation>
+            <numerusform>... et %n autre (l'infobulle de la ligne d'état les cite tous)</numerusform>
+            <numerusform>... et %n autres (l'infobulle de la ligne d'état les cite tous)</numerusform>
+        </translation>
     </message>
 </context>
 <context>

@@ -1245,6 +1245,14 @@ Attendere un posto libero ed entrare appena se ne libera uno?</translation>
             <numerusform>%n server conosciuti.</numerusform>
         </translation>
     </message>
+    <message>
+        <source>At most %1 master servers are asked. Remove one before adding another.</source>
+        <translation>Si interrogano al massimo %1 master server. Rimuovine uno prima di aggiungerne un altro.</translation>
+    </message>
+    <message>
+        <source>At most %1 server lists are fetched. Remove one before adding another.</source>
+        <translation>Si scaricano al massimo %1 elenchi di server. Rimuovine uno prima di aggiungerne un altro.</translation>
+    </message>
 </context>
 <context>
     <name>SlotWaiter</name>
@@ -1320,6 +1328,34 @@ Attendere un posto libero ed entrare appena se ne libera uno?</translation>
     <message>
         <source>Options, &quot;Servers&quot; tab, adds sources</source>
         <translation>Opzioni, scheda &quot;Server&quot;, aggiunge fonti</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 and %n more</source>
+        <translation>
+            <numerusform>%1 e altri %n</numerusform>
+            <numerusform>%1 e altri %n</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n more master servers left out: at most %1 are asked.</source>
+        <translation>
+            <numerusform>Un altro master server tralasciato: se ne interrogano al massimo %1.</numerusform>
+            <numerusform>Altri %n master server tralasciati: se ne interrogano al massimo %1.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n more server lists left out: at most %1 are fetched.</source>
+        <translation>
+            <numerusform>Un altro elenco di server tralasciato: se ne scaricano al massimo %1.</numerusform>
+            <numerusform>Altri %n elenchi di server tralasciati: se ne scaricano al massimo %1.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>... and %n more (the status line&apos;s tooltip lists them all)</source>
+        <translation>
+            <numerusform>... e un altro (il suggerimento della riga di stato li elenca tutti)</numerusform>
+            <numerusform>... e altri %n (il suggerimento della riga di stato li elenca tutti)</numerusform>
+        </translation>
     </message>
 </context>
 <context>

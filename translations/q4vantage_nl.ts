@@ -1245,6 +1245,14 @@ Wachten op een vrije plek en deelnemen zodra er een vrijkomt?</translation>
             <numerusform>%n servers bekend.</numerusform>
         </translation>
     </message>
+    <message>
+        <source>At most %1 master servers are asked. Remove one before adding another.</source>
+        <translation>Er worden hoogstens %1 masterservers gevraagd. Verwijder er een voordat u een andere toevoegt.</translation>
+    </message>
+    <message>
+        <source>At most %1 server lists are fetched. Remove one before adding another.</source>
+        <translation>Er worden hoogstens %1 serverlijsten opgehaald. Verwijder er een voordat u een andere toevoegt.</translation>
+    </message>
 </context>
 <context>
     <name>SlotWaiter</name>
@@ -1320,6 +1328,34 @@ Wachten op een vrije plek en deelnemen zodra er een vrijkomt?</translation>
     <message>
         <source>Options, &quot;Servers&quot; tab, adds sources</source>
         <translation>Opties, tabblad &quot;Servers&quot;, voegt bronnen toe</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 and %n more</source>
+        <translation>
+            <numerusform>%1 en nog %n</numerusform>
+            <numerusform>%1 en nog %n</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n more master servers left out: at most %1 are asked.</source>
+        <translation>
+            <numerusform>Nog %n masterserver weggelaten: er worden hoogstens %1 gevraagd.</numerusform>
+            <numerusform>Nog %n masterservers weggelaten: er worden hoogstens %1 gevraagd.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n more server lists left out: at most %1 are fetched.</source>
+        <translation>
+            <numerusform>Nog %n serverlijst weggelaten: er worden hoogstens %1 opgehaald.</numerusform>
+            <numerusform>Nog %n serverlijsten weggelaten: er worden hoogstens %1 opgehaald.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>... and %n more (the status line&apos;s tooltip lists them all)</source>
+        <translation>
+            <numerusform>... en nog %n (de tooltip van de statusregel noemt ze allemaal)</numerusform>
+            <numerusform>... en nog %n (de tooltip van de statusregel noemt ze allemaal)</numerusform>
+        </translation>
     </message>
 </context>
 <context>

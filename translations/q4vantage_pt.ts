@@ -1245,6 +1245,14 @@ Esperar por uma vaga e entrar assim que uma abrir?</translation>
             <numerusform>%n servidores conhecidos.</numerusform>
         </translation>
     </message>
+    <message>
+        <source>At most %1 master servers are asked. Remove one before adding another.</source>
+        <translation>São consultados no máximo %1 servidores mestre. Remova um antes de adicionar outro.</translation>
+    </message>
+    <message>
+        <source>At most %1 server lists are fetched. Remove one before adding another.</source>
+        <translation>São obtidas no máximo %1 listas de servidores. Remova uma antes de adicionar outra.</translation>
+    </message>
 </context>
 <context>
     <name>SlotWaiter</name>
@@ -1320,6 +1328,34 @@ Esperar por uma vaga e entrar assim que uma abrir?</translation>
     <message>
         <source>Options, &quot;Servers&quot; tab, adds sources</source>
         <translation>Opções, separador «Servidores», acrescenta fontes</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 and %n more</source>
+        <translation>
+            <numerusform>%1 e mais %n</numerusform>
+            <numerusform>%1 e mais %n</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n more master servers left out: at most %1 are asked.</source>
+        <translation>
+            <numerusform>Mais %n servidor mestre deixado de fora: são consultados no máximo %1.</numerusform>
+            <numerusform>Mais %n servidores mestre deixados de fora: são consultados no máximo %1.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n more server lists left out: at most %1 are fetched.</source>
+        <translation>
+            <numerusform>Mais %n lista de servidores deixada de fora: são obtidas no máximo %1.</numerusform>
+            <numerusform>Mais %n listas de servidores deixadas de fora: são obtidas no máximo %1.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>... and %n more (the status line&apos;s tooltip lists them all)</source>
+        <translation>
+            <numerusform>... e mais %n (a dica da linha de estado lista todos)</numerusform>
+            <numerusform>... e mais %n (a dica da linha de estado lista todos)</numerusform>
+        </translation>
     </message>
 </context>
 <context>

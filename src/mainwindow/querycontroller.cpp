@@ -92,6 +92,7 @@ bool QueryController::begin(ListsGo listsGo)
     m_batcher.clear();
     m_memory.clear();
     m_sourceNames.clear();
+    m_leftOut = {};
     m_sources = SourceStatus();
     emit sourcesReported(QString());
     emit busyChanged(true);
@@ -117,19 +118,20 @@ void QueryController::startMasterQuery()
     plan.masters = masters.masters;
     // A list address the options would refuse is left out, as a hand-edited
     // master is not: the masters alone still make a query.
-    plan.listUrls = ServerListReader::parseUrls(m_settings.value(Keys::ServerListUrls));
+    const ServerListReader::UrlList lists = ServerListReader::parseUrls(m_settings.value(Keys::ServerListUrls));
+    plan.listUrls = lists.urls;
     plan.proxy = httpProxy(m_settings.value(Keys::Proxy), m_settings.value(Keys::ProxyAddress));
     if (m_settings.value(Keys::QueryKnownServers))
         plan.known = KnownServers::toAddressTable(KnownServers::readFile(m_memory.filePath()));
     if (!begin())
         return;
+    m_leftOut = {masters.leftOut, lists.leftOut};
     QStringList names;
     for (const MasterAddress& master : plan.masters)
         names.append(master.host);
     for (const QUrl& url : plan.listUrls)
         names.append(url.host());
-    names.removeDuplicates();
-    m_sourceNames = names.join(QStringLiteral(", "));
+    m_sourceNames = SourceStatus::names(names);
     if (const auto error = m_session.startSources(plan))
         fail(*error);
 }
@@ -314,7 +316,7 @@ void QueryController::fail(const QueryError& error)
 
 void QueryController::reportSources()
 {
-    m_sources = SourceStatus::of(m_session.sourceReports());
+    m_sources = SourceStatus::of(m_session.sourceReports(), m_leftOut);
     emit sourcesReported(m_sources.summary);
 }
 

@@ -112,6 +112,7 @@ private:
     ServerMemory m_memory;
     RefreshRound m_round;
     QString m_sourceNames;
+    SourceStatus::LeftOut m_leftOut;
     SourceStatus m_sources;
     // A speed outside the table keeps the pool of the last query.
     int m_lastSocketIndex = QuerySpeed::DefaultLastSocketIndex;

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "mainwindow/sourcestatus.h"
 
+#include "query/masteraddress.h"
 #include "query/serverlistreader.h"
 
 #include <QUrl>
@@ -20,9 +21,25 @@ QString reasonOf(const SourceReport& report, const QString& shortName)
 
 } // namespace
 
-SourceStatus SourceStatus::of(const QList<SourceReport>& reports)
+QString SourceStatus::names(QStringList names, const QString& separator)
 {
-    QStringList lines;
+    names.removeDuplicates();
+    if (names.size() <= NamesShown)
+        return names.join(separator);
+    const int more = int(names.size()) - NamesShown;
+    return tr("%1 and %n more", nullptr, more).arg(names.mid(0, NamesShown).join(separator));
+}
+
+SourceStatus SourceStatus::of(const QList<SourceReport>& reports, LeftOut leftOut)
+{
+    QStringList notes;
+    if (leftOut.masters > 0)
+        notes.append(tr("%n more master servers left out: at most %1 are asked.", nullptr, leftOut.masters)
+                         .arg(MasterList::Max));
+    if (leftOut.lists > 0)
+        notes.append(tr("%n more server lists left out: at most %1 are fetched.", nullptr, leftOut.lists)
+                         .arg(ServerListReader::UrlList::Max));
+    QStringList lines = notes;
     QStringList failed;
     QStringList awaited;
     QStringList reasons;
@@ -47,11 +64,8 @@ SourceStatus SourceStatus::of(const QList<SourceReport>& reports)
             line += QLatin1Char(' ') + tr("(list cut at %1)").arg(ServerListReader::MaxAddresses);
         lines.append(line);
     }
-    failed.removeDuplicates();
-    awaited.removeDuplicates();
-    reasons.removeDuplicates();
-    return SourceStatus{lines.join(QLatin1Char('\n')), failed.join(QStringLiteral(", ")),
-                        awaited.join(QStringLiteral(", ")), reasons.join(QStringLiteral("; "))};
+    return SourceStatus{lines.join(QLatin1Char('\n')), notes.join(QLatin1Char('\n')), names(failed), names(awaited),
+                        names(reasons, QStringLiteral("; "))};
 }
 
 QString SourceStatus::queryingText(int count) const
@@ -59,7 +73,7 @@ QString SourceStatus::queryingText(int count) const
     const QString text = tr("Querying %1 Servers...").arg(count);
     const QString more = !awaited.isEmpty()  ? tr("Waiting for %1").arg(awaited)
                          : !failed.isEmpty() ? tr("No list from %1").arg(failed)
-                                             : QString();
+                                             : leftOut.section(QLatin1Char('\n'), 0, 0);
     return more.isEmpty() ? text : text + QLatin1Char('\n') + more;
 }
 
@@ -72,8 +86,14 @@ QString SourceStatus::timedOutLine() const
 QString SourceStatus::timedOutText() const
 {
     QString text = tr("Master Servers Timed Out");
-    if (!summary.isEmpty())
-        text += QStringLiteral("\n\n") + summary;
+    QStringList lines = summary.split(QLatin1Char('\n'), Qt::SkipEmptyParts);
+    if (lines.size() > LinesInBox) {
+        const int more = int(lines.size()) - LinesInBox + 1;
+        lines.resize(LinesInBox - 1);
+        lines.append(tr("... and %n more (the status line's tooltip lists them all)", nullptr, more));
+    }
+    if (!lines.isEmpty())
+        text += QStringLiteral("\n\n") + lines.join(QLatin1Char('\n'));
     return text + QStringLiteral("\n\n") +
            tr("Check the network connection, or add a master server or a server list that works in Options, on the "
               "\"Servers\" tab.");

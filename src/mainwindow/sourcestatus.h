@@ -13,7 +13,20 @@ struct SourceStatus {
     Q_DECLARE_TR_FUNCTIONS(SourceStatus)
 
 public:
-    static SourceStatus of(const QList<SourceReport>& reports);
+    // The sources the settings named beyond what one query asks.
+    struct LeftOut {
+        int masters = 0;
+        int lists = 0;
+    };
+    // The status line names this many sources, then says how many more.
+    static constexpr int NamesShown = 3;
+    // The time-out box says what this many sources gave, then how many more:
+    // its buttons stay on the screen however many sources there are.
+    static constexpr int LinesInBox = 12;
+
+    static SourceStatus of(const QList<SourceReport>& reports, LeftOut leftOut);
+    // "a, b, c and 5 more": the first few names, then a count.
+    static QString names(QStringList names, const QString& separator = QStringLiteral(", "));
 
     // "Querying N Servers...", and the awaited or failed sources below.
     QString queryingText(int count) const;
@@ -24,7 +37,8 @@ public:
     // gave nothing, short, and where to add one that works.
     QString timedOutLine() const;
 
-    QString summary; // one line per source
+    QString summary; // the sources left out, if any, then one line per source
+    QString leftOut; // a line each for the masters and the lists left out
     QString failed;  // the hosts that gave nothing, comma-separated
     QString awaited; // the hosts not heard from yet
     QString reasons; // each failed host with its reason in a word or two

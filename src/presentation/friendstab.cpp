@@ -60,9 +60,11 @@ FriendsTab::FriendsTab(SettingsStore& settings, Desktop& desktop, QWidget* paren
 
 void FriendsTab::retranslateUi()
 {
-    m_friends->setTexts({tr("Friends (names, or patterns such as *Bob*):"), tr("Friend"),
+    m_friends->setTexts({tr("Friends (names, or patterns such as *Bob*):"),
+                         tr("Friend"),
                          tr("Name of a friend as the player list shows it, or a pattern such as *Hammer*:"),
-                         tr("\"%1\" holds a control character. Type a name or a pattern.")});
+                         tr("\"%1\" holds a control character. Type a name or a pattern."),
+                         {}});
     lblAutoRefresh->setText(tr("Refresh the listed servers:"));
     for (int i = 0; i < cmbAutoRefresh->count(); ++i)
         cmbAutoRefresh->setItemText(i, intervalText(cmbAutoRefresh->itemData(i).toInt()));

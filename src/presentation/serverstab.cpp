@@ -90,6 +90,11 @@ std::optional<QString> AddressListEditor::ask(const QString& start)
 
 void AddressListEditor::add()
 {
+    // Said before anything is typed, so nothing typed is lost to it.
+    if (m_list->count() >= m_maxEntries) {
+        m_desktop.message(this, Desktop::Icon::Information, m_texts.dialogTitle, m_texts.full, QMessageBox::Ok);
+        return;
+    }
     const auto entry = ask(QString());
     if (!entry)
         return;
@@ -143,11 +148,10 @@ std::optional<QString> checkMaster(const QString& typed)
 
 std::optional<QString> checkListUrl(const QString& typed)
 {
-    QStringList refused;
-    const auto urls = ServerListReader::parseUrls(typed, &refused);
-    if (urls.size() != 1 || !refused.isEmpty())
+    const ServerListReader::UrlList list = ServerListReader::parseUrls(typed);
+    if (list.urls.size() != 1 || !list.refused.isEmpty())
         return std::nullopt;
-    return ServerListReader::urlsText(urls);
+    return ServerListReader::urlsText(list.urls);
 }
 
 QStringList masterEntries(const QString& setting)
@@ -161,7 +165,7 @@ QStringList masterEntries(const QString& setting)
 QStringList urlEntries(const QString& setting)
 {
     QStringList entries;
-    for (const QUrl& url : ServerListReader::parseUrls(setting))
+    for (const QUrl& url : ServerListReader::parseUrls(setting).urls)
         entries.append(ServerListReader::urlsText({url}));
     return entries;
 }
@@ -174,8 +178,11 @@ ServersTab::ServersTab(SettingsStore& settings, Desktop& desktop, QString knownS
     , m_desktop(desktop)
     , m_knownPath(std::move(knownServersPath))
 {
+    // A query asks no more than these: the options keep no more.
     m_masters = new AddressListEditor(desktop, "Masters", checkMaster, this);
+    m_masters->setMaxEntries(MasterList::Max);
     m_lists = new AddressListEditor(desktop, "ServerLists", checkListUrl, this);
+    m_lists->setMaxEntries(ServerListReader::UrlList::Max);
     chkQueryKnown = makeControl<QCheckBox>(this, "chkQueryKnown");
     cmdForgetKnown = makeControl<QPushButton>(this, "cmdForgetKnown");
     lblKnown = makeControl<QLabel>(this, "lblKnown");
@@ -201,10 +208,13 @@ void ServersTab::retranslateUi()
          // %1 is the typed address, filled in when it is refused.
          tr("\"%1\" is not a master server address. Type a host name or an IP address, followed by "
             "a colon and a port from 1 to 65535 when the port is not %2.")
-             .arg(QStringLiteral("%1"), QString::number(MasterAddress::DefaultPort))});
+             .arg(QStringLiteral("%1"), QString::number(MasterAddress::DefaultPort)),
+         tr("At most %1 master servers are asked. Remove one before adding another.").arg(MasterList::Max)});
     m_lists->setTexts({tr("Server lists on the web, fetched alongside:"), tr("Server List"),
                        tr("Web address of a server list (JSON or one host:port per line):"),
-                       tr("\"%1\" is not a web address. Type an address that begins with http:// or https://.")});
+                       tr("\"%1\" is not a web address. Type an address that begins with http:// or https://."),
+                       tr("At most %1 server lists are fetched. Remove one before adding another.")
+                           .arg(ServerListReader::UrlList::Max)});
     chkQueryKnown->setText(tr("Remember servers that answered and query them again"));
     cmdForgetKnown->setText(tr("Forget known servers"));
     showKnownCount();

@@ -5,6 +5,7 @@
 #include <QWidget>
 
 #include <functional>
+#include <limits>
 #include <optional>
 
 class Desktop;
@@ -29,9 +30,12 @@ public:
         QString dialogTitle;
         QString prompt;
         QString refused; // %1 is the typed text
+        QString full;    // said when Add is pressed with the list at its most
     };
 
     AddressListEditor(Desktop& desktop, const char* name, Check check, QWidget* parent = nullptr);
+    // Add says Texts::full instead of asking once the list holds this many.
+    void setMaxEntries(int maxEntries) { m_maxEntries = maxEntries; }
 
     void setTexts(const Texts& texts);
     QStringList entries() const;
@@ -48,6 +52,7 @@ private:
 
     Desktop& m_desktop;
     Check m_check;
+    int m_maxEntries = std::numeric_limits<int>::max();
     Texts m_texts;
     QLabel* m_caption = nullptr;
     QListWidget* m_list = nullptr;

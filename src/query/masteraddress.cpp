@@ -2,6 +2,7 @@
 #include "query/masteraddress.h"
 
 #include <QRegularExpression>
+#include <QSet>
 
 namespace {
 
@@ -63,11 +64,22 @@ MasterList parseMasterList(QStringView text)
         result.masters = MasterAddress::defaults();
         return result;
     }
+    QSet<QString> seen;
     for (const QString& entry : entries) {
-        if (const auto master = parseMasterAddress(entry))
+        const auto master = parseMasterAddress(entry);
+        if (!master) {
+            result.refused.append(entry);
+            continue;
+        }
+        // Host names are not case sensitive: "Master.Example" is the same master.
+        const QString key = masterAddressText({master->host.toLower(), master->port});
+        if (seen.contains(key))
+            continue;
+        seen.insert(key);
+        if (result.masters.size() < MasterList::Max)
             result.masters.append(*master);
         else
-            result.refused.append(entry);
+            ++result.leftOut;
     }
     return result;
 }

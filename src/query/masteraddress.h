@@ -31,10 +31,16 @@ std::optional<MasterAddress> parseMasterAddress(QStringView text);
 // The masters of one query: the setting holds one or more entries
 // separated by commas or blanks. Entries that name no usable host or port
 // are returned apart so the caller can say which; an empty text means the
-// default masters.
+// default masters. A master named twice is asked once, and no more than Max
+// are asked: each takes a socket and a port of its own, and a hand-edited
+// setting of thousands would use up both. How many were left out is kept so
+// the caller can say so.
 struct MasterList {
+    static constexpr int Max = 16;
+
     QList<MasterAddress> masters;
     QStringList refused;
+    int leftOut = 0;
 };
 MasterList parseMasterList(QStringView text);
 // The setting's text for a list of masters, as the options write it.

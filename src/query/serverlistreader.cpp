@@ -126,20 +126,29 @@ Result read(const QByteArray& reply, int maxAddresses)
     return result;
 }
 
-QList<QUrl> parseUrls(QStringView text, QStringList* refused)
+UrlList parseUrls(QStringView text)
 {
-    QList<QUrl> urls;
+    UrlList result;
+    QSet<QUrl> seen;
     static const QRegularExpression blanks(QStringLiteral("\\s+"));
     for (const QString& entry : text.toString().split(blanks, Qt::SkipEmptyParts)) {
         const QUrl url(entry, QUrl::StrictMode);
         const QString scheme = url.scheme().toLower();
-        if (url.isValid() && (scheme == QLatin1String("http") || scheme == QLatin1String("https")) &&
-            !url.host().isEmpty())
-            urls.append(url);
-        else if (refused)
-            refused->append(entry);
+        if (!url.isValid() || (scheme != QLatin1String("http") && scheme != QLatin1String("https")) ||
+            url.host().isEmpty()) {
+            result.refused.append(entry);
+            continue;
+        }
+        // QUrl keeps the scheme and host in lower case: one site in two spellings is one.
+        if (seen.contains(url))
+            continue;
+        seen.insert(url);
+        if (result.urls.size() < UrlList::Max)
+            result.urls.append(url);
+        else
+            ++result.leftOut;
     }
-    return urls;
+    return result;
 }
 
 QString urlsText(const QList<QUrl>& urls)

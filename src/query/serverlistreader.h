@@ -36,8 +36,17 @@ struct Result {
 Result read(const QByteArray& reply, int maxAddresses = MaxAddresses);
 
 // The list addresses of the setting, separated by blanks: http and https
-// addresses with a host; anything else goes to refused.
-QList<QUrl> parseUrls(QStringView text, QStringList* refused = nullptr);
+// addresses with a host; anything else goes to refused. An address named
+// twice is fetched once, and no more than Max are: each is a connection of
+// its own. How many were left out is kept so the caller can say so.
+struct UrlList {
+    static constexpr int Max = 16;
+
+    QList<QUrl> urls;
+    QStringList refused;
+    int leftOut = 0;
+};
+UrlList parseUrls(QStringView text);
 QString urlsText(const QList<QUrl>& urls);
 
 } // namespace ServerListReader

@@ -4,6 +4,8 @@
 #include "mainwindow/querycontroller.h"
 #include "query/hostlookup.h"
 #include "query/lanquery.h"
+#include "query/masteraddress.h"
+#include "query/serverlistreader.h"
 #include "testports.h"
 #include "testwindow.h"
 #include "update/updateflow.h"
@@ -128,6 +130,51 @@ private slots:
                                             "\u2013 Options, \"Servers\" tab, adds sources")
                                  .arg(TestPorts::local(251)));
         QCOMPARE(w.find<StatusLine>("lblStatus")->shownLines().size(), 2);
+        QCOMPARE(listedRows(w), 0);
+    }
+
+    void thousandsOfSourcesAreAskedOnceUpToTheCapAndTheBoxFitsTheScreen()
+    {
+        // A settings file edited by hand (or by a script gone wrong): 10,000
+        // masters, 10,000 copies of one, and 10,000 lists. Each master is
+        // refused by the name service, each list by a closed port.
+        QString masters;
+        QString lists;
+        for (int i = 0; i < 10000; ++i) {
+            masters += QStringLiteral("master%1.invalid, again.invalid, ").arg(i);
+            lists += QStringLiteral("http://127.0.0.1:1/list%1 ").arg(i);
+        }
+        TestWindow w(TestPorts::at(301), StartPort + 150, [&](SettingsStore& settings) {
+            settings.save(Keys::MasterServer.key, masters);
+            settings.save(Keys::ServerListUrls.key, lists);
+            settings.save(Keys::QueryKnownServers.key, QStringLiteral("0"));
+        });
+        int lookups = 0;
+        HostLookup::setResolver([&lookups](const QString&) {
+            ++lookups;
+            return HostLookup::Result{{}, "Unknown host"};
+        });
+        w.desktop.messageAnswers.enqueue(QMessageBox::Cancel);
+        QTest::mouseClick(w.button("cmdGet"), Qt::LeftButton);
+        QTRY_COMPARE_WITH_TIMEOUT(w.desktop.messages.size(), 1, 10000);
+        HostLookup::setResolver({});
+        QCOMPARE(lookups, MasterList::Max);
+
+        // The box says what the first sources gave and counts the rest.
+        const QStringList box = w.desktop.messages.first().text.split(QLatin1Char('\n'));
+        QCOMPARE(box.at(2), QStringLiteral("9985 more master servers left out: at most 16 are asked."));
+        QCOMPARE(box.at(3), QStringLiteral("9984 more server lists left out: at most 16 are fetched."));
+        QCOMPARE(box.at(13), QStringLiteral("... and 23 more (the status line's tooltip lists them all)"));
+        QCOMPARE(box.size(), 16);
+        // The tooltip has every source asked, and the status line the first three.
+        const QStringList tooltip = w.find<QLabel>("lblStatus")->toolTip().split(QLatin1Char('\n'));
+        QCOMPARE(tooltip.size(), 2 + MasterList::Max + ServerListReader::UrlList::Max);
+        QCOMPARE(tooltip.at(2),
+                 QStringLiteral("master0.invalid: Master server master0.invalid not found (Unknown host)."));
+        QCOMPARE(tooltip.at(3), QStringLiteral("again.invalid: Master server again.invalid not found (Unknown host)."));
+        QCOMPARE(w.status(), QStringLiteral("Master Servers Timed Out\nmaster0.invalid not found; again.invalid not "
+                                            "found; master1.invalid not found and 14 more \u2013 Options, "
+                                            "\"Servers\" tab, adds sources"));
         QCOMPARE(listedRows(w), 0);
     }
 

@@ -279,6 +279,31 @@ private slots:
         QCOMPARE(parseMasterList(m_settings->value(Keys::MasterServer)).masters.size(), 2);
     }
 
+    void aFullSourceListSaysSoBeforeAnythingIsTyped()
+    {
+        QStringList many;
+        for (int i = 0; i < 40; ++i)
+            many.append(QStringLiteral("m%1.example").arg(i % 20));
+        m_settings->save(Keys::MasterServer.key, many.join(QStringLiteral(", ")));
+        open();
+        find<QTabWidget>("tabOptions")->setCurrentIndex(FrmOptions::SourcesTab);
+        auto* masters = find<QListWidget>("lstMasters");
+        QCOMPARE(masters->count(), MasterList::Max);
+        m_desktop->messageAnswers.enqueue(QMessageBox::Ok);
+        click("cmdMastersAdd");
+        QCOMPARE(m_desktop->inputs.size(), 0);
+        QCOMPARE(m_desktop->messages.size(), 1);
+        QCOMPARE(m_desktop->messages.first().text,
+                 QStringLiteral("At most 16 master servers are asked. Remove one before adding another."));
+        // One removed, one may be added.
+        masters->setCurrentRow(0);
+        click("cmdMastersRemove");
+        m_desktop->inputAnswers.enqueue(QStringLiteral("new.example"));
+        click("cmdMastersAdd");
+        QCOMPARE(masters->count(), MasterList::Max);
+        QCOMPARE(masters->item(MasterList::Max - 1)->text(), QStringLiteral("new.example"));
+    }
+
     void theFriendsTabKeepsFriendsRefreshAndNotifications()
     {
         m_settings->set(Keys::Friends, QStringList{"Bob*"});

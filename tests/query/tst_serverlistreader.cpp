@@ -86,13 +86,33 @@ private slots:
 
     void listAddressesAreHttpOnly()
     {
-        QStringList refused;
-        const auto urls = ServerListReader::parseUrls(
-            u"https://a.example/list  http://b.example:8080/q4\nftp://c.example/x file:///etc/passwd nothing https://",
-            &refused);
-        QCOMPARE(urls, (QList<QUrl>{QUrl("https://a.example/list"), QUrl("http://b.example:8080/q4")}));
-        QCOMPARE(refused, (QStringList{"ftp://c.example/x", "file:///etc/passwd", "nothing", "https://"}));
-        QCOMPARE(ServerListReader::parseUrls(ServerListReader::urlsText(urls)), urls);
+        const ServerListReader::UrlList list = ServerListReader::parseUrls(
+            u"https://a.example/list  http://b.example:8080/q4\nftp://c.example/x file:///etc/passwd nothing https://");
+        QCOMPARE(list.urls, (QList<QUrl>{QUrl("https://a.example/list"), QUrl("http://b.example:8080/q4")}));
+        QCOMPARE(list.refused, (QStringList{"ftp://c.example/x", "file:///etc/passwd", "nothing", "https://"}));
+        QCOMPARE(ServerListReader::parseUrls(ServerListReader::urlsText(list.urls)).urls, list.urls);
+    }
+
+    void aHandEditedSettingOfThousandsAsksEachSourceOnceAndNoMoreThanTheCap()
+    {
+        QString urls = QStringLiteral("https://a.example/list HTTPS://A.EXAMPLE/list ");
+        QString masters = QStringLiteral("m.example, M.EXAMPLE:27650 m.example:27651 ");
+        for (int i = 0; i < 10000; ++i) {
+            urls += QStringLiteral("http://list%1.example/q4 https://a.example/list ").arg(i);
+            masters += QStringLiteral("master%1.example, m.example ").arg(i);
+        }
+        const ServerListReader::UrlList lists = ServerListReader::parseUrls(urls);
+        QCOMPARE(lists.urls.size(), ServerListReader::UrlList::Max);
+        QCOMPARE(lists.urls.first(), QUrl("https://a.example/list"));
+        QCOMPARE(lists.urls.at(1), QUrl("http://list0.example/q4"));
+        QCOMPARE(lists.leftOut, 10000 - (ServerListReader::UrlList::Max - 1));
+
+        const MasterList list = parseMasterList(masters);
+        QCOMPARE(list.masters.size(), MasterList::Max);
+        QCOMPARE(list.masters.mid(0, 3),
+                 (QList<MasterAddress>{{"m.example", 27650}, {"m.example", 27651}, {"master0.example", 27650}}));
+        QCOMPARE(list.leftOut, 10000 - (MasterList::Max - 2));
+        QVERIFY(list.refused.isEmpty());
     }
 
     void severalMastersAreRead()

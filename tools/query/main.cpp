@@ -161,20 +161,25 @@ int main(int argc, char* argv[])
         const QString masterText = parser.isSet(masterOption) ? parser.values(masterOption).join(QLatin1Char(','))
                                    : sourcesGiven             ? QString()
                                                               : settings.value(Keys::MasterServer);
+        MasterList masters;
         if (!masterText.isEmpty() || !sourcesGiven) {
-            const MasterList masters = parseMasterList(masterText);
+            masters = parseMasterList(masterText);
             if (!masters.refused.isEmpty())
                 return usage(QStringLiteral("not a master server address: %1").arg(masters.refused.first()));
             sources.masters = masters.masters;
         }
-        QStringList refused;
-        sources.listUrls = ServerListReader::parseUrls(parser.isSet(listUrlOption)
-                                                           ? parser.values(listUrlOption).join(QLatin1Char(' '))
-                                                       : sourcesGiven ? QString()
-                                                                      : settings.value(Keys::ServerListUrls),
-                                                       &refused);
-        if (!refused.isEmpty() && parser.isSet(listUrlOption))
-            return usage(QStringLiteral("--list-url wants an http or https address, not %1").arg(refused.first()));
+        const ServerListReader::UrlList lists = ServerListReader::parseUrls(
+            parser.isSet(listUrlOption) ? parser.values(listUrlOption).join(QLatin1Char(' '))
+            : sourcesGiven              ? QString()
+                                        : settings.value(Keys::ServerListUrls));
+        if (!lists.refused.isEmpty() && parser.isSet(listUrlOption))
+            return usage(
+                QStringLiteral("--list-url wants an http or https address, not %1").arg(lists.refused.first()));
+        if (masters.leftOut > 0 || lists.leftOut > 0)
+            std::fprintf(stderr,
+                         "q4vantage-query: at most %d master servers and %d server lists are asked; %d more left out\n",
+                         MasterList::Max, ServerListReader::UrlList::Max, masters.leftOut + lists.leftOut);
+        sources.listUrls = lists.urls;
         sources.proxy = httpProxy(settings.value(Keys::Proxy), settings.value(Keys::ProxyAddress));
         if (parser.isSet(knownOption))
             sources.known = KnownServers::toAddressTable(KnownServers::readFile(parser.value(knownOption)));
