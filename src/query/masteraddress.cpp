@@ -1,8 +1,12 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "query/masteraddress.h"
 
+#include <QHostAddress>
 #include <QRegularExpression>
 #include <QSet>
+#include <QUrl>
+
+#include <algorithm>
 
 namespace {
 
@@ -13,6 +17,24 @@ std::optional<quint16> parsePort(QStringView text)
     if (!ok || value == 0 || value > 65535)
         return std::nullopt;
     return quint16(value);
+}
+
+// An IPv6 address (the only host with colons), or a name the name service
+// can be asked for: an IPv4 address or letters, digits, dots, hyphens and
+// underscores, international names in their ASCII form. Anything else
+// would be refused by the lookup anyway, after a wait; and written back
+// into the setting it would not read the same.
+bool isHostName(QStringView host)
+{
+    if (host.contains(QLatin1Char(':')))
+        return QHostAddress(host.toString()).protocol() == QAbstractSocket::IPv6Protocol;
+    const QByteArray ace = QUrl::toAce(host.toString());
+    if (ace.isEmpty() || ace.size() > 253)
+        return false;
+    return std::all_of(ace.cbegin(), ace.cend(), [](char c) {
+        return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') || (c >= '0' && c <= '9') || c == '.' || c == '-' ||
+               c == '_';
+    });
 }
 
 } // namespace
@@ -43,7 +65,7 @@ std::optional<MasterAddress> parseMasterAddress(QStringView text)
     }
     // More than one colon without brackets: a bare IPv6 address.
 
-    if (host.isEmpty() || host.contains(QLatin1Char(' ')))
+    if (!isHostName(host))
         return std::nullopt;
     MasterAddress result{host.toString(), MasterAddress::DefaultPort};
     if (!portText.isNull()) {

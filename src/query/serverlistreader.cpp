@@ -132,7 +132,10 @@ UrlList parseUrls(QStringView text)
     QSet<QUrl> seen;
     static const QRegularExpression blanks(QStringLiteral("\\s+"));
     for (const QString& entry : text.toString().split(blanks, Qt::SkipEmptyParts)) {
-        const QUrl url(entry, QUrl::StrictMode);
+        // In the form it is written back in, so the setting reads the same
+        // again; a fragment never reaches the site.
+        const QUrl url(QUrl(entry, QUrl::StrictMode).adjusted(QUrl::RemoveFragment).toString(QUrl::FullyEncoded),
+                       QUrl::StrictMode);
         const QString scheme = url.scheme().toLower();
         if (!url.isValid() || (scheme != QLatin1String("http") && scheme != QLatin1String("https")) ||
             url.host().isEmpty()) {

@@ -117,13 +117,15 @@ private slots:
 
     void severalMastersAreRead()
     {
-        const MasterList list = parseMasterList(u" a.example, b.example:27777  [::1]:27650,,bad:port 127.0.0.1 ");
+        const MasterList list =
+            parseMasterList(u" a.example, b.example:27777  [::1]:27650,,bad:port 127.0.0.1 [:1] ma$ter.example");
         QCOMPARE(list.masters.size(), 4);
         QCOMPARE(list.masters.at(0), (MasterAddress{"a.example", 27650}));
         QCOMPARE(list.masters.at(1), (MasterAddress{"b.example", 27777}));
         QCOMPARE(list.masters.at(2), (MasterAddress{"::1", 27650}));
         QCOMPARE(list.masters.at(3), (MasterAddress{"127.0.0.1", 27650}));
-        QCOMPARE(list.refused, QStringList{"bad:port"});
+        // Only what the name service could be asked for: "[:1]" would be written back as ":1".
+        QCOMPARE(list.refused, (QStringList{"bad:port", "[:1]", "ma$ter.example"}));
         QCOMPARE(masterListText(list.masters), QStringLiteral("a.example, b.example:27777, ::1, 127.0.0.1"));
         QCOMPARE(parseMasterList(masterListText(list.masters)).masters, list.masters);
         // Nothing at all is the game maker's master and the community one.
