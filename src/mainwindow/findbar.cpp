@@ -31,7 +31,6 @@ FindBar::FindBar(TargetOf target, QWidget* parent)
     m_box->setObjectName(QStringLiteral("cmbFind"));
     m_button->setObjectName(QStringLiteral("cmdFind"));
     m_button->setAutoDefault(false);
-    m_normalPalette = m_box->palette();
     connect(m_box, &QComboBox::editTextChanged, this, &FindBar::run);
     connect(m_box, &HistoryComboBox::picked, this, &FindBar::run);
     connect(m_box, &HistoryComboBox::enterPressed, this, &FindBar::findNext);
@@ -51,6 +50,20 @@ void FindBar::retranslate()
     m_friendButton->setIcon(RowMarkDelegate::star(m_friendButton->palette().color(QPalette::Highlight)));
     m_friendButton->setAccessibleName(tr("Next Friend"));
     m_friendButton->setToolTip(tr("Next Friend") + QLatin1Char('\n') + tr("Select the next listed friend"));
+}
+
+QColor FindBar::notFoundColour()
+{
+    return QColor(255, 102, 102);
+}
+
+void FindBar::showNotFound(bool notFound)
+{
+    // The box's own style sheet: the theme's, set for every box of the
+    // application, wins over any palette.
+    m_box->setStyleSheet(notFound ? QStringLiteral("QComboBox, QLineEdit { background-color: %1; color: black; }")
+                                        .arg(notFoundColour().name())
+                                  : QString());
 }
 
 void FindBar::findFriend()
@@ -89,7 +102,7 @@ void FindBar::run()
     const QString text = m_box->currentText();
     if (text.isEmpty()) {
         list->clearSelection();
-        m_box->setPalette(m_normalPalette);
+        showNotFound(false);
         emit selectionCleared();
         emit status(QString(), StatusTone::Hint);
         return;
@@ -101,9 +114,7 @@ void FindBar::run()
     if (row < 0) {
         list->clearSelection();
         list->setCurrentIndex({});
-        QPalette notFound = m_normalPalette;
-        notFound.setColor(QPalette::Base, QColor(255, 102, 102));
-        m_box->setPalette(notFound);
+        showNotFound(true);
         emit selectionCleared();
         emit status(tr("Text Not Found"), StatusTone::Failed);
         return;
@@ -111,7 +122,7 @@ void FindBar::run()
     const QModelIndex index = list->model()->index(row, 0);
     list->setCurrentIndex(index);
     list->scrollTo(index);
-    m_box->setPalette(m_normalPalette);
+    showNotFound(false);
     // Also when the row was current already and no change signal came.
     emit found(index);
 }

@@ -3,6 +3,7 @@
 
 #include "widgets/statustone.h"
 
+#include <QColor>
 #include <QPalette>
 #include <QWidget>
 
@@ -39,6 +40,8 @@ public:
     // Whether the user has any friends, for what to say when none is found.
     void setHasFriends(std::function<bool()> hasFriends) { m_hasFriends = std::move(hasFriends); }
     void retranslate();
+    // The box's colour while its text is not found.
+    static QColor notFoundColour();
 
 signals:
     // A row was found and made current.
@@ -51,13 +54,13 @@ private:
     void findNext();
     void run();
     void findFriend();
+    void showNotFound(bool notFound);
 
     TargetOf m_target;
     HistoryComboBox* m_box = nullptr;
     QPushButton* m_button = nullptr;
     QToolButton* m_friendButton = nullptr;
     std::function<bool()> m_hasFriends;
-    QPalette m_normalPalette;
     // "1": the next search continues after the selected row.
     QString m_marker = QStringLiteral("0");
 };

@@ -2,10 +2,10 @@
 #include "mainwindow/frmmain.h"
 
 #include "editors/frmfilters.h"
+#include "game/gameinstalls.h"
 #include "mainwindow/autorefresh.h"
 #include "mainwindow/dialogbar.h"
 #include "mainwindow/findbar.h"
-#include "game/gameinstalls.h"
 #include "mainwindow/joinflow.h"
 #include "mainwindow/joinpanel.h"
 #include "mainwindow/listmenu.h"
@@ -256,6 +256,11 @@ void FrmMain::retranslateUi()
     m_menu->retranslate();
     m_queries->setCountryLanguage(Language::localeName(m_language.current()));
     m_lists->retranslate();
+    m_selection->retranslate();
+    // Counters already shown say their numbers in the new language now, not
+    // at the next query.
+    if (!lblServers->text().isEmpty())
+        updateCounters();
     Mnemonics::assign(this);
 }
 

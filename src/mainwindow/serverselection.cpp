@@ -89,5 +89,10 @@ void ServerSelection::clear()
 void ServerSelection::ShowServerName(const QString& name)
 {
     mclSName->setColouredText(ColourCodes::ShowServerName(name));
+    retranslate();
+}
+
+void ServerSelection::retranslate()
+{
     lblSName->setText(mclSName->caption().isEmpty() ? QString() : tr("Server Name:"));
 }

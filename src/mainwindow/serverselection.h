@@ -45,6 +45,8 @@ public:
     // The lists were emptied: the names and the panes go too.
     void clear();
     void ShowServerName(const QString& name);
+    // "Server Name:" in the interface's language.
+    void retranslate();
 
 private:
     void showFlag(const ServerRecord* server);

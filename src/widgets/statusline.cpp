@@ -12,10 +12,9 @@ StatusLine::StatusLine(QWidget* parent)
     // Source names and errors come from the network: shown as they are.
     setTextFormat(Qt::PlainText);
     // The status colours (orange, yellow, green, red) read best on black.
-    setAutoFillBackground(true);
-    QPalette statusPalette = palette();
-    statusPalette.setColor(QPalette::Window, Qt::black);
-    setPalette(statusPalette);
+    // Both are drawn by the line itself: a theme, its style sheet or a
+    // palette the application sets when a dialog closes never reach them.
+    setAttribute(Qt::WA_OpaquePaintEvent);
     // Two lines, always: a long message is shortened within the line's
     // share of the row instead of widening it over the progress bar or
     // wrapping out of sight, and the lists above never move when a message
@@ -28,10 +27,8 @@ StatusLine::StatusLine(QWidget* parent)
 void StatusLine::setStatus(const QString& text, StatusTone tone)
 {
     m_tone = tone;
-    QPalette textPalette = palette();
-    textPalette.setColor(QPalette::WindowText, colour(tone));
-    setPalette(textPalette);
     setText(text);
+    update(); // the same text in another tone
 }
 
 QStringList StatusLine::shownLines() const
@@ -50,7 +47,8 @@ QStringList StatusLine::shownLines() const
 void StatusLine::paintEvent(QPaintEvent*)
 {
     QPainter painter(this);
-    painter.setPen(palette().color(QPalette::WindowText));
+    painter.fillRect(rect(), Qt::black);
+    painter.setPen(colour(m_tone));
     const QStringList lines = shownLines();
     const int spacing = fontMetrics().lineSpacing();
     const QRect area = contentsRect();

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "filewrites.h"
 #include "listedwindow.h"
+#include "mainwindow/findbar.h"
 #include "mainwindow/playerlistmodel.h"
 #include "mainwindow/serverlistmodel.h"
 #include "mainwindow/serverlists.h"
@@ -60,12 +61,27 @@ private slots:
         QCOMPARE(players.size(), 30);
     }
 
+    void anotherLanguageReachesTheSelectionAndTheCounters()
+    {
+        Listed w(6, TestPorts::at(1151), false);
+        auto* list = w.list("lstServerList");
+        list->setCurrentIndex(w.visible("lstServerList")->index(2, 0));
+        QCOMPARE(w.find<QLabel>("lblSName")->text(), QStringLiteral("Server Name:"));
+        QVERIFY(w.language.apply(2)); // Deutsch
+        QTest::qWait(0);
+        QCOMPARE(w.find<QLabel>("lblSName")->text(), QStringLiteral("Servername:"));
+        QCOMPARE(w.find<QLabel>("lblPlayers")->text(),
+                 QStringLiteral("%1 Spieler gefunden").arg(w.visible("lstPlayerList")->rowCount()));
+        QCOMPARE(w.find<QLabel>("lblServers")->text(), QStringLiteral("6 Server gefunden"));
+        QVERIFY(w.language.apply(0));
+    }
+
     void findSelectsAndMarksMisses()
     {
         Listed w(20, TestPorts::at(1101), false);
         auto* find = w.find<HistoryComboBox>("cmbFind");
         auto* list = w.find<ReportView>("lstServerList");
-        const QColor normal = find->palette().color(QPalette::Base);
+        const QColor normal = TestWindow::backgroundColour(find);
 
         w.type(find, QStringLiteral("#1"));
         // Typing searches from the top: "#1" is in "... #1", "... #10" and up.
@@ -96,7 +112,7 @@ private slots:
         };
         clearBox();
         w.type(find, QStringLiteral("no such server"));
-        QCOMPARE(find->palette().color(QPalette::Base), QColor(255, 102, 102));
+        QCOMPARE(TestWindow::backgroundColour(find), FindBar::notFoundColour());
         QCOMPARE(w.status(), QStringLiteral("Text Not Found"));
         QCOMPARE(w.statusColour(), StatusLine::colour(StatusTone::Failed));
         QVERIFY(!list->currentIndex().isValid());
@@ -105,7 +121,7 @@ private slots:
         // Typed over the selected text: the box is never empty on the way.
         QTest::keyClick(w.focus(find), Qt::Key_A, Qt::ControlModifier);
         w.type(find, QStringLiteral("#5"));
-        QCOMPARE(find->palette().color(QPalette::Base), normal);
+        QCOMPARE(TestWindow::backgroundColour(find), normal);
         QCOMPARE(w.status(), QStringLiteral("Text Not Found")); // only an empty search clears it
         clearBox();
         QCOMPARE(w.status(), QString());

@@ -8,7 +8,10 @@
 #include "mainwindow/serverlistmodel.h"
 #include "mainwindow/serverlists.h"
 #include "presentation/colourcodes.h"
+#include "presentation/frmoptions.h"
 #include "presentation/multicolorlabel.h"
+#include "presentation/themefile.h"
+#include "presentation/themeservice.h"
 #include "query/infoprotocol.h"
 #include "testports.h"
 #include "testwindow.h"
@@ -64,6 +67,16 @@ private slots:
         QVERIFY(!w.find<QLabel>("lblAbout")->isVisible());
 
         QTRY_COMPARE_WITH_TIMEOUT(w.status(), QStringLiteral("Done"), 8000);
+        QCOMPARE(w.statusColour(), StatusLine::colour(StatusTone::Done));
+        // Options opened and closed again, or another theme applied, leave
+        // the line in its tone.
+        QTest::mouseClick(w.button("cmdOptions"), Qt::LeftButton);
+        auto* optionsWindow = w.window->findChild<FrmOptions*>();
+        QVERIFY(optionsWindow);
+        QTest::keyClick(w.focus(optionsWindow), Qt::Key_Escape);
+        QTRY_VERIFY(!w.window->findChild<FrmOptions*>());
+        QCOMPARE(w.statusColour(), StatusLine::colour(StatusTone::Done));
+        w.window->themes().apply(ThemeFile::shippedThemes().first());
         QCOMPARE(w.statusColour(), StatusLine::colour(StatusTone::Done));
         QVERIFY(w.button("cmdGet")->isEnabled());
         QVERIFY(!w.button("cmdCancel")->isVisible());

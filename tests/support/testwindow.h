@@ -10,7 +10,9 @@
 #include "widgets/statusline.h"
 
 #include <QApplication>
+#include <QHash>
 #include <QHeaderView>
+#include <QImage>
 #include <QLabel>
 #include <QPushButton>
 #include <QTemporaryDir>
@@ -76,7 +78,38 @@ public:
     QHeaderView* header(const char* name) const { return list(name)->header(); }
     QPushButton* button(const char* name) const { return find<QPushButton>(name); }
     QString status() const { return find<QLabel>("lblStatus")->text(); }
-    QColor statusColour() const { return find<QLabel>("lblStatus")->palette().color(QPalette::WindowText); }
+    // The colour the status is drawn in, as a user sees it.
+    QColor statusColour() const { return textColour(find<QLabel>("lblStatus"), Qt::black); }
+    // From a grab, whatever palette or style sheet set them: the colour
+    // that covers most of a widget, and the colour of its text on a known
+    // background (the pixel farthest from it: the edges of letters blend).
+    static QColor backgroundColour(QWidget* widget)
+    {
+        const QImage image = widget->grab().toImage().convertToFormat(QImage::Format_RGB32);
+        QHash<QRgb, int> counts;
+        for (int y = 0; y < image.height(); ++y)
+            for (int x = 0; x < image.width(); ++x)
+                ++counts[image.pixel(x, y)];
+        QRgb most = 0;
+        for (auto it = counts.cbegin(); it != counts.cend(); ++it)
+            if (it.value() > counts.value(most))
+                most = it.key();
+        return QColor(most);
+    }
+    static QColor textColour(QWidget* widget, const QColor& background)
+    {
+        const QImage image = widget->grab().toImage().convertToFormat(QImage::Format_RGB32);
+        const auto distance = [&background](QRgb pixel) {
+            return std::abs(qRed(pixel) - background.red()) + std::abs(qGreen(pixel) - background.green()) +
+                   std::abs(qBlue(pixel) - background.blue());
+        };
+        QRgb farthest = background.rgb();
+        for (int y = 0; y < image.height(); ++y)
+            for (int x = 0; x < image.width(); ++x)
+                if (distance(image.pixel(x, y)) > distance(farthest))
+                    farthest = image.pixel(x, y);
+        return QColor(farthest);
+    }
     QAbstractItemModel* visible(const char* name) const { return list(name)->model(); }
     QString cell(const char* name, int row, int column) const
     {
