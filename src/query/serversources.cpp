@@ -22,10 +22,14 @@ AddressTable SourceMerger::take(int source, const AddressTable& table, Repeats r
 {
     AddressTable fresh;
     for (const AddressEntry& entry : table.entries()) {
-        const auto owner = m_owner.constFind(entry.endpointText());
-        if (owner != m_owner.cend() && (*owner != source || repeats == Repeats::Drop))
+        const auto owner = m_owner.find(entry.endpointText());
+        if (owner != m_owner.end() && *owner == m_standIn && source != m_standIn) {
+            *owner = source;
             continue;
-        if (owner == m_owner.cend())
+        }
+        if (owner != m_owner.end() && (*owner != source || repeats == Repeats::Drop))
+            continue;
+        if (owner == m_owner.end())
             m_owner.insert(entry.endpointText(), source);
         fresh.add(entry.address, entry.port, entry.name, entry.password);
     }
@@ -115,6 +119,7 @@ std::optional<QueryError> ServerSources::start(const SourcePlan& plan, quint16 f
         SourceReport known = reportOf(SourceReport::Kind::Known, tr("known servers"));
         known.settled = true;
         m_reports.append(known);
+        m_merger.setStandIn(index);
         offer(index, plan.known);
     }
     // Sources that failed at once, or none at all: report once the caller

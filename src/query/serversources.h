@@ -50,11 +50,22 @@ struct SourceReport {
 class SourceMerger final {
 public:
     enum class Repeats { Keep, Drop };
-    void clear() { m_owner.clear(); }
+    void clear()
+    {
+        m_owner.clear();
+        m_standIn = -1;
+    }
+    // The source whose addresses stand in for another source's first
+    // listing of them (the known servers, asked before any source gave
+    // its list): that listing is not asked again, and the source's repeats
+    // are kept as they would be without it, so one master's reply gives
+    // the same rows whether or not its servers were known.
+    void setStandIn(int source) { m_standIn = source; }
     AddressTable take(int source, const AddressTable& table, Repeats repeats = Repeats::Keep);
 
 private:
     QHash<QString, int> m_owner;
+    int m_standIn = -1;
 };
 
 // Asks every master and fetches every server list of a plan at once, and

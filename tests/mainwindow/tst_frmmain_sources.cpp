@@ -6,6 +6,7 @@
 #include "query/lanquery.h"
 #include "query/masteraddress.h"
 #include "query/serverlistreader.h"
+#include "simreplies.h"
 #include "testports.h"
 #include "testwindow.h"
 #include "update/updateflow.h"
@@ -82,6 +83,29 @@ private slots:
             QCOMPARE(server.misses, 0);
             QVERIFY(!server.name.isEmpty());
         }
+    }
+
+    void theSameMasterReplyGivesTheSameRowsWhetherOrNotItsServersAreKnown()
+    {
+        SimFleet fleet(fleetOf(11, TestPorts::at(1351)));
+        QVERIFY(!fleet.start());
+        // The master lists its first server twice: the documented two rows.
+        QList<QPair<quint32, quint16>> listed;
+        for (const auto& server : fleet.servers())
+            listed.append({0x7F000001u, server.port});
+        listed.append({0x7F000001u, fleet.servers().at(0).port});
+        fleet.setMasterDatagrams(SimReplies::serverList(listed));
+        TestWindow w(TestPorts::at(1351), StartPort + 400);
+        QVERIFY(w.queryMasters(6000));
+        QCOMPARE(listedRows(w), 12);
+        // Now every server is known from servers.dat, and asked before the
+        // master answers.
+        QCOMPARE(KnownServers::readFile(w.dataFile(QStringLiteral("servers.dat"))).size(), 11);
+        QVERIFY(w.queryMasters(6000));
+        QCOMPARE(listedRows(w), 12);
+        w.settings().save(Keys::QueryKnownServers.key, QStringLiteral("0"));
+        QVERIFY(w.queryMasters(6000));
+        QCOMPARE(listedRows(w), 12);
     }
 
     void serversThatCannotBeRememberedAreSaid()

@@ -89,18 +89,22 @@ private slots:
         second.add(QStringLiteral("3.3.3.3"), 3);
         second.add(QStringLiteral("5.5.5.5"), 5);
         second.add(QStringLiteral("5.5.5.5"), 5);
+        second.add(QStringLiteral("3.3.3.3"), 3); // known, and listed twice by this master
         AddressTable late;
         late.add(QStringLiteral("1.1.1.1"), 1);
         late.add(QStringLiteral("5.5.5.5"), 5);
         late.add(QStringLiteral("6.6.6.6"), 6);
         SourceMerger merger;
+        merger.setStandIn(2);
         QCOMPARE(endpoints(merger.take(2, known)), (QStringList{"3.3.3.3:3", "4.4.4.4:4"}));
         QCOMPARE(endpoints(merger.take(0, first)), (QStringList{"1.1.1.1:1", "2.2.2.2:2", "1.1.1.1:1"}));
-        QCOMPARE(endpoints(merger.take(1, second)), (QStringList{"5.5.5.5:5", "5.5.5.5:5"}));
+        // The known server stands for the master's first listing of it; its
+        // second listing is asked as without the known servers.
+        QCOMPARE(endpoints(merger.take(1, second)), (QStringList{"5.5.5.5:5", "5.5.5.5:5", "3.3.3.3:3"}));
         // The rest of the first master's list, split into a later datagram.
         QCOMPARE(endpoints(merger.take(0, late)), (QStringList{"1.1.1.1:1", "6.6.6.6:6"}));
         merger.clear();
-        QCOMPARE(merger.take(1, second).count(), 4);
+        QCOMPARE(merger.take(1, second).count(), 5);
     }
 
     void overlappingMastersAskEachServerOnce()
