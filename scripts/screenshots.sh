@@ -13,10 +13,10 @@ fi
 scripts/build.sh
 out=build/screenshots
 rm -rf "$out"
-xvfb-run -a -s "-screen 0 1280x1024x24" build/bin/q4vantage-shots "$out" "$@"
+xvfb-run -a -s "-screen 0 1920x1080x24" build/bin/q4vantage-shots "$out" "$@"
 if [ "$readme" = 1 ]; then
     if [ ! -f "$out/en_GB/main-servers.png" ]; then
-        xvfb-run -a -s "-screen 0 1280x1024x24" build/bin/q4vantage-shots "$out" 0
+        xvfb-run -a -s "-screen 0 1920x1080x24" build/bin/q4vantage-shots "$out" 0
     fi
     cp "$out/en_GB/main-servers.png" docs/screenshot.png
     echo "refreshed docs/screenshot.png"

@@ -3,11 +3,14 @@
 
 #include <QContextMenuEvent>
 #include <QHeaderView>
+#include <QHelpEvent>
 #include <QKeyEvent>
 #include <QMenu>
 #include <QMetaMethod>
 #include <QMouseEvent>
 #include <QStyle>
+#include <QTimer>
+#include <QToolTip>
 
 ReportView::ReportView(QAbstractItemModel* model, const QList<int>& designWidths, QWidget* parent)
     : QTableView(parent)
@@ -45,6 +48,15 @@ ReportView::ReportView(QAbstractItemModel* model, const QList<int>& designWidths
     connect(model, &QAbstractItemModel::headerDataChanged, this, &ReportView::fitTitles);
     connect(columnsHeader, &QHeaderView::sortIndicatorChanged, this, &ReportView::fitTitles);
 
+    m_fitLater = new QTimer(this);
+    m_fitLater->setSingleShot(true);
+    m_fitLater->setInterval(200);
+    connect(m_fitLater, &QTimer::timeout, this, &ReportView::fitWidth);
+    const auto fitLater = [this] { m_fitLater->start(); };
+    connect(model, &QAbstractItemModel::rowsInserted, this, fitLater);
+    connect(model, &QAbstractItemModel::modelReset, this, fitLater);
+    connect(model, &QAbstractItemModel::layoutChanged, this, fitLater);
+
     connect(this, &QAbstractItemView::doubleClicked, this, [this](const QModelIndex& index) {
         if (m_lastButton == Qt::LeftButton)
             emit rowDoubleClicked(index);
@@ -69,6 +81,72 @@ void ReportView::fitTitles()
             m_givenWidths[column] = needed;
         }
     }
+}
+
+void ReportView::fitWidth()
+{
+    QHeaderView* header = horizontalHeader();
+    const int room = viewport()->width();
+    int used = header->length();
+    // A last column that stretches holds the room; it needs only what its
+    // own rows need, and gives the rest up as the others grow.
+    int lastVisual = header->count() - 1;
+    while (lastVisual >= 0 && header->isSectionHidden(header->logicalIndex(lastVisual)))
+        --lastVisual;
+    if (lastVisual < 0)
+        return;
+    if (header->stretchLastSection()) {
+        const int last = header->logicalIndex(lastVisual);
+        used -= header->sectionSize(last) - std::min(header->sectionSize(last), sizeHintForColumn(last));
+        --lastVisual;
+    }
+    for (int visual = 0; visual <= lastVisual && used < room; ++visual) {
+        const int column = header->logicalIndex(visual);
+        if (header->isSectionHidden(column) || column >= m_givenWidths.size() ||
+            header->sectionSize(column) != m_givenWidths.at(column))
+            continue;
+        // What the rows on screen need, and never more than half the list.
+        const int wanted = std::min(sizeHintForColumn(column), room / 2);
+        const int grown = std::min(wanted, header->sectionSize(column) + room - used);
+        if (grown <= header->sectionSize(column))
+            continue;
+        used += grown - header->sectionSize(column);
+        header->resizeSection(column, grown);
+        m_givenWidths[column] = grown;
+    }
+}
+
+void ReportView::resizeEvent(QResizeEvent* event)
+{
+    QTableView::resizeEvent(event);
+    fitWidth();
+}
+
+bool ReportView::showsWhole(const QModelIndex& index) const
+{
+    QStyleOptionViewItem option;
+    initViewItemOption(&option);
+    option.rect = visualRect(index);
+    return itemDelegateForIndex(index)->sizeHint(option, index).width() <= option.rect.width();
+}
+
+bool ReportView::viewportEvent(QEvent* event)
+{
+    // A cut cell says what it holds when the pointer rests on it, unless
+    // the list has a tooltip of its own there.
+    if (event->type() == QEvent::ToolTip) {
+        const auto* help = static_cast<QHelpEvent*>(event);
+        const QModelIndex index = indexAt(help->pos());
+        if (index.isValid() && index.data(Qt::ToolTipRole).toString().isEmpty()) {
+            const QString text = index.data(Qt::DisplayRole).toString();
+            if (!text.isEmpty() && !showsWhole(index))
+                QToolTip::showText(help->globalPos(), text, viewport(), visualRect(index));
+            else
+                QToolTip::hideText();
+            return true;
+        }
+    }
+    return QTableView::viewportEvent(event);
 }
 
 void ReportView::setOptionalColumns(const QList<int>& columns)

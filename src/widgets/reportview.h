@@ -10,6 +10,7 @@
 // It remembers the mouse button last pressed on its rows, because a double
 // click joins and a right click opens a menu only after the matching press.
 class QMenu;
+class QTimer;
 
 class ReportView final : public QTableView {
     Q_OBJECT
@@ -56,15 +57,24 @@ protected:
     void keyPressEvent(QKeyEvent* event) override;
     void contextMenuEvent(QContextMenuEvent* event) override;
     void showEvent(QShowEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+    bool viewportEvent(QEvent* event) override;
 
 private:
     // The menu of the selected row, opened from the keyboard: below the
     // row's first cell, where the user is looking.
     void requestMenuOnSelection();
     void showHeaderMenu(const QPoint& at);
+    // Room to the right of the last column goes to the columns whose
+    // cells are cut, each up to what its shown rows need, among those
+    // that still have the width the program gave them.
+    void fitWidth();
+    // Whether a cell shows its text whole.
+    bool showsWhole(const QModelIndex& index) const;
 
     QList<int> m_givenWidths; // the design width, or the one fitTitles() set
     QList<int> m_optional;
     Qt::MouseButton m_lastButton = Qt::NoButton;
     int m_pressedColumn = 0;
+    QTimer* m_fitLater = nullptr; // rows came: fit once they are in
 };

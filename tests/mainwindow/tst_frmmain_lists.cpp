@@ -12,8 +12,11 @@
 #include <QApplication>
 #include <QClipboard>
 #include <QGuiApplication>
+#include <QHeaderView>
+#include <QHelpEvent>
 #include <QMenu>
 #include <QTabBar>
+#include <QToolTip>
 
 // The lists of a window that has listed a fleet, as a user works them:
 // sorting, finding, the player view and the list's menu.
@@ -59,6 +62,40 @@ private slots:
         players = numbers(ServerListModel::Players);
         QVERIFY(std::is_sorted(players.begin(), players.end()));
         QCOMPARE(players.size(), 30);
+    }
+
+    void aWideWindowShowsCellsWholeAndACutCellSaysItsText()
+    {
+        Listed w(12, TestPorts::at(1171), false);
+        auto* list = w.list("lstServerList");
+        QHeaderView* header = list->header();
+        const int game = ServerListModel::GameName;
+        int row = 0;
+        while (w.cell("lstServerList", row, game) != QLatin1String("baseQUAKE4-1"))
+            ++row;
+        const QRect cell = list->visualRect(w.visible("lstServerList")->index(row, game));
+        QVERIFY(header->sectionSize(game) <
+                static_cast<QAbstractItemView*>(list)->sizeHintForColumn(game)); // cut at the first start's width
+        QHelpEvent help(QEvent::ToolTip, cell.center(), list->viewport()->mapToGlobal(cell.center()));
+        QApplication::sendEvent(list->viewport(), &help);
+        QCOMPARE(QToolTip::text(), QStringLiteral("baseQUAKE4-1"));
+        QToolTip::hideText();
+
+        // Maximized, the room goes to the cut columns first.
+        w.window->resize(1900, 1000);
+        QTRY_VERIFY(header->sectionSize(game) >= static_cast<QAbstractItemView*>(list)->sizeHintForColumn(game));
+        QVERIFY(header->length() <= list->viewport()->width());
+        // A width the user chose stays as it is.
+        header->resizeSection(ServerListModel::Map, 40);
+        w.window->resize(1910, 1000);
+        QTest::qWait(0);
+        QCOMPARE(header->sectionSize(ServerListModel::Map), 40);
+
+        // The smallest window still shows a useful part of the list.
+        w.window->resize(FrmMain::MinimumSize);
+        QTest::qWait(0);
+        const int rowsShown = list->viewport()->height() / list->verticalHeader()->defaultSectionSize();
+        QVERIFY(rowsShown >= 5);
     }
 
     void anotherLanguageReachesTheSelectionAndTheCounters()

@@ -35,6 +35,7 @@
 #include <QMenu>
 #include <QMouseEvent>
 #include <QPushButton>
+#include <QScreen>
 #include <QTabBar>
 #include <QTabWidget>
 #include <QTemporaryDir>
@@ -198,6 +199,12 @@ bool shootLanguage(SimFleet& fleet, int language, const QDir& out)
     // The smallest the window may be: nothing may be cut there.
     main.resize(FrmMain::MinimumSize);
     ok = save(&main, out, QStringLiteral("main-smallest")) && ok;
+    // Maximized, the columns share the screen's width.
+    main.showMaximized();
+    main.resize(main.screen()->availableGeometry().size()); // no window manager does it on the virtual display
+    settle();
+    ok = save(&main, out, QStringLiteral("main-maximized")) && ok;
+    main.showNormal();
     main.resize(FrmMain::DesignSize);
     child<QTabBar>(&main, "tabSelect")->setCurrentIndex(FrmMain::PlayersTab);
     ok = save(&main, out, QStringLiteral("main-players")) && ok;
