@@ -20,6 +20,7 @@
 #include "mainwindow/visiblelist.h"
 #include "mainwindow/windowstate.h"
 #include "platform/desktop.h"
+#include "presentation/frmoptions.h"
 #include "presentation/language.h"
 #include "presentation/themeservice.h"
 #include "update/updateflow.h"
@@ -199,6 +200,10 @@ void FrmMain::connectLists()
     connect(m_find, &FindBar::status, this, &FrmMain::setStatus);
 
     connect(m_dialogs, &DialogBar::filtersChanged, this, &FrmMain::rebuildLists);
+    connect(m_queryBar, &QueryBar::sourcesWanted, this, [this] {
+        if (FrmOptions* options = m_dialogs->openOptions())
+            options->showTab(FrmOptions::SourcesTab);
+    });
     connect(&m_settings, &SettingsStore::changed, this, [this](const QString& key) {
         if (key == Keys::Friends.key)
             m_lists->setFriends(m_settings.value(Keys::Friends));

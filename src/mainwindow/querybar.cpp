@@ -95,9 +95,15 @@ QueryBar::QueryBar(QueryController& queries, Desktop& desktop, QWidget* parent)
         prbProgress->setValue(value);
     });
     connect(&queries, &QueryController::masterTimedOut, this, [this, &queries, &desktop] {
-        if (desktop.message(window(), Desktop::Icon::Critical, tr("Quake 4 Vantage"), queries.timedOutText(),
-                            QMessageBox::Retry | QMessageBox::Cancel) == QMessageBox::Retry)
+        // Retry and Cancel as always; "Options..." leads to where a source
+        // that works is added.
+        const auto answer = desktop.message(
+            window(), Desktop::Icon::Critical, tr("Quake 4 Vantage"), queries.timedOutText(),
+            QMessageBox::Retry | QMessageBox::Cancel | QMessageBox::Open, {{QMessageBox::Open, tr("Options...")}});
+        if (answer == QMessageBox::Retry)
             queries.startMasterQuery();
+        else if (answer == QMessageBox::Open)
+            emit sourcesWanted();
     });
 }
 

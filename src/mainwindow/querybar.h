@@ -36,6 +36,10 @@ public:
     void setStatus(const QString& text, StatusTone tone);
     void retranslate();
 
+signals:
+    // "Options..." in the time-out box: the sources are chosen there.
+    void sourcesWanted();
+
 private:
     void setBusy(bool busy);
 

@@ -292,3 +292,8 @@ void FrmOptions::say(const QString& text)
 {
     lblMessage->say(text);
 }
+
+void FrmOptions::showTab(Tab tab)
+{
+    tabOptions->setCurrentIndex(tab);
+}

@@ -32,6 +32,7 @@ class FrmOptions final : public QDialog {
 
 public:
     enum Tab { SettingsTab = 0, ThemeTab = 1, SourcesTab = 2, FriendsTabIndex = 3 };
+    void showTab(Tab tab);
 
     // dataFolder holds the known servers the "Servers" tab can forget;
     // installs are the game's, looked for when the dialog opens.

@@ -2,6 +2,7 @@
 #include "fleet.h"
 #include "httpresponder.h"
 #include "mainwindow/querycontroller.h"
+#include "presentation/frmoptions.h"
 #include "query/hostlookup.h"
 #include "query/lanquery.h"
 #include "query/masteraddress.h"
@@ -16,7 +17,9 @@
 
 #include <QDateTime>
 #include <QDir>
+#include <QListWidget>
 #include <QSignalSpy>
+#include <QTabWidget>
 #include <QTest>
 
 namespace {
@@ -178,11 +181,19 @@ private slots:
             ++lookups;
             return HostLookup::Result{{}, "Unknown host"};
         });
-        w.desktop.messageAnswers.enqueue(QMessageBox::Cancel);
+        w.desktop.messageAnswers.enqueue(QMessageBox::Open);
         QTest::mouseClick(w.button("cmdGet"), Qt::LeftButton);
         QTRY_COMPARE_WITH_TIMEOUT(w.desktop.messages.size(), 1, 10000);
         HostLookup::setResolver({});
         QCOMPARE(lookups, MasterList::Max);
+        // Beside Retry and Cancel, the way to sources that work.
+        const ScriptedDesktop::Message& asked = w.desktop.messages.first();
+        QCOMPARE(asked.buttons, QMessageBox::Retry | QMessageBox::Cancel | QMessageBox::Open);
+        QCOMPARE(asked.buttonTexts.value(QMessageBox::Open), QStringLiteral("Options..."));
+        QTRY_VERIFY(w.window->findChild<FrmOptions*>());
+        QCOMPARE(w.window->findChild<FrmOptions*>()->findChild<QTabWidget*>("tabOptions")->currentIndex(),
+                 int(FrmOptions::SourcesTab));
+        QCOMPARE(w.window->findChild<FrmOptions*>()->findChild<QListWidget*>("lstMasters")->count(), MasterList::Max);
 
         // The box says what the first sources gave and counts the rest.
         const QStringList box = w.desktop.messages.first().text.split(QLatin1Char('\n'));
