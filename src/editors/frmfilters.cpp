@@ -68,10 +68,16 @@ FrmFilters::FrmFilters(SettingsStore& settings, QString dataFolder, QWidget* par
         if (selectedRow() >= 0)
             removeRow(selectedRow());
     });
+    // The settings are where the built-in filters live: a box set from the
+    // main window (or anywhere) shows here, and every change refilters.
     const auto builtInFlag = [this](QCheckBox* box, const Keys::FlagSetting& setting) {
         box->setChecked(this->settings().value(setting));
-        connect(box, &QCheckBox::clicked, this, [this, setting](bool checked) {
-            this->settings().set(setting, checked);
+        connect(box, &QCheckBox::clicked, this,
+                [this, setting](bool checked) { this->settings().set(setting, checked); });
+        connect(&this->settings(), &SettingsStore::changed, this, [this, box, setting](const QString& key) {
+            if (key != setting.key)
+                return;
+            box->setChecked(this->settings().value(setting));
             emit filtersChanged();
         });
     };
@@ -139,6 +145,20 @@ void FrmFilters::save()
     else
         say(tr("The filters could not be saved to %1; this change lasts until the program ends.")
                 .arg(QDir::toNativeSeparators(m_path)));
+}
+
+void FrmFilters::putFilter(const Filters::VariableFilter& filter)
+{
+    const QList<Filters::VariableFilter> now = m_model->filters();
+    const auto same = std::find_if(now.cbegin(), now.cend(), [&filter](const Filters::VariableFilter& kept) {
+        return kept.variable.compare(filter.variable, Qt::CaseInsensitive) == 0;
+    });
+    if (same == now.cend())
+        m_model->append(filter);
+    else
+        m_model->setCell(int(same - now.cbegin()), 1, filter.value);
+    save();
+    emit filtersChanged();
 }
 
 void FrmFilters::newRow()

@@ -23,6 +23,9 @@ public:
 
     QList<Filters::VariableFilter> filters() const;
     Filters::BuiltIn builtIn() const;
+    // A filter from elsewhere (a row's menu): it takes the place of one on
+    // the same variable, which would otherwise leave nothing listed.
+    void putFilter(const Filters::VariableFilter& filter);
 
 signals:
     // Every change: the lists must be filtered again.

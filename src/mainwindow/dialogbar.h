@@ -34,6 +34,7 @@ public:
               GameInstalls& installs, QString dataFolder, SelectServer selectServer, QWidget* parent = nullptr);
 
     const FrmFilters& filters() const { return *m_filters; }
+    FrmFilters& filters() { return *m_filters; }
     FrmOptions* openOptions();
     FrmHistory* openHistory();
     // A game was joined: an open history shows it.

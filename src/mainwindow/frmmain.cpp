@@ -193,6 +193,11 @@ void FrmMain::connectLists()
     connect(m_menu, &ListMenu::refreshRequested, m_queries, &QueryController::requery);
     connect(m_details, &ServerDetails::friendRequested, m_menu, &ListMenu::addFriend);
     connect(m_menu, &ListMenu::status, this, &FrmMain::setStatus);
+    connect(m_menu, &ListMenu::mapFilterRequested, this, [this](const QString& map) {
+        m_dialogs->filters().putFilter({QStringLiteral("si_map"), map});
+        setStatus(tr("Only servers on %1 are listed now; \"Filters\" takes the filter away.").arg(map),
+                  StatusTone::Done);
+    });
 
     connect(m_find, &FindBar::found, this,
             [this](const QModelIndex& index) { &shownList() == m_playerPane ? showPlayer(index) : showServer(index); });

@@ -40,6 +40,8 @@ ListMenu::ListMenu(SettingsStore& settings, const ServerLists& lists, QString fa
     mPopJoin->setObjectName(QStringLiteral("mPopJoin"));
     mPopRefresh = mPopupAlt->addAction(QString());
     mPopRefresh->setObjectName(QStringLiteral("mPopRefresh"));
+    mPopFilterMap = mPopupAlt->addAction(QString());
+    mPopFilterMap->setObjectName(QStringLiteral("mPopFilterMap"));
     mPopColumns = mPopupAlt->addMenu(QString());
     mPopColumns->setObjectName(QStringLiteral("mPopColumns"));
     connect(mPopColumns, &QMenu::aboutToShow, this, [this] {
@@ -50,6 +52,10 @@ ListMenu::ListMenu(SettingsStore& settings, const ServerLists& lists, QString fa
     connect(mPopRefresh, &QAction::triggered, this, [this] {
         if (const int server = m_shown().selectedServer(); server >= 0)
             emit refreshRequested(m_lists.server(server).address, m_lists.server(server).port);
+    });
+    connect(mPopFilterMap, &QAction::triggered, this, [this] {
+        if (const int server = m_shown().selectedServer(); server >= 0)
+            emit mapFilterRequested(m_lists.server(server).map);
     });
     connect(mPopAddFriend, &QAction::triggered, this, &ListMenu::addToFriends);
     connect(mPopAdd, &QAction::triggered, this, &ListMenu::addToFavourites);
@@ -70,6 +76,7 @@ void ListMenu::setPlayersShown(bool players)
 {
     mPopSelServer->setVisible(players);
     mPopAddFriend->setVisible(players);
+    mPopFilterMap->setVisible(!players);
 }
 
 void ListMenu::retranslate()
@@ -80,6 +87,7 @@ void ListMenu::retranslate()
     mPopAddFriend->setText(tr("Add To F&riends"));
     mPopJoin->setText(tr("&Join"));
     mPopRefresh->setText(tr("R&efresh"));
+    mPopFilterMap->setText(tr("Filter By This &Map"));
     mPopColumns->setTitle(tr("C&olumns"));
 }
 

@@ -46,6 +46,8 @@ signals:
     void refreshRequested(const QString& address, int port);
     // Select Server: show the server at this address in the server list.
     void selectServer(const QString& address);
+    // Filter By This Map: list only the servers on this map.
+    void mapFilterRequested(const QString& map);
     void status(const QString& text, StatusTone tone);
 
 protected:
@@ -66,6 +68,7 @@ private:
     QAction* mPopAddFriend = nullptr;
     QAction* mPopJoin = nullptr;
     QAction* mPopRefresh = nullptr;
+    QAction* mPopFilterMap = nullptr;
     QMenu* mPopColumns = nullptr; // the list's optional columns, for the keyboard too
     // Guarded: while the window is torn down the pane may go before its
     // view, which still sends events on its way out.

@@ -4,16 +4,22 @@
 #include "mainwindow/listpane.h"
 #include "mainwindow/serverdetails.h"
 #include "mainwindow/serverlists.h"
+#include "userdata/settingsstore.h"
 #include "widgets/namedcontrol.h"
 #include "widgets/reportview.h"
 
+#include <QCheckBox>
+#include <QHBoxLayout>
 #include <QSplitter>
 #include <QTabBar>
 #include <QVBoxLayout>
 
 ListTabs::ListTabs(SettingsStore& settings, ServerLists& lists, QWidget* parent)
     : QWidget(parent)
+    , m_settings(settings)
     , tabSelect(makeControl<QTabBar>(this, "tabSelect"))
+    , chkHideEmpty(makeControl<QCheckBox>(this, "chkHideEmpty"))
+    , chkHideFull(makeControl<QCheckBox>(this, "chkHideFull"))
     , rzrPSI(new QSplitter(Qt::Vertical, this))
 {
     tabSelect->addTab(QString());
@@ -37,11 +43,32 @@ ListTabs::ListTabs(SettingsStore& settings, ServerLists& lists, QWidget* parent)
     auto* views = new QVBoxLayout(this);
     views->setContentsMargins(0, 0, 0, 0);
     views->setSpacing(0);
-    views->addWidget(tabSelect);
+    auto* top = new QHBoxLayout;
+    top->setContentsMargins(0, 0, 0, 0);
+    top->addWidget(tabSelect);
+    top->addStretch();
+    top->addWidget(chkHideEmpty);
+    top->addWidget(chkHideFull);
+    views->addLayout(top);
     views->addWidget(m_players, 1);
     views->addWidget(rzrPSI, 1);
     connect(tabSelect, &QTabBar::currentChanged, this, &ListTabs::showView);
     showView(tabSelect->currentIndex());
+
+    // Ticked hides: the settings say what is listed, as the filters' boxes do.
+    connect(chkHideEmpty, &QCheckBox::clicked, this, [this](bool hide) { m_settings.set(Keys::IncludeEmpty, !hide); });
+    connect(chkHideFull, &QCheckBox::clicked, this, [this](bool hide) { m_settings.set(Keys::IncludeFull, !hide); });
+    connect(&m_settings, &SettingsStore::changed, this, [this](const QString& key) {
+        if (key == Keys::IncludeEmpty.key || key == Keys::IncludeFull.key)
+            showHiding();
+    });
+    showHiding();
+}
+
+void ListTabs::showHiding()
+{
+    chkHideEmpty->setChecked(!m_settings.value(Keys::IncludeEmpty));
+    chkHideFull->setChecked(!m_settings.value(Keys::IncludeFull));
 }
 
 ListPane& ListTabs::shown() const
@@ -63,6 +90,10 @@ void ListTabs::retranslate()
 {
     tabSelect->setTabText(PlayersTab, tr("Players"));
     tabSelect->setTabText(ServersTab, tr("Servers"));
+    chkHideEmpty->setText(tr("Hide empty"));
+    chkHideEmpty->setToolTip(tr("Servers without players are not listed (the filters' \"Empty\" box)"));
+    chkHideFull->setText(tr("Hide full"));
+    chkHideFull->setToolTip(tr("Full servers are not listed (the filters' \"Full\" box)"));
     m_servers->view()->setAccessibleName(tr("Servers"));
     m_players->view()->setAccessibleName(tr("Players"));
     m_details->retranslate();

@@ -4,6 +4,7 @@
 #include <QWidget>
 
 class ListPane;
+class QCheckBox;
 class QSplitter;
 class QTabBar;
 class ServerDetails;
@@ -12,7 +13,9 @@ class SettingsStore;
 
 // The two views of the window under their tabs: "Players" (every player
 // on every server) and "Servers" (the server list above the selected
-// server's players and rules, split by rzrPSI).
+// server's players and rules, split by rzrPSI). Beside the tabs, "Hide
+// empty" and "Hide full": the filters' built-in "Empty" and "Full" boxes
+// one click away, the same settings, so both always agree.
 class ListTabs final : public QWidget {
     Q_OBJECT
     Q_DISABLE_COPY_MOVE(ListTabs)
@@ -40,8 +43,12 @@ signals:
 
 private:
     void showView(int tab);
+    void showHiding();
 
+    SettingsStore& m_settings;
     QTabBar* tabSelect = nullptr;
+    QCheckBox* chkHideEmpty = nullptr;
+    QCheckBox* chkHideFull = nullptr;
     QSplitter* rzrPSI = nullptr;
     ListPane* m_servers = nullptr;
     ListPane* m_players = nullptr;

@@ -225,14 +225,15 @@ private slots:
         QApplication::setActiveWindow(run.window.get());
         QTRY_COMPARE(QApplication::focusWidget(), run.button("cmdGet"));
         QStringList chain;
-        for (int i = 0; i < 22; ++i) {
+        for (int i = 0; i < 24; ++i) {
             QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
             chain.append(QApplication::focusWidget()->objectName());
         }
-        const QStringList walk{"cmdFav",        "cmdLan",        "cmdExit",       "cmdOrganise",   "cmdFilters",
-                               "cmdOptions",    "cmdRecent",     "tabSelect",     "lstServerList", "lvwPlayers",
-                               "lvwServerInfo", "cmbPlayerName", "cmbPassword",   "cmdJoin",       "cmdJoinIP",
-                               "cmbFind",       "cmdFind",       "cmdFindFriend", "cmdGet"};
+        const QStringList walk{"cmdFav",        "cmdLan",     "cmdExit",       "cmdOrganise",   "cmdFilters",
+                               "cmdOptions",    "cmdRecent",  "tabSelect",     "chkHideEmpty",  "chkHideFull",
+                               "lstServerList", "lvwPlayers", "lvwServerInfo", "cmbPlayerName", "cmbPassword",
+                               "cmdJoin",       "cmdJoinIP",  "cmbFind",       "cmdFind",       "cmdFindFriend",
+                               "cmdGet"};
         QCOMPARE(chain.mid(0, walk.size()), walk);
 
         auto* list = run.find<ReportView>("lstServerList");

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
+#include "editors/frmfilters.h"
 #include "filewrites.h"
 #include "listedwindow.h"
 #include "mainwindow/findbar.h"
@@ -10,11 +11,13 @@
 #include "widgets/historycombobox.h"
 
 #include <QApplication>
+#include <QCheckBox>
 #include <QClipboard>
 #include <QGuiApplication>
 #include <QHeaderView>
 #include <QHelpEvent>
 #include <QMenu>
+#include <QSet>
 #include <QTabBar>
 #include <QToolTip>
 
@@ -96,6 +99,56 @@ private slots:
         QTest::qWait(0);
         const int rowsShown = list->viewport()->height() / list->verticalHeader()->defaultSectionSize();
         QVERIFY(rowsShown >= 5);
+    }
+
+    void hideEmptyHideFullAndFilterByThisMapAreOneClickAway()
+    {
+        Listed w(30, TestPorts::at(1181), false);
+        const auto count = [&w](const std::function<bool(const ServerRecord&)>& test) {
+            int found = 0;
+            for (const int row : w.window->lists().visibleServers().sourceRows())
+                found += test(w.window->lists().server(row)) ? 1 : 0;
+            return found;
+        };
+        const auto empty = [](const ServerRecord& server) { return server.playerCount - server.zeroPingCount == 0; };
+        const auto full = [](const ServerRecord& server) { return server.playerCount == server.maxPlayers; };
+        // Two servers emptied, as late at night.
+        for (int index : {4, 9})
+            w.fleet.setServer(index, w.fleet.servers().at(index).rules, {});
+        QVERIFY(w.queryMasters());
+        QVERIFY(count(empty) >= 2 && count(full) > 0);
+        auto* hideEmpty = w.find<QCheckBox>("chkHideEmpty");
+        auto* filtersEmpty = w.window->findChild<FrmFilters*>()->findChild<QCheckBox*>(); // the first: "Empty"
+        QTest::mouseClick(hideEmpty, Qt::LeftButton);
+        QCOMPARE(count(empty), 0);
+        QVERIFY(!w.settings().value(Keys::IncludeEmpty));
+        QVERIFY(!filtersEmpty->isChecked());
+        const int shown = w.visible("lstServerList")->rowCount();
+        QCOMPARE(w.find<QLabel>("lblHidden")->text(), QStringLiteral("%1 hidden by filters").arg(30 - shown));
+        QTest::mouseClick(w.find<QCheckBox>("chkHideFull"), Qt::LeftButton);
+        QCOMPARE(count(full), 0);
+        // The filters' own box, ticked, lists empty servers again: both agree.
+        QTest::mouseClick(filtersEmpty, Qt::LeftButton);
+        QVERIFY(!hideEmpty->isChecked());
+        QVERIFY(count(empty) > 0);
+        QTest::mouseClick(w.find<QCheckBox>("chkHideFull"), Qt::LeftButton);
+
+        // A row's menu: only the servers on its map.
+        auto* list = w.list("lstServerList");
+        const QRect cell = list->visualRect(w.visible("lstServerList")->index(3, 0));
+        const QString map = w.cell("lstServerList", 3, ServerListModel::Map);
+        QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, cell.center());
+        QTest::mouseClick(list->viewport(), Qt::RightButton, {}, cell.center());
+        auto* action = w.find<QMenu>("mPopupAlt")->findChild<QAction*>(QStringLiteral("mPopFilterMap"));
+        QVERIFY(action->isVisible());
+        action->trigger();
+        QVERIFY(w.visible("lstServerList")->rowCount() > 0);
+        const QStringList maps = w.column("lstServerList", ServerListModel::Map);
+        QCOMPARE(QSet<QString>(maps.cbegin(), maps.cend()), QSet<QString>{map});
+        QCOMPARE(w.status(),
+                 QStringLiteral("Only servers on %1 are listed now; \"Filters\" takes the filter away.").arg(map));
+        QCOMPARE(w.window->findChild<FrmFilters*>()->filters().last(),
+                 (Filters::VariableFilter{QStringLiteral("si_map"), map}));
     }
 
     void anotherLanguageReachesTheSelectionAndTheCounters()

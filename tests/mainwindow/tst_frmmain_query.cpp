@@ -188,7 +188,7 @@ private slots:
         QTRY_COMPARE_WITH_TIMEOUT(w.desktop.messages.size(), 2, 7000);
         const auto& box = w.desktop.messages.first();
         QCOMPARE(box.icon, Desktop::Icon::Critical);
-        QCOMPARE(box.buttons, QMessageBox::Retry | QMessageBox::Cancel);
+        QCOMPARE(box.buttons, QMessageBox::Retry | QMessageBox::Cancel | QMessageBox::Open);
         QCOMPARE(box.text, QStringLiteral("Master Servers Timed Out\n\n%1: did not answer\n\nCheck the "
                                           "network connection, or add a master server or a server list that works in "
                                           "Options, on the \"Servers\" tab.")
