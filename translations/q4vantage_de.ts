@@ -488,6 +488,10 @@
             <numerusform>%n Spieler gefunden</numerusform>
         </translation>
     </message>
+    <message>
+        <source>Only servers on %1 are listed now; &quot;Filters&quot; takes the filter away.</source>
+        <translation>Nur Server mit %1 werden jetzt aufgeführt; unter „Filter“ lässt sich der Filter wieder entfernen.</translation>
+    </message>
 </context>
 <context>
     <name>FrmOptions</name>
@@ -993,6 +997,10 @@ Auf einen freien Platz warten und beitreten, sobald einer frei wird?</translatio
         <source>C&amp;olumns</source>
         <translation>Spa&amp;lten</translation>
     </message>
+    <message>
+        <source>Filter By This &amp;Map</source>
+        <translation>Nach dieser &amp;Karte filtern</translation>
+    </message>
 </context>
 <context>
     <name>ListTabs</name>
@@ -1003,6 +1011,22 @@ Auf einen freien Platz warten und beitreten, sobald einer frei wird?</translatio
     <message>
         <source>Servers</source>
         <translation>Server</translation>
+    </message>
+    <message>
+        <source>Hide empty</source>
+        <translation>Leere ausblenden</translation>
+    </message>
+    <message>
+        <source>Servers without players are not listed (the filters&apos; &quot;Empty&quot; box)</source>
+        <translation>Server ohne Spieler werden nicht aufgeführt (das Feld „Leer“ der Filter)</translation>
+    </message>
+    <message>
+        <source>Hide full</source>
+        <translation>Volle ausblenden</translation>
+    </message>
+    <message>
+        <source>Full servers are not listed (the filters&apos; &quot;Full&quot; box)</source>
+        <translation>Volle Server werden nicht aufgeführt (das Feld „Voll“ der Filter)</translation>
     </message>
 </context>
 <context>
@@ -1030,6 +1054,10 @@ Auf einen freien Platz warten und beitreten, sobald einer frei wird?</translatio
     <message>
         <source>Quake 4 Vantage</source>
         <translation>Quake 4 Vantage</translation>
+    </message>
+    <message>
+        <source>Options...</source>
+        <translation>Optionen...</translation>
     </message>
 </context>
 <context>
@@ -1143,6 +1171,14 @@ Auf einen freien Platz warten und beitreten, sobald einer frei wird?</translatio
     <message>
         <source>No answer to the last refresh; last seen at %1</source>
         <translation>Keine Antwort auf die letzte Aktualisierung; zuletzt gesehen um %1</translation>
+    </message>
+    <message>
+        <source>One of your favourites</source>
+        <translation>Einer Ihrer Favoriten</translation>
+    </message>
+    <message>
+        <source>Full: %1 of %2 players</source>
+        <translation>Voll: %1 von %2 Spielern</translation>
     </message>
 </context>
 <context>

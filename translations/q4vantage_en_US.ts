@@ -484,6 +484,10 @@
             <numerusform></numerusform>
         </translation>
     </message>
+    <message>
+        <source>Only servers on %1 are listed now; &quot;Filters&quot; takes the filter away.</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>FrmOptions</name>
@@ -986,6 +990,10 @@ Wait for a free slot and join as soon as one opens?</source>
         <source>C&amp;olumns</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>Filter By This &amp;Map</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>ListTabs</name>
@@ -995,6 +1003,22 @@ Wait for a free slot and join as soon as one opens?</source>
     </message>
     <message>
         <source>Servers</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Hide empty</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Servers without players are not listed (the filters&apos; &quot;Empty&quot; box)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Hide full</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Full servers are not listed (the filters&apos; &quot;Full&quot; box)</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -1022,6 +1046,10 @@ Wait for a free slot and join as soon as one opens?</source>
     </message>
     <message>
         <source>Quake 4 Vantage</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Options...</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -1132,6 +1160,14 @@ Wait for a free slot and join as soon as one opens?</source>
     <name>ServerListModel</name>
     <message>
         <source>No answer to the last refresh; last seen at %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>One of your favourites</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Full: %1 of %2 players</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -1343,8 +1379,8 @@ Wait for a free slot and join as soon as one opens?</source>
     <message numerus="yes">
         <source>... and %n more (the status line&apos;s tooltip lists them all)</source>
         <translation>
-            <numerusform>... and %n more (the status line's tooltip lists them all)</numerusform>
-            <numerusform>... and %n more (the status line's tooltip lists them all)</numerusform>
+            <numerusform>... and %n more (the status line&apos;s tooltip lists them all)</numerusform>
+            <numerusform>... and %n more (the status line&apos;s tooltip lists them all)</numerusform>
         </translation>
     </message>
 </context>

@@ -488,6 +488,10 @@
             <numerusform>%n joueurs trouvés</numerusform>
         </translation>
     </message>
+    <message>
+        <source>Only servers on %1 are listed now; &quot;Filters&quot; takes the filter away.</source>
+        <translation>Seuls les serveurs sur %1 sont listés ; « Filtres » retire le filtre.</translation>
+    </message>
 </context>
 <context>
     <name>FrmOptions</name>
@@ -993,6 +997,10 @@ Attendre une place libre et rejoindre dès qu&apos;une place se libère ?</trans
         <source>C&amp;olumns</source>
         <translation>C&amp;olonnes</translation>
     </message>
+    <message>
+        <source>Filter By This &amp;Map</source>
+        <translation>Filtrer par cette &amp;carte</translation>
+    </message>
 </context>
 <context>
     <name>ListTabs</name>
@@ -1003,6 +1011,22 @@ Attendre une place libre et rejoindre dès qu&apos;une place se libère ?</trans
     <message>
         <source>Servers</source>
         <translation>Serveurs</translation>
+    </message>
+    <message>
+        <source>Hide empty</source>
+        <translation>Masquer les vides</translation>
+    </message>
+    <message>
+        <source>Servers without players are not listed (the filters&apos; &quot;Empty&quot; box)</source>
+        <translation>Les serveurs sans joueurs ne sont pas listés (la case « Vides » des filtres)</translation>
+    </message>
+    <message>
+        <source>Hide full</source>
+        <translation>Masquer les pleins</translation>
+    </message>
+    <message>
+        <source>Full servers are not listed (the filters&apos; &quot;Full&quot; box)</source>
+        <translation>Les serveurs pleins ne sont pas listés (la case « Pleins » des filtres)</translation>
     </message>
 </context>
 <context>
@@ -1030,6 +1054,10 @@ Attendre une place libre et rejoindre dès qu&apos;une place se libère ?</trans
     <message>
         <source>Quake 4 Vantage</source>
         <translation>Quake 4 Vantage</translation>
+    </message>
+    <message>
+        <source>Options...</source>
+        <translation>Options...</translation>
     </message>
 </context>
 <context>
@@ -1144,6 +1172,14 @@ Attendre une place libre et rejoindre dès qu&apos;une place se libère ?</trans
         <source>No answer to the last refresh; last seen at %1</source>
         <translation>Aucune réponse à la dernière actualisation ; vu pour la dernière fois à %1</translation>
     </message>
+    <message>
+        <source>One of your favourites</source>
+        <translation>Un de vos favoris</translation>
+    </message>
+    <message>
+        <source>Full: %1 of %2 players</source>
+        <translation>Plein : %1 joueurs sur %2</translation>
+    </message>
 </context>
 <context>
     <name>ServerMemory</name>
@@ -1247,11 +1283,11 @@ Attendre une place libre et rejoindre dès qu&apos;une place se libère ?</trans
     </message>
     <message>
         <source>At most %1 master servers are asked. Remove one before adding another.</source>
-        <translation>Au plus %1 serveurs principaux sont interrogés. Retirez-en un avant d'en ajouter un autre.</translation>
+        <translation>Au plus %1 serveurs principaux sont interrogés. Retirez-en un avant d&apos;en ajouter un autre.</translation>
     </message>
     <message>
         <source>At most %1 server lists are fetched. Remove one before adding another.</source>
-        <translation>Au plus %1 listes de serveurs sont téléchargées. Retirez-en une avant d'en ajouter une autre.</translation>
+        <translation>Au plus %1 listes de serveurs sont téléchargées. Retirez-en une avant d&apos;en ajouter une autre.</translation>
     </message>
 </context>
 <context>
@@ -1353,8 +1389,8 @@ Attendre une place libre et rejoindre dès qu&apos;une place se libère ?</trans
     <message numerus="yes">
         <source>... and %n more (the status line&apos;s tooltip lists them all)</source>
         <translation>
-            <numerusform>... et %n autre (l'infobulle de la ligne d'état les cite tous)</numerusform>
-            <numerusform>... et %n autres (l'infobulle de la ligne d'état les cite tous)</numerusform>
+            <numerusform>... et %n autre (l&apos;infobulle de la ligne d&apos;état les cite tous)</numerusform>
+            <numerusform>... et %n autres (l&apos;infobulle de la ligne d&apos;état les cite tous)</numerusform>
         </translation>
     </message>
 </context>

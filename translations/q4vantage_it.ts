@@ -488,6 +488,10 @@ hanno risposto %2 server su %3</translation>
             <numerusform>%n giocatori trovati</numerusform>
         </translation>
     </message>
+    <message>
+        <source>Only servers on %1 are listed now; &quot;Filters&quot; takes the filter away.</source>
+        <translation>Ora sono elencati solo i server su %1; in «Filtri» si toglie il filtro.</translation>
+    </message>
 </context>
 <context>
     <name>FrmOptions</name>
@@ -993,6 +997,10 @@ Attendere un posto libero ed entrare appena se ne libera uno?</translation>
         <source>C&amp;olumns</source>
         <translation>C&amp;olonne</translation>
     </message>
+    <message>
+        <source>Filter By This &amp;Map</source>
+        <translation>Filtra per questa &amp;mappa</translation>
+    </message>
 </context>
 <context>
     <name>ListTabs</name>
@@ -1003,6 +1011,22 @@ Attendere un posto libero ed entrare appena se ne libera uno?</translation>
     <message>
         <source>Servers</source>
         <translation>Server</translation>
+    </message>
+    <message>
+        <source>Hide empty</source>
+        <translation>Nascondi vuoti</translation>
+    </message>
+    <message>
+        <source>Servers without players are not listed (the filters&apos; &quot;Empty&quot; box)</source>
+        <translation>I server senza giocatori non sono elencati (la casella «Vuoti» dei filtri)</translation>
+    </message>
+    <message>
+        <source>Hide full</source>
+        <translation>Nascondi pieni</translation>
+    </message>
+    <message>
+        <source>Full servers are not listed (the filters&apos; &quot;Full&quot; box)</source>
+        <translation>I server pieni non sono elencati (la casella «Pieni» dei filtri)</translation>
     </message>
 </context>
 <context>
@@ -1030,6 +1054,10 @@ Attendere un posto libero ed entrare appena se ne libera uno?</translation>
     <message>
         <source>Quake 4 Vantage</source>
         <translation>Quake 4 Vantage</translation>
+    </message>
+    <message>
+        <source>Options...</source>
+        <translation>Opzioni...</translation>
     </message>
 </context>
 <context>
@@ -1143,6 +1171,14 @@ Attendere un posto libero ed entrare appena se ne libera uno?</translation>
     <message>
         <source>No answer to the last refresh; last seen at %1</source>
         <translation>Nessuna risposta all&apos;ultimo aggiornamento; visto l&apos;ultima volta alle %1</translation>
+    </message>
+    <message>
+        <source>One of your favourites</source>
+        <translation>Uno dei tuoi preferiti</translation>
+    </message>
+    <message>
+        <source>Full: %1 of %2 players</source>
+        <translation>Pieno: %1 giocatori su %2</translation>
     </message>
 </context>
 <context>

@@ -488,6 +488,10 @@
             <numerusform>%n spelers gevonden</numerusform>
         </translation>
     </message>
+    <message>
+        <source>Only servers on %1 are listed now; &quot;Filters&quot; takes the filter away.</source>
+        <translation>Alleen servers op %1 worden nu getoond; onder "Filters" haalt u het filter weg.</translation>
+    </message>
 </context>
 <context>
     <name>FrmOptions</name>
@@ -993,6 +997,10 @@ Wachten op een vrije plek en deelnemen zodra er een vrijkomt?</translation>
         <source>C&amp;olumns</source>
         <translation>K&amp;olommen</translation>
     </message>
+    <message>
+        <source>Filter By This &amp;Map</source>
+        <translation>Filteren op deze &amp;kaart</translation>
+    </message>
 </context>
 <context>
     <name>ListTabs</name>
@@ -1003,6 +1011,22 @@ Wachten op een vrije plek en deelnemen zodra er een vrijkomt?</translation>
     <message>
         <source>Servers</source>
         <translation>Servers</translation>
+    </message>
+    <message>
+        <source>Hide empty</source>
+        <translation>Lege verbergen</translation>
+    </message>
+    <message>
+        <source>Servers without players are not listed (the filters&apos; &quot;Empty&quot; box)</source>
+        <translation>Servers zonder spelers worden niet getoond (het vakje "Leeg" van de filters)</translation>
+    </message>
+    <message>
+        <source>Hide full</source>
+        <translation>Volle verbergen</translation>
+    </message>
+    <message>
+        <source>Full servers are not listed (the filters&apos; &quot;Full&quot; box)</source>
+        <translation>Volle servers worden niet getoond (het vakje "Vol" van de filters)</translation>
     </message>
 </context>
 <context>
@@ -1030,6 +1054,10 @@ Wachten op een vrije plek en deelnemen zodra er een vrijkomt?</translation>
     <message>
         <source>Quake 4 Vantage</source>
         <translation>Quake 4 Vantage</translation>
+    </message>
+    <message>
+        <source>Options...</source>
+        <translation>Opties...</translation>
     </message>
 </context>
 <context>
@@ -1143,6 +1171,14 @@ Wachten op een vrije plek en deelnemen zodra er een vrijkomt?</translation>
     <message>
         <source>No answer to the last refresh; last seen at %1</source>
         <translation>Geen antwoord op de laatste vernieuwing; laatst gezien om %1</translation>
+    </message>
+    <message>
+        <source>One of your favourites</source>
+        <translation>Een van uw favorieten</translation>
+    </message>
+    <message>
+        <source>Full: %1 of %2 players</source>
+        <translation>Vol: %1 van %2 spelers</translation>
     </message>
 </context>
 <context>

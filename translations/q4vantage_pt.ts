@@ -488,6 +488,10 @@ responderam %2 de %3 servidores</translation>
             <numerusform>%n jogadores encontrados</numerusform>
         </translation>
     </message>
+    <message>
+        <source>Only servers on %1 are listed now; &quot;Filters&quot; takes the filter away.</source>
+        <translation>Só os servidores em %1 são listados agora; em «Filtros» retira-se o filtro.</translation>
+    </message>
 </context>
 <context>
     <name>FrmOptions</name>
@@ -993,6 +997,10 @@ Esperar por uma vaga e entrar assim que uma abrir?</translation>
         <source>C&amp;olumns</source>
         <translation>C&amp;olunas</translation>
     </message>
+    <message>
+        <source>Filter By This &amp;Map</source>
+        <translation>Filtrar por este &amp;mapa</translation>
+    </message>
 </context>
 <context>
     <name>ListTabs</name>
@@ -1003,6 +1011,22 @@ Esperar por uma vaga e entrar assim que uma abrir?</translation>
     <message>
         <source>Servers</source>
         <translation>Servidores</translation>
+    </message>
+    <message>
+        <source>Hide empty</source>
+        <translation>Ocultar vazios</translation>
+    </message>
+    <message>
+        <source>Servers without players are not listed (the filters&apos; &quot;Empty&quot; box)</source>
+        <translation>Os servidores sem jogadores não são listados (a caixa «Vazios» dos filtros)</translation>
+    </message>
+    <message>
+        <source>Hide full</source>
+        <translation>Ocultar cheios</translation>
+    </message>
+    <message>
+        <source>Full servers are not listed (the filters&apos; &quot;Full&quot; box)</source>
+        <translation>Os servidores cheios não são listados (a caixa «Cheios» dos filtros)</translation>
     </message>
 </context>
 <context>
@@ -1030,6 +1054,10 @@ Esperar por uma vaga e entrar assim que uma abrir?</translation>
     <message>
         <source>Quake 4 Vantage</source>
         <translation>Quake 4 Vantage</translation>
+    </message>
+    <message>
+        <source>Options...</source>
+        <translation>Opções...</translation>
     </message>
 </context>
 <context>
@@ -1143,6 +1171,14 @@ Esperar por uma vaga e entrar assim que uma abrir?</translation>
     <message>
         <source>No answer to the last refresh; last seen at %1</source>
         <translation>Sem resposta à última atualização; visto pela última vez às %1</translation>
+    </message>
+    <message>
+        <source>One of your favourites</source>
+        <translation>Um dos seus favoritos</translation>
+    </message>
+    <message>
+        <source>Full: %1 of %2 players</source>
+        <translation>Cheio: %1 de %2 jogadores</translation>
     </message>
 </context>
 <context>

@@ -3,6 +3,7 @@
 
 #include "mainwindow/serverlistmodel.h"
 #include "presentation/colourcodes.h"
+#include "presentation/rowtones.h"
 
 PlayerListModel::PlayerListModel(const ServerListModel& servers, QObject* parent)
     : ReportModel(Columns, parent)
@@ -22,12 +23,20 @@ QVariant PlayerListModel::data(const QModelIndex& index, int role) const
     const Row& row = m_rows.at(index.row());
     if (role == RowMarks::Role)
         return row.isFriend ? RowMarks::Friend : 0;
-    if (role != Qt::DisplayRole)
+    if (role != Qt::DisplayRole && role != RowMarks::ToneRole)
         return {};
     const ServerRecord& server = m_servers.record(row.server);
     if (row.player >= server.players.size())
         return {};
     const PlayerRecord& player = server.players.at(row.player);
+    if (role == RowMarks::ToneRole) {
+        // A player's own ping, and the server's as the server list shows it.
+        if (index.column() == Ping)
+            return int(RowTones::ofPing(player.ping));
+        if (index.column() == ServerPing)
+            return int(RowTones::ofPing(server.ping));
+        return {};
+    }
     switch (index.column()) {
     case Name:
         return row.plainName;

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "mainwindow/serverdetails.h"
 
+#include "mainwindow/rowmarkdelegate.h"
 #include "mainwindow/serverplayersmodel.h"
 #include "mainwindow/serverrulesmodel.h"
 #include "query/records.h"
@@ -23,6 +24,7 @@ ServerDetails::ServerDetails(SettingsStore& settings, QWidget* parent)
     setChildrenCollapsible(false);
     m_players = new ReportView(m_playersModel, m_playersModel->designWidths(), this);
     m_players->setObjectName(QStringLiteral("lvwPlayers"));
+    m_players->setItemDelegate(new RowMarkDelegate(m_players)); // pings in their tone
     m_rules = new ReportView(m_rulesModel, m_rulesModel->designWidths(), this);
     m_rules->setObjectName(QStringLiteral("lvwServerInfo"));
     addWidget(m_players);

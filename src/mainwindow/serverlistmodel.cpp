@@ -3,6 +3,7 @@
 
 #include "presentation/colourcodes.h"
 #include "presentation/countries.h"
+#include "presentation/rowtones.h"
 
 #include <QDateTime>
 #include <QLocale>
@@ -44,6 +45,16 @@ QString ServerListModel::cellText(int row, int column) const
     }
 }
 
+namespace {
+
+// No slot left: what "Hide full" hides too.
+bool isFull(const ServerRecord& server)
+{
+    return server.maxPlayers > 0 && server.playerCount >= server.maxPlayers;
+}
+
+} // namespace
+
 QVariant ServerListModel::data(const QModelIndex& index, int role) const
 {
     if (!index.isValid() || index.row() >= m_store.count())
@@ -54,7 +65,14 @@ QVariant ServerListModel::data(const QModelIndex& index, int role) const
         return cellText(row, index.column());
     case RowMarks::Role:
         return (m_hasFriend && m_hasFriend(row) ? RowMarks::Friend : 0) |
-               (m_silent.at(size_t(row)) ? RowMarks::Silent : 0);
+               (m_silent.at(size_t(row)) ? RowMarks::Silent : 0) | (isFull(m_store.at(row)) ? RowMarks::Full : 0) |
+               (m_isFavourite && m_isFavourite(row) ? RowMarks::Favourite : 0);
+    case RowMarks::ToneRole:
+        if (index.column() == Ping)
+            return int(RowTones::ofPing(m_store.at(row).ping));
+        if (index.column() == Players && isFull(m_store.at(row)))
+            return int(RowTones::Tier::Poor);
+        return {};
     case Qt::DecorationRole:
         // The flag before the name.
         if (index.column() == Name && m_countries && !m_store.at(row).country.isEmpty())
@@ -64,6 +82,11 @@ QVariant ServerListModel::data(const QModelIndex& index, int role) const
         QStringList tips;
         if (m_countries && !m_store.at(row).country.isEmpty())
             tips.append(m_countries->name(m_store.at(row).country));
+        const ServerRecord& server = m_store.at(row);
+        if (m_isFavourite && m_isFavourite(row))
+            tips.append(tr("One of your favourites"));
+        if (isFull(server))
+            tips.append(tr("Full: %1 of %2 players").arg(server.playerCount).arg(server.maxPlayers));
         if (m_silent.at(size_t(row)))
             tips.append(tr("No answer to the last refresh; last seen at %1")
                             .arg(QLocale().toString(QDateTime::fromMSecsSinceEpoch(m_lastSeen.at(size_t(row))).time(),

@@ -48,9 +48,11 @@ public:
     qint64 lastSeenMs(int storeIndex) const { return m_lastSeen.at(size_t(storeIndex)); }
     // Whether a friend plays on a server (the player list knows).
     void setFriendLookup(std::function<bool(int storeIndex)> hasFriend) { m_hasFriend = std::move(hasFriend); }
+    // Whether a server is one of the user's favourites.
+    void setFavouriteLookup(std::function<bool(int storeIndex)> isFavourite) { m_isFavourite = std::move(isFavourite); }
     // Flags before the names, the country's name in the tooltip.
     void setCountries(const Countries* countries) { m_countries = countries; }
-    // The friends changed: every row's mark may have.
+    // The friends or the favourites changed: every row's mark may have.
     void marksChanged();
     // The captions and the countries' names follow the interface language.
     void retranslate();
@@ -71,4 +73,5 @@ private:
     std::vector<qint64> m_lastSeen;
     std::vector<bool> m_silent;
     std::function<bool(int)> m_hasFriend;
+    std::function<bool(int)> m_isFavourite;
 };

@@ -9,6 +9,8 @@ ServerLists::ServerLists(QObject* parent)
                        [this](int column) { return m_players.sortKeys(column); })
 {
     m_servers.setFriendLookup([this](int server) { return m_players.hasFriendOn(server); });
+    m_servers.setFavouriteLookup(
+        [this](int server) { return m_favourites.contains(m_servers.record(server).endpointText()); });
     m_visibleServers.setSourceModel(&m_servers);
     m_visiblePlayers.setSourceModel(&m_players);
 }
@@ -70,6 +72,14 @@ void ServerLists::setFriends(const QStringList& entries)
         return;
     m_friends = Friends::Matcher(entries);
     m_players.setFriends(m_friends);
+    m_servers.marksChanged();
+}
+
+void ServerLists::setFavourites(const QSet<QString>& endpoints)
+{
+    if (endpoints == m_favourites)
+        return;
+    m_favourites = endpoints;
     m_servers.marksChanged();
 }
 

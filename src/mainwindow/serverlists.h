@@ -59,6 +59,8 @@ public:
 
     void setFriends(const QStringList& entries);
     const Friends::Matcher& friends() const { return m_friends; }
+    // The favourites' "address:port": their rows carry a heart.
+    void setFavourites(const QSet<QString>& endpoints);
     // Every friend listed on a server now.
     QList<Alerts::Sighting> sightings() const;
     // The players on these servers ("address:port") now.
@@ -69,6 +71,7 @@ public:
 private:
     std::function<qint64()> m_nowMs;
     Friends::Matcher m_friends;
+    QSet<QString> m_favourites;
     ServerListModel m_servers;
     PlayerListModel m_players{m_servers};
     ServerVisibility m_visibility{m_servers.store()};

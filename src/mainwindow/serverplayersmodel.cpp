@@ -2,6 +2,7 @@
 #include "mainwindow/serverplayersmodel.h"
 
 #include "presentation/colourcodes.h"
+#include "presentation/rowtones.h"
 
 #include <algorithm>
 
@@ -17,9 +18,13 @@ int ServerPlayersModel::rowCount(const QModelIndex& parent) const
 
 QVariant ServerPlayersModel::data(const QModelIndex& index, int role) const
 {
-    if (!index.isValid() || index.row() >= m_rows.size() || role != Qt::DisplayRole)
+    if (!index.isValid() || index.row() >= m_rows.size())
         return {};
     const Row& row = m_rows.at(index.row());
+    if (role == RowMarks::ToneRole && index.column() == Ping)
+        return int(RowTones::ofPing(row.player.ping));
+    if (role != Qt::DisplayRole)
+        return {};
     switch (index.column()) {
     case Number:
         return QString::number(row.player.clientNumber);

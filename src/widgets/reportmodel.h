@@ -15,7 +15,12 @@ inline constexpr int Role = Qt::UserRole + 7;
 enum : int {
     Friend = 1, // a friend's row, or a server with a friend on it
     Silent = 2, // the server did not answer the last refresh
+    Full = 4,   // no free slot
+    Favourite = 8,
 };
+// The tone of a cell (a RowTones::Tier as int): a ping, a full server's
+// players. Nothing for a cell in the list's own colour.
+inline constexpr int ToneRole = Qt::UserRole + 8;
 } // namespace RowMarks
 
 // Base of the report-style lists: fixed columns with translated captions.

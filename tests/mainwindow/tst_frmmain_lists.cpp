@@ -8,6 +8,9 @@
 #include "mainwindow/serverlists.h"
 #include "presentation/colourcodes.h"
 #include "presentation/multicolorlabel.h"
+#include "presentation/rowtones.h"
+#include "presentation/themefile.h"
+#include "presentation/themeservice.h"
 #include "widgets/historycombobox.h"
 
 #include <QApplication>
@@ -149,6 +152,65 @@ private slots:
                  QStringLiteral("Only servers on %1 are listed now; \"Filters\" takes the filter away.").arg(map));
         QCOMPARE(w.window->findChild<FrmFilters*>()->filters().last(),
                  (Filters::VariableFilter{QStringLiteral("si_map"), map}));
+    }
+
+    // What players look for at a glance: pings in their tone, full servers
+    // and favourites marked, in the light and the dark lists alike.
+    void pingsFullServersAndFavouritesStandOut()
+    {
+        Listed w(12, TestPorts::at(1191), false);
+        auto* players = w.list("lstPlayerList");
+        w.find<QTabBar>("tabSelect")->setCurrentIndex(FrmMain::PlayersTab);
+        const auto drawn = [](ReportView* list, int row, int column) {
+            const QRect cell = list->visualRect(list->model()->index(row, column));
+            return TestWindow::textColour(list->viewport(), list->viewport()->palette().color(QPalette::Base), cell);
+        };
+        const auto rowWith = [&w](const char* list, int column, const std::function<bool(int)>& test) {
+            for (int row = 0; row < w.visible(list)->rowCount(); ++row)
+                if (test(w.cell(list, row, column).section(QLatin1Char('/'), 0, 0).toInt()) &&
+                    !w.cell(list, row, column).isEmpty())
+                    return row;
+            return -1;
+        };
+        const int fast = rowWith("lstPlayerList", PlayerListModel::Ping, [](int ms) { return ms > 0 && ms < 80; });
+        const int slow = rowWith("lstPlayerList", PlayerListModel::Ping, [](int ms) { return ms >= 150; });
+        QVERIFY(fast >= 0 && slow >= 0);
+        for (const bool dark : {false, true}) {
+            if (dark)
+                w.window->themes().apply(ThemeFile::shippedThemes().first());
+            const QColor base = players->viewport()->palette().color(QPalette::Base);
+            QCOMPARE(drawn(players, fast, PlayerListModel::Ping), RowTones::colour(RowTones::Tier::Good, base));
+            QCOMPARE(drawn(players, slow, PlayerListModel::Ping), RowTones::colour(RowTones::Tier::Poor, base));
+        }
+
+        w.find<QTabBar>("tabSelect")->setCurrentIndex(FrmMain::ServersTab);
+        auto* servers = w.list("lstServerList");
+        int full = -1;
+        for (int row = 0; row < w.visible("lstServerList")->rowCount() && full < 0; ++row) {
+            const QStringList count = w.cell("lstServerList", row, ServerListModel::Players).split(QLatin1Char('/'));
+            if (count.first() == count.last())
+                full = row;
+        }
+        QVERIFY(full >= 0);
+        const QModelIndex fullPlayers = w.visible("lstServerList")->index(full, ServerListModel::Players);
+        QVERIFY(
+            fullPlayers.data(Qt::ToolTipRole)
+                .toString()
+                .contains(
+                    QStringLiteral("Full: %1 of %1 players")
+                        .arg(w.cell("lstServerList", full, ServerListModel::Players).section(QLatin1Char('/'), 0, 0))));
+        QCOMPARE(drawn(servers, full, ServerListModel::Players),
+                 RowTones::colour(RowTones::Tier::Poor, servers->viewport()->palette().color(QPalette::Base)));
+
+        // Added from the menu: its row gets the heart and says why.
+        const QRect first = servers->visualRect(w.visible("lstServerList")->index(0, 0));
+        QTest::mouseClick(servers->viewport(), Qt::LeftButton, {}, first.center());
+        QTest::mouseClick(servers->viewport(), Qt::RightButton, {}, first.center());
+        w.find<QMenu>("mPopupAlt")->findChild<QAction*>(QStringLiteral("mPopAdd"))->trigger();
+        const QModelIndex added = w.visible("lstServerList")->index(0, 0);
+        QTRY_VERIFY(added.data(RowMarks::Role).toInt() & RowMarks::Favourite);
+        QVERIFY(added.data(Qt::ToolTipRole).toString().contains(QStringLiteral("One of your favourites")));
+        QVERIFY(!(w.visible("lstServerList")->index(1, 0).data(RowMarks::Role).toInt() & RowMarks::Favourite));
     }
 
     void anotherLanguageReachesTheSelectionAndTheCounters()

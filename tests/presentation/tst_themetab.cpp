@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "optionsdialog.h"
 #include "presentation/contrast.h"
+#include "presentation/rowtones.h"
 
 // The options dialog's themes: chosen, saved, removed, put back on Cancel.
 class TestThemeTab final : public OptionsDialogTest {
@@ -105,6 +106,33 @@ private slots:
         QCOMPARE(find<QComboBox>("cmbThemes")->count(), 1 + ThemeFile::shippedThemes().size());
         QCOMPARE(find<QComboBox>("cmbThemes")->currentText(), dark.name);
         QVERIFY(find<QPushButton>("cmdRemove")->isEnabled());
+    }
+
+    // Pings and full servers in their tones: readable on the lists of every
+    // shipped theme, the desktop's, and a mid grey a user might choose.
+    void theRowTonesReadOnEveryListBackground()
+    {
+        QList<QColor> backgrounds{Qt::white, Qt::black, listBase()};
+        for (const ThemeFile::Theme& theme : ThemeFile::shippedThemes())
+            backgrounds.append(m_themes->toColor(theme.listBack));
+        const QList<QColor> greys{QColor(128, 128, 128), QColor(118, 118, 118), QColor(110, 110, 110)};
+        for (const QColor& background : backgrounds + greys) {
+            QSet<QRgb> tones;
+            for (const auto tier : {RowTones::Tier::Good, RowTones::Tier::Fair, RowTones::Tier::Poor}) {
+                const QColor tone = RowTones::colour(tier, background);
+                QVERIFY2(Contrast::ratio(tone, background) >= RowTones::Readable, qPrintable(background.name()));
+                tones.insert(tone.rgb());
+            }
+            // Three tones a user tells apart, except on a mid grey, where
+            // only near black or white reads.
+            QVERIFY2(tones.size() == 3 || greys.contains(background), qPrintable(background.name()));
+        }
+        QCOMPARE(RowTones::ofPing(0), RowTones::Tier::Good);
+        QCOMPARE(RowTones::ofPing(79), RowTones::Tier::Good);
+        QCOMPARE(RowTones::ofPing(80), RowTones::Tier::Fair);
+        QCOMPARE(RowTones::ofPing(149), RowTones::Tier::Fair);
+        QCOMPARE(RowTones::ofPing(150), RowTones::Tier::Poor);
+        QCOMPARE(RowTones::ofPing(9999), RowTones::Tier::Poor);
     }
 
     void okSavesTheShownThemeUnderItsName()

@@ -96,9 +96,10 @@ public:
                 most = it.key();
         return QColor(most);
     }
-    static QColor textColour(QWidget* widget, const QColor& background)
+    static QColor textColour(QWidget* widget, const QColor& background,
+                             const QRect& area = QRect(QPoint(0, 0), QSize(-1, -1)))
     {
-        const QImage image = widget->grab().toImage().convertToFormat(QImage::Format_RGB32);
+        const QImage image = widget->grab(area).toImage().convertToFormat(QImage::Format_RGB32);
         const auto distance = [&background](QRgb pixel) {
             return std::abs(qRed(pixel) - background.red()) + std::abs(qGreen(pixel) - background.green()) +
                    std::abs(qBlue(pixel) - background.blue());
