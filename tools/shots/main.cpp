@@ -224,6 +224,13 @@ bool shootLanguage(SimFleet& fleet, int language, const QDir& out)
     settle();
     ok = save(options, out, QStringLiteral("options-theme-dark")) && ok;
     ok = save(&main, out, QStringLiteral("main-dark")) && ok;
+    main.resize(FrmMain::MinimumSize);
+    ok = save(&main, out, QStringLiteral("main-dark-smallest")) && ok;
+    main.showMaximized();
+    main.resize(main.screen()->availableGeometry().size());
+    ok = save(&main, out, QStringLiteral("main-dark-maximized")) && ok;
+    main.showNormal();
+    main.resize(FrmMain::DesignSize);
     tabs->setCurrentIndex(2);
     ok = save(options, out, QStringLiteral("options-servers")) && ok;
     tabs->setCurrentIndex(3);
