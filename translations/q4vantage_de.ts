@@ -432,6 +432,10 @@
         <source>Ticked: servers with a password are listed; unticked: they are hidden</source>
         <translation>Angehakt: Server mit Passwort werden angezeigt; nicht angehakt: sie werden ausgeblendet</translation>
     </message>
+    <message>
+        <source>The settings could not be saved; this change lasts until the program ends.</source>
+        <translation>Die Einstellungen konnten nicht gespeichert werden; diese Änderung gilt, bis das Programm endet.</translation>
+    </message>
 </context>
 <context>
     <name>FrmHistory</name>
@@ -1027,6 +1031,10 @@ Auf einen freien Platz warten und beitreten, sobald einer frei wird?</translatio
     <message>
         <source>Full servers are not listed (the filters&apos; &quot;Full&quot; box)</source>
         <translation>Volle Server werden nicht aufgeführt (das Feld „Voll“ der Filter)</translation>
+    </message>
+    <message>
+        <source>The settings could not be saved, so the list stays as it was.</source>
+        <translation>Die Einstellungen konnten nicht gespeichert werden, daher bleibt die Liste, wie sie war.</translation>
     </message>
 </context>
 <context>

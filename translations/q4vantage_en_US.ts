@@ -428,6 +428,10 @@
         <source>Ticked: servers with a password are listed; unticked: they are hidden</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>The settings could not be saved; this change lasts until the program ends.</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>FrmHistory</name>
@@ -1019,6 +1023,10 @@ Wait for a free slot and join as soon as one opens?</source>
     </message>
     <message>
         <source>Full servers are not listed (the filters&apos; &quot;Full&quot; box)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The settings could not be saved, so the list stays as it was.</source>
         <translation type="unfinished"></translation>
     </message>
 </context>

@@ -432,6 +432,10 @@
         <source>Ticked: servers with a password are listed; unticked: they are hidden</source>
         <translation>Coché : les serveurs avec mot de passe sont affichés ; décoché : ils sont masqués</translation>
     </message>
+    <message>
+        <source>The settings could not be saved; this change lasts until the program ends.</source>
+        <translation>Les réglages n'ont pas pu être enregistrés ; ce changement dure jusqu'à la fin du programme.</translation>
+    </message>
 </context>
 <context>
     <name>FrmHistory</name>
@@ -1027,6 +1031,10 @@ Attendre une place libre et rejoindre dès qu&apos;une place se libère ?</trans
     <message>
         <source>Full servers are not listed (the filters&apos; &quot;Full&quot; box)</source>
         <translation>Les serveurs pleins ne sont pas listés (la case « Pleins » des filtres)</translation>
+    </message>
+    <message>
+        <source>The settings could not be saved, so the list stays as it was.</source>
+        <translation>Les réglages n'ont pas pu être enregistrés : la liste reste telle qu'elle était.</translation>
     </message>
 </context>
 <context>

@@ -432,6 +432,10 @@ hanno risposto %2 server su %3</translation>
         <source>Ticked: servers with a password are listed; unticked: they are hidden</source>
         <translation>Spuntato: i server con password sono elencati; non spuntato: sono nascosti</translation>
     </message>
+    <message>
+        <source>The settings could not be saved; this change lasts until the program ends.</source>
+        <translation>Non è stato possibile salvare le impostazioni; questa modifica vale fino alla chiusura del programma.</translation>
+    </message>
 </context>
 <context>
     <name>FrmHistory</name>
@@ -1027,6 +1031,10 @@ Attendere un posto libero ed entrare appena se ne libera uno?</translation>
     <message>
         <source>Full servers are not listed (the filters&apos; &quot;Full&quot; box)</source>
         <translation>I server pieni non sono elencati (la casella «Pieni» dei filtri)</translation>
+    </message>
+    <message>
+        <source>The settings could not be saved, so the list stays as it was.</source>
+        <translation>Non è stato possibile salvare le impostazioni, quindi l'elenco resta com'era.</translation>
     </message>
 </context>
 <context>

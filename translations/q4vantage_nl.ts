@@ -432,6 +432,10 @@
         <source>Ticked: servers with a password are listed; unticked: they are hidden</source>
         <translation>Aangevinkt: servers met wachtwoord worden getoond; niet aangevinkt: ze worden verborgen</translation>
     </message>
+    <message>
+        <source>The settings could not be saved; this change lasts until the program ends.</source>
+        <translation>De instellingen konden niet worden opgeslagen; deze wijziging geldt tot het programma stopt.</translation>
+    </message>
 </context>
 <context>
     <name>FrmHistory</name>
@@ -490,7 +494,7 @@
     </message>
     <message>
         <source>Only servers on %1 are listed now; &quot;Filters&quot; takes the filter away.</source>
-        <translation>Alleen servers op %1 worden nu getoond; onder "Filters" haalt u het filter weg.</translation>
+        <translation>Alleen servers op %1 worden nu getoond; onder &quot;Filters&quot; haalt u het filter weg.</translation>
     </message>
 </context>
 <context>
@@ -1018,7 +1022,7 @@ Wachten op een vrije plek en deelnemen zodra er een vrijkomt?</translation>
     </message>
     <message>
         <source>Servers without players are not listed (the filters&apos; &quot;Empty&quot; box)</source>
-        <translation>Servers zonder spelers worden niet getoond (het vakje "Leeg" van de filters)</translation>
+        <translation>Servers zonder spelers worden niet getoond (het vakje &quot;Leeg&quot; van de filters)</translation>
     </message>
     <message>
         <source>Hide full</source>
@@ -1026,7 +1030,11 @@ Wachten op een vrije plek en deelnemen zodra er een vrijkomt?</translation>
     </message>
     <message>
         <source>Full servers are not listed (the filters&apos; &quot;Full&quot; box)</source>
-        <translation>Volle servers worden niet getoond (het vakje "Vol" van de filters)</translation>
+        <translation>Volle servers worden niet getoond (het vakje &quot;Vol&quot; van de filters)</translation>
+    </message>
+    <message>
+        <source>The settings could not be saved, so the list stays as it was.</source>
+        <translation>De instellingen konden niet worden opgeslagen, dus de lijst blijft zoals hij was.</translation>
     </message>
 </context>
 <context>

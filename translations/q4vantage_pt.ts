@@ -432,6 +432,10 @@ responderam %2 de %3 servidores</translation>
         <source>Ticked: servers with a password are listed; unticked: they are hidden</source>
         <translation>Marcado: os servidores com palavra-passe são listados; desmarcado: são ocultados</translation>
     </message>
+    <message>
+        <source>The settings could not be saved; this change lasts until the program ends.</source>
+        <translation>Não foi possível guardar as definições; esta alteração dura até o programa terminar.</translation>
+    </message>
 </context>
 <context>
     <name>FrmHistory</name>
@@ -1027,6 +1031,10 @@ Esperar por uma vaga e entrar assim que uma abrir?</translation>
     <message>
         <source>Full servers are not listed (the filters&apos; &quot;Full&quot; box)</source>
         <translation>Os servidores cheios não são listados (a caixa «Cheios» dos filtros)</translation>
+    </message>
+    <message>
+        <source>The settings could not be saved, so the list stays as it was.</source>
+        <translation>Não foi possível guardar as definições, por isso a lista fica como estava.</translation>
     </message>
 </context>
 <context>

@@ -72,8 +72,13 @@ FrmFilters::FrmFilters(SettingsStore& settings, QString dataFolder, QWidget* par
     // main window (or anywhere) shows here, and every change refilters.
     const auto builtInFlag = [this](QCheckBox* box, const Keys::FlagSetting& setting) {
         box->setChecked(this->settings().value(setting));
-        connect(box, &QCheckBox::clicked, this,
-                [this, setting](bool checked) { this->settings().set(setting, checked); });
+        connect(box, &QCheckBox::clicked, this, [this, setting](bool checked) {
+            if (this->settings().set(setting, checked))
+                return;
+            // Unsaved, the box still filters the lists for this session.
+            say(tr("The settings could not be saved; this change lasts until the program ends."));
+            emit filtersChanged();
+        });
         connect(&this->settings(), &SettingsStore::changed, this, [this, box, setting](const QString& key) {
             if (key != setting.key)
                 return;

@@ -173,6 +173,7 @@ void FrmMain::connectLists()
 {
     connect(cmdExit, &QPushButton::clicked, this, &QWidget::close);
     connect(m_tabs, &ListTabs::shownChanged, this, &FrmMain::showView);
+    connect(m_tabs, &ListTabs::status, this, &FrmMain::setStatus);
     connect(m_serverPane, &ListPane::rowClicked, this, [this](const QModelIndex& index) {
         showServer(index);
         if (m_selection->server() >= 0)

@@ -56,13 +56,25 @@ ListTabs::ListTabs(SettingsStore& settings, ServerLists& lists, QWidget* parent)
     showView(tabSelect->currentIndex());
 
     // Ticked hides: the settings say what is listed, as the filters' boxes do.
-    connect(chkHideEmpty, &QCheckBox::clicked, this, [this](bool hide) { m_settings.set(Keys::IncludeEmpty, !hide); });
-    connect(chkHideFull, &QCheckBox::clicked, this, [this](bool hide) { m_settings.set(Keys::IncludeFull, !hide); });
+    connect(chkHideEmpty, &QCheckBox::clicked, this,
+            [this](bool hidden) { hideServers(chkHideEmpty, Keys::IncludeEmpty, hidden); });
+    connect(chkHideFull, &QCheckBox::clicked, this,
+            [this](bool hidden) { hideServers(chkHideFull, Keys::IncludeFull, hidden); });
     connect(&m_settings, &SettingsStore::changed, this, [this](const QString& key) {
         if (key == Keys::IncludeEmpty.key || key == Keys::IncludeFull.key)
             showHiding();
     });
     showHiding();
+}
+
+void ListTabs::hideServers(QCheckBox* box, const Keys::FlagSetting& listed, bool hidden)
+{
+    if (m_settings.set(listed, !hidden))
+        return;
+    // The filters follow the saved settings: unsaved, nothing changes, so
+    // the box goes back to what is in force and says why.
+    box->setChecked(!hidden);
+    emit status(tr("The settings could not be saved, so the list stays as it was."), StatusTone::Failed);
 }
 
 void ListTabs::showHiding()

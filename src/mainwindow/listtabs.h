@@ -1,9 +1,14 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #pragma once
 
+#include "widgets/statustone.h"
+
 #include <QWidget>
 
 class ListPane;
+namespace Keys {
+struct FlagSetting;
+}
 class QCheckBox;
 class QSplitter;
 class QTabBar;
@@ -40,10 +45,12 @@ public:
 signals:
     // After the tab changed and its view is shown.
     void shownChanged(bool players);
+    void status(const QString& text, StatusTone tone);
 
 private:
     void showView(int tab);
     void showHiding();
+    void hideServers(QCheckBox* box, const Keys::FlagSetting& listed, bool hidden);
 
     SettingsStore& m_settings;
     QTabBar* tabSelect = nullptr;

@@ -16,6 +16,8 @@
 #include <QApplication>
 #include <QCheckBox>
 #include <QClipboard>
+#include <QDir>
+#include <QFile>
 #include <QGuiApplication>
 #include <QHeaderView>
 #include <QHelpEvent>
@@ -152,6 +154,20 @@ private slots:
                  QStringLiteral("Only servers on %1 are listed now; \"Filters\" takes the filter away.").arg(map));
         QCOMPARE(w.window->findChild<FrmFilters*>()->filters().last(),
                  (Filters::VariableFilter{QStringLiteral("si_map"), map}));
+
+        // A settings file that cannot be written (a folder in its place):
+        // the box shows what is in force and says why; the filters' own box
+        // still filters for the session.
+        const QString settingsFile = w.dataFile(QStringLiteral("settings.ini"));
+        QVERIFY(QFile::remove(settingsFile) && QDir().mkpath(settingsFile));
+        const int listed = w.visible("lstServerList")->rowCount();
+        QTest::mouseClick(w.find<QCheckBox>("chkHideFull"), Qt::LeftButton);
+        QVERIFY(!w.find<QCheckBox>("chkHideFull")->isChecked());
+        QCOMPARE(w.status(), QStringLiteral("The settings could not be saved, so the list stays as it was."));
+        QCOMPARE(w.visible("lstServerList")->rowCount(), listed);
+        QTest::mouseClick(filtersEmpty, Qt::LeftButton);
+        QVERIFY(!filtersEmpty->isChecked());
+        QCOMPARE(count(empty), 0);
     }
 
     // What players look for at a glance: pings in their tone, full servers
