@@ -32,7 +32,6 @@
 #include "widgets/reportview.h"
 
 #include <QCloseEvent>
-#include <QFileSystemWatcher>
 #include <QLabel>
 #include <QPushButton>
 #include <QVBoxLayout>
@@ -207,11 +206,8 @@ void FrmMain::connectLists()
     connect(m_find, &FindBar::status, this, &FrmMain::setStatus);
 
     connect(m_dialogs, &DialogBar::filtersChanged, this, &FrmMain::rebuildLists);
-    if (!m_dataFolder.isEmpty()) {
-        auto* folder = new QFileSystemWatcher({m_dataFolder}, this);
-        connect(folder, &QFileSystemWatcher::directoryChanged, this, &FrmMain::readFavourites);
-        readFavourites();
-    }
+    if (!m_dataFolder.isEmpty())
+        m_lists->followFavourites(Favourites::filePath(m_dataFolder));
     connect(m_queryBar, &QueryBar::sourcesWanted, this, [this] {
         if (FrmOptions* options = m_dialogs->openOptions())
             options->showTab(FrmOptions::SourcesTab);
@@ -314,15 +310,6 @@ void FrmMain::changeEvent(QEvent* event)
 void FrmMain::setStatus(const QString& text, StatusTone tone)
 {
     m_queryBar->setStatus(text, tone);
-}
-
-void FrmMain::readFavourites()
-{
-    QSet<QString> endpoints;
-    for (const Favourites::Favourite& favourite :
-         Favourites::readFile(Favourites::filePath(m_dataFolder)).value_or(QList<Favourites::Favourite>{}))
-        endpoints.insert(endpointText(favourite.address, favourite.port));
-    m_lists->setFavourites(endpoints);
 }
 
 void FrmMain::updateCounters()

@@ -89,9 +89,6 @@ private:
     void applyUpdates(const QList<ServerRecord>& batch);
     // After a query and after every change of the filters.
     void rebuildLists();
-    // The favourites file, read again whenever the data folder changes
-    // (the menu, the editor, another window of the program wrote it).
-    void readFavourites();
     void showServer(const QModelIndex& index);
     void showPlayer(const QModelIndex& index);
     void showMenu(ListPane& pane, const QModelIndex& index, const QPoint& at);

@@ -9,23 +9,18 @@
 #include <QPainterPath>
 #include <QtMath>
 
-QIcon RowMarkDelegate::star(const QColor& colour)
+namespace {
+
+constexpr int IconSize = 32;
+
+// A mark filled in one colour, drawn once per colour and kept.
+QIcon filledIcon(QHash<QRgb, QIcon>& drawn, const QColor& colour, const QPainterPath& path)
 {
-    static QHash<QRgb, QIcon> drawn;
     const auto found = drawn.constFind(colour.rgba());
     if (found != drawn.cend())
         return *found;
-    constexpr int Size = 32;
-    QPixmap pixmap(Size, Size);
+    QPixmap pixmap(IconSize, IconSize);
     pixmap.fill(Qt::transparent);
-    QPainterPath path;
-    for (int point = 0; point < 10; ++point) {
-        const double radius = point % 2 == 0 ? Size * 0.48 : Size * 0.2;
-        const double angle = -M_PI / 2 + point * M_PI / 5;
-        const QPointF at(Size / 2.0 + radius * std::cos(angle), Size / 2.0 + radius * std::sin(angle));
-        point == 0 ? path.moveTo(at) : path.lineTo(at);
-    }
-    path.closeSubpath();
     QPainter painter(&pixmap);
     painter.setRenderHint(QPainter::Antialiasing);
     painter.fillPath(path, colour);
@@ -33,26 +28,39 @@ QIcon RowMarkDelegate::star(const QColor& colour)
     return *drawn.insert(colour.rgba(), QIcon(pixmap));
 }
 
+} // namespace
+
+QIcon RowMarkDelegate::star(const QColor& colour)
+{
+    static QHash<QRgb, QIcon> drawn;
+    static const QPainterPath path = [] {
+        QPainterPath star;
+        for (int point = 0; point < 10; ++point) {
+            const double radius = point % 2 == 0 ? IconSize * 0.48 : IconSize * 0.2;
+            const double angle = -M_PI / 2 + point * M_PI / 5;
+            const QPointF at(IconSize / 2.0 + radius * std::cos(angle), IconSize / 2.0 + radius * std::sin(angle));
+            point == 0 ? star.moveTo(at) : star.lineTo(at);
+        }
+        star.closeSubpath();
+        return star;
+    }();
+    return filledIcon(drawn, colour, path);
+}
+
 QIcon RowMarkDelegate::heart(const QColor& colour)
 {
     static QHash<QRgb, QIcon> drawn;
-    const auto found = drawn.constFind(colour.rgba());
-    if (found != drawn.cend())
-        return *found;
-    constexpr int Size = 32;
-    QPixmap pixmap(Size, Size);
-    pixmap.fill(Qt::transparent);
-    QPainterPath path;
-    path.moveTo(Size * 0.5, Size * 0.9);
-    path.cubicTo(Size * 0.1, Size * 0.6, Size * 0.0, Size * 0.35, Size * 0.12, Size * 0.2);
-    path.cubicTo(Size * 0.25, Size * 0.05, Size * 0.45, Size * 0.1, Size * 0.5, Size * 0.28);
-    path.cubicTo(Size * 0.55, Size * 0.1, Size * 0.75, Size * 0.05, Size * 0.88, Size * 0.2);
-    path.cubicTo(Size * 1.0, Size * 0.35, Size * 0.9, Size * 0.6, Size * 0.5, Size * 0.9);
-    QPainter painter(&pixmap);
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.fillPath(path, colour);
-    painter.end();
-    return *drawn.insert(colour.rgba(), QIcon(pixmap));
+    static const QPainterPath path = [] {
+        constexpr double Size = IconSize;
+        QPainterPath heart;
+        heart.moveTo(Size * 0.5, Size * 0.9);
+        heart.cubicTo(Size * 0.1, Size * 0.6, Size * 0.0, Size * 0.35, Size * 0.12, Size * 0.2);
+        heart.cubicTo(Size * 0.25, Size * 0.05, Size * 0.45, Size * 0.1, Size * 0.5, Size * 0.28);
+        heart.cubicTo(Size * 0.55, Size * 0.1, Size * 0.75, Size * 0.05, Size * 0.88, Size * 0.2);
+        heart.cubicTo(Size * 1.0, Size * 0.35, Size * 0.9, Size * 0.6, Size * 0.5, Size * 0.9);
+        return heart;
+    }();
+    return filledIcon(drawn, colour, path);
 }
 
 QColor RowMarkDelegate::favouriteColour()

@@ -1,6 +1,10 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "mainwindow/serverlists.h"
 
+#include "userdata/favourites.h"
+
+#include <QFileInfo>
+
 ServerLists::ServerLists(QObject* parent)
     : QObject(parent)
     , m_visibleServers([this](int row) { return m_visibility.isVisible(row); },
@@ -81,6 +85,21 @@ void ServerLists::setFavourites(const QSet<QString>& endpoints)
         return;
     m_favourites = endpoints;
     m_servers.marksChanged();
+}
+
+void ServerLists::followFavourites(const QString& path)
+{
+    const auto read = [this, path] {
+        QSet<QString> endpoints;
+        for (const Favourites::Favourite& favourite :
+             Favourites::readFile(path).value_or(QList<Favourites::Favourite>{}))
+            endpoints.insert(endpointText(favourite.address, favourite.port));
+        setFavourites(endpoints);
+    };
+    delete m_favouritesFolder;
+    m_favouritesFolder = new QFileSystemWatcher({QFileInfo(path).absolutePath()}, this);
+    connect(m_favouritesFolder, &QFileSystemWatcher::directoryChanged, this, read);
+    read();
 }
 
 QList<Alerts::Sighting> ServerLists::sightings() const

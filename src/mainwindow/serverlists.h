@@ -11,6 +11,7 @@
 #include "userdata/filters.h"
 #include "userdata/friends.h"
 
+#include <QFileSystemWatcher>
 #include <QObject>
 #include <QSet>
 
@@ -61,6 +62,9 @@ public:
     const Friends::Matcher& friends() const { return m_friends; }
     // The favourites' "address:port": their rows carry a heart.
     void setFavourites(const QSet<QString>& endpoints);
+    // Reads the favourites file now and again whenever its folder changes
+    // (the menu, the editor, another window of the program wrote it).
+    void followFavourites(const QString& path);
     // Every friend listed on a server now.
     QList<Alerts::Sighting> sightings() const;
     // The players on these servers ("address:port") now.
@@ -72,6 +76,7 @@ private:
     std::function<qint64()> m_nowMs;
     Friends::Matcher m_friends;
     QSet<QString> m_favourites;
+    QFileSystemWatcher* m_favouritesFolder = nullptr;
     ServerListModel m_servers;
     PlayerListModel m_players{m_servers};
     ServerVisibility m_visibility{m_servers.store()};
